@@ -1,0 +1,211 @@
+#include "DatabaseBuilder.h"
+
+#include "DatabaseWriter.h"
+#include "KanjiDic.h"
+#include "SvgPath.h"
+
+#include <pugixml.hpp>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <set>
+
+namespace {
+
+constexpr std::uint16_t KanjiVgBox = 109;
+
+struct CategoryDefinition {
+    const char* name;
+    std::vector<int> grades;
+};
+
+const CategoryDefinition StandardCategories[] = {
+    {"Grade 1", {1}}, {"Grade 2", {2}}, {"Grade 3", {3}}, {"Grade 4", {4}},
+    {"Grade 5", {5}}, {"Grade 6", {6}}, {"Secondary school", {8}}, {"Jinmeiy\xC5\x8D", {9, 10}},
+};
+
+std::string HexName(char32_t codePoint)
+{
+    char name[16];
+    std::snprintf(name, sizeof name, "%05x.svg", static_cast<unsigned>(codePoint));
+    return name;
+}
+
+void CollectPaths(pugi::xml_node node, std::vector<pugi::xml_node>& paths)
+{
+    for (pugi::xml_node child : node.children()) {
+        if (child.type() != pugi::node_element)
+            continue;
+        const char* name = child.name();
+        const char* colon = std::strchr(name, ':');
+        if (std::strcmp(colon ? colon + 1 : name, "path") == 0)
+            paths.push_back(child);
+        CollectPaths(child, paths);
+    }
+}
+
+bool IsKanji(char32_t c)
+{
+    return (c >= 0x4E00 && c <= 0x9FFF) || (c >= 0x3400 && c <= 0x4DBF) || (c >= 0xF900 && c <= 0xFAFF)
+        || (c >= 0x20000 && c <= 0x3134F);
+}
+
+/// Teaching order: ranked by frequency first, then unranked; ties by strokes, then code point.
+bool TeachesBefore(const KanjiDicEntry& a, const KanjiDicEntry& b)
+{
+    const int ra = a.frequency > 0 ? a.frequency : 1 << 30;
+    const int rb = b.frequency > 0 ? b.frequency : 1 << 30;
+    if (ra != rb)
+        return ra < rb;
+    if (a.strokeCount != b.strokeCount)
+        return a.strokeCount < b.strokeCount;
+    return a.codePoint < b.codePoint;
+}
+
+} // namespace
+
+std::string Utf8(char32_t c)
+{
+    std::string out;
+    if (c < 0x80) {
+        out += static_cast<char>(c);
+    } else if (c < 0x800) {
+        out += static_cast<char>(0xC0 | (c >> 6));
+        out += static_cast<char>(0x80 | (c & 0x3F));
+    } else if (c < 0x10000) {
+        out += static_cast<char>(0xE0 | (c >> 12));
+        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+        out += static_cast<char>(0x80 | (c & 0x3F));
+    } else {
+        out += static_cast<char>(0xF0 | (c >> 18));
+        out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
+        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+        out += static_cast<char>(0x80 | (c & 0x3F));
+    }
+    return out;
+}
+
+std::string JoinLimited(const std::vector<std::string>& items, const std::string& separator, std::size_t limit)
+{
+    std::string out;
+    for (const std::string& item : items) {
+        const std::size_t added = (out.empty() ? 0 : separator.size()) + item.size();
+        if (out.size() + added > limit)
+            break;
+        if (!out.empty())
+            out += separator;
+        out += item;
+    }
+    return out;
+}
+
+std::optional<Form> LoadKanjiVgGlyph(const std::string& directory, char32_t codePoint)
+{
+    const std::filesystem::path file = std::filesystem::path(directory) / HexName(codePoint);
+    std::error_code ec;
+    if (!std::filesystem::exists(file, ec))
+        return std::nullopt;
+    pugi::xml_document document;
+    const pugi::xml_parse_result parsed = document.load_file(file.c_str());
+    if (!parsed)
+        throw BuildError(file.string() + ": cannot read SVG (" + parsed.description() + ")");
+    std::vector<pugi::xml_node> paths;
+    CollectPaths(document, paths);
+    Form form(KanjiVgBox, KanjiVgBox);
+    for (const pugi::xml_node& path : paths) {
+        const char* data = path.attribute("d").value();
+        try {
+            form.AppendStroke(ParseSvgPath(data));
+        } catch (const SvgPathError& error) {
+            throw BuildError(file.string() + ": character " + Utf8(codePoint) + ": bad path data \"" + data
+                             + "\": " + error.what());
+        }
+    }
+    if (form.Strokes().size() > 255)
+        throw BuildError(file.string() + ": more than 255 strokes");
+    return form;
+}
+
+std::vector<std::uint8_t> BuildDatabase(const BuildOptions& options, BuildReport& report)
+{
+    std::error_code ec;
+    if (!std::filesystem::is_directory(options.kanjivgDir, ec))
+        throw BuildError(options.kanjivgDir + ": not a folder of KanjiVG SVG files");
+    std::map<char32_t, KanjiDicEntry> dictionary;
+    try {
+        dictionary = ReadKanjiDic(options.kanjidicPath, options.language);
+    } catch (const KanjiDicError& error) {
+        throw BuildError(error.what());
+    }
+
+    struct PlannedCategory {
+        std::string name;
+        std::vector<const KanjiDicEntry*> members;
+    };
+    std::vector<PlannedCategory> plan;
+    std::set<char32_t> planned;
+    for (const CategoryDefinition& definition : StandardCategories) {
+        PlannedCategory category{definition.name, {}};
+        for (const auto& [cp, entry] : dictionary) {
+            if (std::find(definition.grades.begin(), definition.grades.end(), entry.grade) != definition.grades.end()) {
+                category.members.push_back(&entry);
+                planned.insert(cp);
+            }
+        }
+        plan.push_back(std::move(category));
+    }
+    std::vector<KanjiDicEntry> otherEntries;
+    if (options.allKanji) {
+        std::vector<char32_t> others;
+        for (const auto& item : std::filesystem::directory_iterator(options.kanjivgDir)) {
+            const std::string name = item.path().filename().string();
+            if (item.path().extension() != ".svg" || name.find('-') != std::string::npos)
+                continue;
+            const char32_t cp = static_cast<char32_t>(std::strtoul(name.c_str(), nullptr, 16));
+            if (IsKanji(cp) && !planned.count(cp))
+                others.push_back(cp);
+        }
+        otherEntries.reserve(others.size());
+        for (char32_t cp : others) {
+            auto found = dictionary.find(cp);
+            KanjiDicEntry entry = found != dictionary.end() ? found->second : KanjiDicEntry{};
+            entry.codePoint = cp;
+            otherEntries.push_back(std::move(entry));
+        }
+        PlannedCategory other{"Other", {}};
+        for (const KanjiDicEntry& entry : otherEntries)
+            other.members.push_back(&entry);
+        plan.push_back(std::move(other));
+    }
+
+    DatabaseWriter writer;
+    for (PlannedCategory& category : plan) {
+        std::sort(category.members.begin(), category.members.end(),
+                  [](const KanjiDicEntry* a, const KanjiDicEntry* b) { return TeachesBefore(*a, *b); });
+        BuildReport::CategoryCount count{category.name, 0, 0};
+        std::vector<std::uint16_t> ids;
+        for (const KanjiDicEntry* entry : category.members) {
+            std::optional<Form> glyph = LoadKanjiVgGlyph(options.kanjivgDir, entry->codePoint);
+            if (!glyph || glyph->StrokeCount() == 0) {
+                report.leftOut.push_back(entry->codePoint);
+                ++count.withoutStrokes;
+                continue;
+            }
+            const std::uint16_t element = writer.AddStrokeElement(*glyph);
+            ids.push_back(writer.AddCharacter(element, JoinLimited(entry->onReadings, "\xE3\x80\x81"),
+                                              JoinLimited(entry->kunReadings, "\xE3\x80\x81"),
+                                              JoinLimited(entry->meanings, ", ")));
+        }
+        count.characters = ids.size();
+        report.characters += ids.size();
+        writer.AddCategory(category.name, ids);
+        report.categories.push_back(count);
+    }
+    try {
+        return writer.Serialize();
+    } catch (const std::length_error& error) {
+        throw BuildError(std::string("the data does not fit the database format: ") + error.what());
+    }
+}

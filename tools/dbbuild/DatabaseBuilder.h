@@ -1,0 +1,50 @@
+#pragma once
+
+#include "Form.h"
+
+#include <cstdint>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+/// A build input is missing or broken; the message names the file (and the character and
+/// path data for a bad SVG).
+class BuildError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// What `zavoren-db build` is asked to do.
+struct BuildOptions {
+    std::string kanjivgDir;   ///< folder of KanjiVG SVGs named like 06c34.svg
+    std::string kanjidicPath; ///< KANJIDIC2 XML, gzipped or plain
+    std::string language = "en";
+    bool allKanji = false; ///< add the category "Other" with every remaining KanjiVG kanji
+};
+
+/// What a build did, for the tool's report.
+struct BuildReport {
+    struct CategoryCount {
+        std::string name;
+        std::size_t characters = 0;
+        std::size_t withoutStrokes = 0;
+    };
+    std::vector<CategoryCount> categories;
+    std::vector<char32_t> leftOut; ///< characters without KanjiVG strokes
+    std::size_t characters = 0;
+};
+
+/// Reads one KanjiVG SVG into a kind-1 form of box 109 x 109, strokes in document order; null
+/// when the file does not exist. Throws BuildError for an unreadable file or bad path data.
+std::optional<Form> LoadKanjiVgGlyph(const std::string& directory, char32_t codePoint);
+
+/// Builds the whole database file. Same inputs give the same bytes.
+std::vector<std::uint8_t> BuildDatabase(const BuildOptions& options, BuildReport& report);
+
+/// Joins items with a separator, keeping whole items only, so that the result is at most
+/// `limit` bytes.
+std::string JoinLimited(const std::vector<std::string>& items, const std::string& separator, std::size_t limit = 255);
+
+/// Encodes a code point as UTF-8.
+std::string Utf8(char32_t codePoint);

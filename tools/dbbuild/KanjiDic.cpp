@@ -1,0 +1,111 @@
+#include "KanjiDic.h"
+
+#include <pugixml.hpp>
+#include <zlib.h>
+
+#include <cstdlib>
+
+namespace {
+
+std::string ReadMaybeGzipped(const std::string& path)
+{
+    // gzread passes plain files through unchanged, so both forms read the same way.
+    gzFile file = gzopen(path.c_str(), "rb");
+    if (!file)
+        throw KanjiDicError(path + ": cannot open the dictionary");
+    std::string data;
+    char buffer[1 << 16];
+    int n = 0;
+    while ((n = gzread(file, buffer, sizeof buffer)) > 0)
+        data.append(buffer, static_cast<std::size_t>(n));
+    int error = Z_OK;
+    const char* message = gzerror(file, &error);
+    const bool failed = n < 0 || (error != Z_OK && error != Z_STREAM_END);
+    const std::string reason = failed ? message : "";
+    gzclose(file);
+    if (failed)
+        throw KanjiDicError(path + ": cannot read the dictionary (" + reason + ")");
+    return data;
+}
+
+int ToInt(const char* text)
+{
+    return static_cast<int>(std::strtol(text, nullptr, 10));
+}
+
+} // namespace
+
+char32_t FirstCodePoint(const std::string& utf8)
+{
+    if (utf8.empty())
+        return 0;
+    const auto* s = reinterpret_cast<const unsigned char*>(utf8.data());
+    const std::size_t n = utf8.size();
+    if (s[0] < 0x80)
+        return s[0];
+    int length = 0;
+    char32_t cp = 0;
+    if ((s[0] & 0xE0) == 0xC0) {
+        length = 2;
+        cp = s[0] & 0x1F;
+    } else if ((s[0] & 0xF0) == 0xE0) {
+        length = 3;
+        cp = s[0] & 0x0F;
+    } else if ((s[0] & 0xF8) == 0xF0) {
+        length = 4;
+        cp = s[0] & 0x07;
+    } else {
+        return 0;
+    }
+    if (n < static_cast<std::size_t>(length))
+        return 0;
+    for (int i = 1; i < length; ++i) {
+        if ((s[i] & 0xC0) != 0x80)
+            return 0;
+        cp = (cp << 6) | (s[i] & 0x3F);
+    }
+    return cp;
+}
+
+std::map<char32_t, KanjiDicEntry> ReadKanjiDic(const std::string& path, const std::string& language)
+{
+    const std::string data = ReadMaybeGzipped(path);
+    pugi::xml_document document;
+    const pugi::xml_parse_result parsed = document.load_buffer(data.data(), data.size());
+    if (!parsed)
+        throw KanjiDicError(path + ": not a readable KANJIDIC2 file (" + parsed.description() + " at offset "
+                            + std::to_string(parsed.offset) + ")");
+    const pugi::xml_node root = document.child("kanjidic2");
+    if (!root)
+        throw KanjiDicError(path + ": no kanjidic2 element");
+
+    std::map<char32_t, KanjiDicEntry> entries;
+    for (pugi::xml_node node : root.children("character")) {
+        KanjiDicEntry entry;
+        entry.codePoint = FirstCodePoint(node.child_value("literal"));
+        if (entry.codePoint == 0)
+            continue;
+        const pugi::xml_node misc = node.child("misc");
+        entry.grade = ToInt(misc.child_value("grade"));
+        entry.strokeCount = ToInt(misc.child_value("stroke_count"));
+        entry.frequency = ToInt(misc.child_value("freq"));
+        for (pugi::xml_node group : node.child("reading_meaning").children("rmgroup")) {
+            for (pugi::xml_node reading : group.children("reading")) {
+                const std::string type = reading.attribute("r_type").value();
+                if (type == "ja_on")
+                    entry.onReadings.emplace_back(reading.child_value());
+                else if (type == "ja_kun")
+                    entry.kunReadings.emplace_back(reading.child_value());
+            }
+            for (pugi::xml_node meaning : group.children("meaning")) {
+                const pugi::xml_attribute lang = meaning.attribute("m_lang");
+                const bool wanted = language == "en" ? !lang || std::string(lang.value()) == "en"
+                                                     : lang && language == lang.value();
+                if (wanted)
+                    entry.meanings.emplace_back(meaning.child_value());
+            }
+        }
+        entries[entry.codePoint] = std::move(entry);
+    }
+    return entries;
+}

@@ -1,0 +1,204 @@
+// zavoren-db: makes and inspects Zavoren! character databases.
+
+#include "DatabaseBuilder.h"
+#include "DatabaseInspector.h"
+#include "DatabaseLoadException.h"
+#include "FileCharacterDatabase.h"
+
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace {
+
+const char* const Usage =
+    "usage:\n"
+    "  zavoren-db build --kanjivg DIR --kanjidic FILE --out PATH [--lang en|fr|es|pt] [--set standard|all]\n"
+    "  zavoren-db dump [--json] PATH\n"
+    "  zavoren-db info PATH\n"
+    "  zavoren-db score --db PATH --char ID --canvas X,Y,W,H --stroke K --ink FILE\n";
+
+int Fail(const std::string& message)
+{
+    std::cerr << "zavoren-db: " << message << '\n';
+    return 1;
+}
+
+/// Splits "--name value" pairs; a flag without a value maps to "".
+bool ParseOptions(const std::vector<std::string>& args, const std::vector<std::string>& withValue,
+                  std::map<std::string, std::string>& options, std::vector<std::string>& positional, std::string& error)
+{
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        const std::string& arg = args[i];
+        if (arg.rfind("--", 0) != 0) {
+            positional.push_back(arg);
+            continue;
+        }
+        if (std::find(withValue.begin(), withValue.end(), arg) != withValue.end()) {
+            if (i + 1 >= args.size()) {
+                error = arg + " needs a value";
+                return false;
+            }
+            options[arg] = args[++i];
+        } else {
+            options[arg] = "";
+        }
+    }
+    return true;
+}
+
+int Build(const std::vector<std::string>& args)
+{
+    std::map<std::string, std::string> o;
+    std::vector<std::string> positional;
+    std::string error;
+    if (!ParseOptions(args, {"--kanjivg", "--kanjidic", "--out", "--lang", "--set"}, o, positional, error))
+        return Fail(error);
+    for (const auto& [name, value] : o)
+        if (name != "--kanjivg" && name != "--kanjidic" && name != "--out" && name != "--lang" && name != "--set")
+            return Fail("build: unknown option " + name);
+    if (!positional.empty())
+        return Fail("build: unexpected argument " + positional.front());
+    if (!o.count("--kanjivg") || !o.count("--kanjidic") || !o.count("--out"))
+        return Fail(std::string("build needs --kanjivg, --kanjidic and --out\n") + Usage);
+    BuildOptions options;
+    options.kanjivgDir = o["--kanjivg"];
+    options.kanjidicPath = o["--kanjidic"];
+    if (o.count("--lang")) {
+        options.language = o["--lang"];
+        if (options.language != "en" && options.language != "fr" && options.language != "es" && options.language != "pt")
+            return Fail("--lang must be en, fr, es or pt");
+    }
+    if (o.count("--set")) {
+        if (o["--set"] != "standard" && o["--set"] != "all")
+            return Fail("--set must be standard or all");
+        options.allKanji = o["--set"] == "all";
+    }
+    BuildReport report;
+    std::vector<std::uint8_t> bytes;
+    try {
+        bytes = BuildDatabase(options, report);
+    } catch (const BuildError& e) {
+        return Fail(e.what());
+    }
+    const std::string out = o["--out"];
+    const std::string temporary = out + ".tmp";
+    {
+        std::ofstream file(temporary, std::ios::binary | std::ios::trunc);
+        if (!file)
+            return Fail(out + ": cannot write");
+        file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+        file.close();
+        if (!file) {
+            std::filesystem::remove(temporary);
+            return Fail(out + ": cannot write (disk full?)");
+        }
+    }
+    std::error_code ec;
+    std::filesystem::rename(temporary, out, ec);
+    if (ec) {
+        std::filesystem::remove(temporary);
+        return Fail(out + ": cannot write (" + ec.message() + ")");
+    }
+    for (const auto& category : report.categories) {
+        std::cout << category.name << ": " << category.characters << " characters";
+        if (category.withoutStrokes)
+            std::cout << " (" << category.withoutStrokes << " left out: no KanjiVG strokes)";
+        std::cout << '\n';
+    }
+    std::cout << "characters: " << report.characters << ", left out: " << report.leftOut.size();
+    if (!report.leftOut.empty()) {
+        std::cout << " (";
+        for (std::size_t i = 0; i < report.leftOut.size(); ++i)
+            std::cout << (i ? " " : "") << Utf8(report.leftOut[i]);
+        std::cout << ")";
+    }
+    std::cout << "\nwrote " << out << " (" << bytes.size() << " bytes)\n";
+    return 0;
+}
+
+int Dump(const std::vector<std::string>& args)
+{
+    std::map<std::string, std::string> o;
+    std::vector<std::string> positional;
+    std::string error;
+    ParseOptions(args, {}, o, positional, error);
+    for (const auto& [name, value] : o)
+        if (name != "--json")
+            return Fail("dump: unknown option " + name);
+    if (positional.size() != 1)
+        return Fail(std::string("dump needs one database path\n") + Usage);
+    try {
+        FileCharacterDatabase database(positional[0]);
+        DumpDatabase(database, std::cout, o.count("--json") > 0);
+    } catch (const ZavorenCommon::DatabaseLoadException& e) {
+        return Fail(positional[0] + ": " + e.what());
+    } catch (const std::out_of_range&) {
+        return Fail(positional[0] + ": a composed form names a form that does not exist");
+    }
+    return 0;
+}
+
+int Info(const std::vector<std::string>& args)
+{
+    if (args.size() != 1 || args[0].rfind("--", 0) == 0)
+        return Fail(std::string("info needs one database path\n") + Usage);
+    const std::string& path = args[0];
+    try {
+        FileCharacterDatabase database(path);
+        std::error_code ec;
+        const auto size = std::filesystem::file_size(path, ec);
+        std::cout << "file: " << path << "\nsize: " << (ec ? 0 : size) << " bytes\n"
+                  << "characters: " << database.CharacterCount() << "\nelements: " << database.ElementCount()
+                  << "\ncategories: " << database.CategoryCount() << '\n';
+        database.Preload(nullptr);
+        for (unsigned id = 0; id < database.CategoryCount(); ++id) {
+            const auto category = database.LoadCategory(static_cast<std::uint16_t>(id));
+            std::cout << "  " << id << " " << (category->Name() ? category->Name() : "") << ": "
+                      << category->CharacterCount() << '\n';
+        }
+        const std::vector<std::string> problems = ValidateDatabase(database);
+        for (const std::string& p : problems)
+            std::cout << "problem: " << p << '\n';
+        if (!problems.empty()) {
+            std::cerr << "zavoren-db: " << path << ": " << problems.size() << " problem(s) found\n";
+            return 1;
+        }
+        std::cout << "valid\n";
+    } catch (const ZavorenCommon::DatabaseLoadException& e) {
+        return Fail(path + ": " + e.what());
+    } catch (const std::out_of_range&) {
+        return Fail(path + ": a composed form names a form that does not exist");
+    }
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc < 2) {
+        std::cerr << Usage;
+        return 2;
+    }
+    const std::string command = argv[1];
+    const std::vector<std::string> args(argv + 2, argv + argc);
+    if (command == "build")
+        return Build(args);
+    if (command == "dump")
+        return Dump(args);
+    if (command == "info")
+        return Info(args);
+    if (command == "--help" || command == "-h" || command == "help") {
+        std::cout << Usage;
+        return 0;
+    }
+    std::cerr << "zavoren-db: unknown command " << command << '\n' << Usage;
+    return 2;
+}
