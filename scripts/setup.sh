@@ -1,0 +1,86 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds Zavoren!, makes the database, then runs, tests or just stops.
+#   scripts/setup.sh [build|run|test|sanitize]
+# Safe to run again: a second run touches no network and only rebuilds what changed.
+set -euo pipefail
+
+mode=${1:-build}
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+build_dir=${ZAVOREN_BUILD_DIR:-$root/build}
+
+packages=(
+    build-essential cmake ninja-build pkg-config
+    qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins libgl-dev
+    libpugixml-dev zlib1g-dev
+    googletest libgtest-dev libgmock-dev libbenchmark-dev
+    fonts-ipafont-gothic kanjidic-xml
+    nodejs npm
+    clang libclang-rt-14-dev
+    xvfb xauth
+)
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+missing=()
+for p in "${packages[@]}"; do
+    if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed'; then
+        missing+=("$p")
+    fi
+done
+if [ ${#missing[@]} -gt 0 ]; then
+    echo "Installing: ${missing[*]}"
+    as_root apt-get update -q
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
+fi
+
+# The KanjiVG stroke data, at the exact version pinned in package-lock.json.
+wanted=$(sed -n 's/.*"@madcat\/kanjivg": "\(.*\)".*/\1/p' "$root/package.json" | head -n 1)
+have=$(sed -n 's/.*"version": "\(.*\)".*/\1/p' "$root/node_modules/@madcat/kanjivg/package.json" 2>/dev/null | head -n 1 || true)
+if [ "$have" != "$wanted" ]; then
+    (cd "$root" && npm ci --no-audit --no-fund --loglevel=error)
+fi
+
+configure() {
+    local dir=$1; shift
+    if [ ! -f "$dir/CMakeCache.txt" ]; then
+        cmake -S "$root" -B "$dir" -G Ninja "$@"
+    fi
+}
+
+case "$mode" in
+    sanitize)
+        build_dir=${ZAVOREN_BUILD_DIR:-$root/build-sanitize}
+        configure "$build_dir" -DCMAKE_BUILD_TYPE=Debug -DZAVOREN_SANITIZE=ON -DZAVOREN_BUILD_BENCHMARKS=OFF
+        ;;
+    *)
+        configure "$build_dir" -DCMAKE_BUILD_TYPE=RelWithDebInfo
+        ;;
+esac
+cmake --build "$build_dir" --parallel "$(nproc)"
+
+data_dir=$build_dir/data
+if [ ! -f "$data_dir/config.xml" ]; then
+    # The program never creates its learner file; a fresh installation starts with no learners.
+    printf '<?xml version="1.0"?>\n<Zavoren>\n  <Users/>\n</Zavoren>\n' > "$data_dir/config.xml"
+fi
+
+case "$mode" in
+    build) ;;
+    run)
+        cd "$data_dir"
+        exec "$build_dir/shell/zavoren"
+        ;;
+    test|sanitize)
+        cd "$build_dir"
+        export QT_QPA_PLATFORM=offscreen
+        export ASAN_OPTIONS=${ASAN_OPTIONS:-detect_leaks=1}
+        export UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1:halt_on_error=1}
+        ctest --output-on-failure --parallel "$(nproc)" --timeout 600
+        ;;
+    *)
+        echo "usage: scripts/setup.sh [build|run|test|sanitize]" >&2
+        exit 2
+        ;;
+esac

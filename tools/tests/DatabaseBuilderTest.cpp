@@ -1,0 +1,146 @@
+#include "DatabaseBuilder.h"
+#include "DatabaseInspector.h"
+#include "FileCharacterDatabase.h"
+#include "KanjiDic.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace {
+
+const std::string Data = ZAVOREN_TOOLS_TEST_DATA;
+
+std::string TempPath(const std::string& name)
+{
+    return (std::filesystem::temp_directory_path() / ("zavoren-builder-" + std::to_string(getpid()) + "-" + name))
+        .string();
+}
+
+std::unique_ptr<FileCharacterDatabase> BuildSample(BuildOptions options, BuildReport& report, const std::string& name)
+{
+    const auto bytes = BuildDatabase(options, report);
+    const std::string path = TempPath(name);
+    std::ofstream(path, std::ios::binary).write(reinterpret_cast<const char*>(bytes.data()),
+                                                 static_cast<std::streamsize>(bytes.size()));
+    return std::make_unique<FileCharacterDatabase>(path);
+}
+
+BuildOptions SampleOptions()
+{
+    BuildOptions o;
+    o.kanjivgDir = Data + "/kanjivg";
+    o.kanjidicPath = Data + "/kanjidic2-sample.xml.gz";
+    return o;
+}
+
+} // namespace
+
+TEST(JoinLimited, KeepsWholeItemsWithin255Bytes)
+{
+    EXPECT_EQ(JoinLimited({"a", "b"}, ", "), "a, b");
+    EXPECT_EQ(JoinLimited({}, ", "), "");
+    // 100 readings of three bytes each joined by a three-byte comma: cut after a whole reading.
+    const std::vector<std::string> readings(100, "\xE3\x81\x82");
+    const std::string joined = JoinLimited(readings, "\xE3\x80\x81");
+    EXPECT_LE(joined.size(), 255u);
+    EXPECT_EQ(joined.size() % 6, 3u);
+    EXPECT_TRUE(IsValidUtf8(joined));
+    EXPECT_EQ(JoinLimited({std::string(300, 'x'), "y"}, ","), "");
+}
+
+TEST(KanjiDic, ReadsGzippedAndPlainAlike)
+{
+    const auto gz = ReadKanjiDic(Data + "/kanjidic2-sample.xml.gz", "en");
+    const auto plain = ReadKanjiDic(Data + "/kanjidic2-sample.xml", "en");
+    ASSERT_EQ(gz.size(), 5u);
+    EXPECT_EQ(plain.size(), gz.size());
+    const KanjiDicEntry& water = gz.at(U'水');
+    EXPECT_EQ(water.grade, 1);
+    EXPECT_EQ(water.frequency, 223);
+    EXPECT_EQ(water.onReadings, std::vector<std::string>{"スイ"});
+    EXPECT_EQ(water.kunReadings, (std::vector<std::string>{"みず", "みず-"}));
+    EXPECT_EQ(water.meanings, std::vector<std::string>{"water"});
+    EXPECT_EQ(ReadKanjiDic(Data + "/kanjidic2-sample.xml", "fr").at(U'水').meanings, std::vector<std::string>{"eau"});
+    EXPECT_THROW(ReadKanjiDic(Data + "/missing.xml", "en"), KanjiDicError);
+    EXPECT_THROW(ReadKanjiDic(Data + "/kanjivg/04e00.svg", "en"), KanjiDicError);
+}
+
+TEST(DatabaseBuilder, CategoriesOrderAndTexts)
+{
+    BuildReport report;
+    auto db = BuildSample(SampleOptions(), report, "sample");
+    ASSERT_EQ(db->CategoryCount(), 8);
+    auto grade1 = db->LoadCategory(0);
+    EXPECT_STREQ(grade1->Name(), "Grade 1");
+    // Ranked by frequency (一 2, 水 223), then unranked (右); 犬 has no strokes and is left out.
+    ASSERT_EQ(grade1->Characters(), (std::vector<std::uint16_t>{0, 1, 2}));
+    EXPECT_STREQ(db->LoadCharacter(0)->OnReading(), "イチ、イツ");
+    EXPECT_STREQ(db->LoadCharacter(0)->KunReading(), "ひと-、ひと.つ");
+    EXPECT_STREQ(db->LoadCharacter(0)->Meaning(), "one, one radical (no.1)");
+    EXPECT_STREQ(db->LoadCharacter(1)->Meaning(), "water");
+    EXPECT_EQ(db->LoadCharacter(2)->KunReading(), nullptr);
+    EXPECT_EQ(db->LoadCategory(1)->Characters(), std::vector<std::uint16_t>{3});
+    EXPECT_STREQ(db->LoadCategory(7)->Name(), "Jinmeiy\xC5\x8D");
+    EXPECT_EQ(db->LoadCategory(6)->CharacterCount(), 0u);
+    ASSERT_EQ(report.leftOut, std::vector<char32_t>{U'犬'});
+    EXPECT_EQ(report.characters, 4u);
+    // Each character has its own element whose first form is the KanjiVG glyph.
+    auto water = db->LoadElement(db->LoadCharacter(1)->ElementId());
+    EXPECT_EQ(water->GetForm(0).StrokeCount(), 4);
+    EXPECT_EQ(water->GetForm(0).Width(), 109);
+    EXPECT_EQ(water->GetForm(0).Height(), 109);
+    EXPECT_TRUE(ValidateDatabase(*db).empty());
+}
+
+TEST(DatabaseBuilder, SameInputsGiveTheSameBytes)
+{
+    BuildReport a, b;
+    EXPECT_EQ(BuildDatabase(SampleOptions(), a), BuildDatabase(SampleOptions(), b));
+    BuildOptions all = SampleOptions();
+    all.allKanji = true;
+    EXPECT_EQ(BuildDatabase(all, a), BuildDatabase(all, b));
+}
+
+TEST(DatabaseBuilder, AllSetAddsOtherAndFrenchMeanings)
+{
+    BuildOptions o = SampleOptions();
+    o.allKanji = true;
+    o.language = "fr";
+    BuildReport report;
+    auto db = BuildSample(o, report, "all");
+    ASSERT_EQ(db->CategoryCount(), 9);
+    EXPECT_STREQ(db->LoadCategory(8)->Name(), "Other");
+    EXPECT_EQ(db->LoadCategory(8)->CharacterCount(), 0u); // every sample glyph has a grade
+    EXPECT_STREQ(db->LoadCharacter(1)->Meaning(), "eau");
+}
+
+TEST(DatabaseBuilder, BadInputsNameTheFile)
+{
+    BuildReport report;
+    BuildOptions o = SampleOptions();
+    o.kanjivgDir = Data + "/nowhere";
+    try {
+        BuildDatabase(o, report);
+        FAIL();
+    } catch (const BuildError& e) {
+        EXPECT_NE(std::string(e.what()).find("nowhere"), std::string::npos);
+    }
+    const std::string dir = TempPath("badsvg");
+    std::filesystem::create_directories(dir);
+    std::ofstream(dir + "/06c34.svg") << "<svg><path d=\"M1,1 Q2,2 3,3\"/></svg>";
+    o.kanjivgDir = dir;
+    try {
+        BuildDatabase(o, report);
+        FAIL();
+    } catch (const BuildError& e) {
+        const std::string what = e.what();
+        EXPECT_NE(what.find("06c34.svg"), std::string::npos);
+        EXPECT_NE(what.find("水"), std::string::npos);
+        EXPECT_NE(what.find("M1,1 Q2,2 3,3"), std::string::npos);
+    }
+    std::filesystem::remove_all(dir);
+}

@@ -1,0 +1,99 @@
+// Checks on the standard database built from the installed KanjiVG and KANJIDIC2.
+
+#include "DatabaseBuilder.h"
+#include "DatabaseInspector.h"
+#include "FileCharacterDatabase.h"
+#include "KanjiDic.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <filesystem>
+#include <map>
+
+namespace {
+
+FileCharacterDatabase& Standard()
+{
+    static FileCharacterDatabase db(ZAVOREN_STANDARD_DATABASE);
+    static bool preloaded = (db.Preload(nullptr), true);
+    (void)preloaded;
+    return db;
+}
+
+std::uint16_t FindCharacter(const char* onReading, const char* meaning)
+{
+    FileCharacterDatabase& db = Standard();
+    for (std::uint16_t id = 0; id < db.CharacterCount(); ++id) {
+        auto c = db.LoadCharacter(id);
+        if (c->Meaning() && c->OnReading() && std::string(c->Meaning()).rfind(meaning, 0) == 0
+            && std::string(c->OnReading()).find(onReading) != std::string::npos)
+            return id;
+    }
+    return 0xFFFF;
+}
+
+} // namespace
+
+TEST(RealDatabase, CategorySizesMatchTheGradesThatHaveStrokes)
+{
+    const auto dictionary = ReadKanjiDic(ZAVOREN_KANJIDIC, "en");
+    std::map<int, std::size_t> expected;
+    for (const auto& [cp, entry] : dictionary) {
+        if (!std::filesystem::exists(std::filesystem::path(ZAVOREN_KANJIVG_DIR) / ([&] {
+                char name[16];
+                std::snprintf(name, sizeof name, "%05x.svg", static_cast<unsigned>(cp));
+                return std::string(name);
+            }())))
+            continue;
+        const int category = entry.grade >= 1 && entry.grade <= 6 ? entry.grade - 1
+            : entry.grade == 8                                    ? 6
+            : entry.grade == 9 || entry.grade == 10               ? 7
+                                                                  : -1;
+        if (category >= 0)
+            ++expected[category];
+    }
+    FileCharacterDatabase& db = Standard();
+    ASSERT_EQ(db.CategoryCount(), 8);
+    const char* names[] = {"Grade 1", "Grade 2", "Grade 3", "Grade 4", "Grade 5", "Grade 6", "Secondary school",
+                           "Jinmeiy\xC5\x8D"};
+    std::size_t total = 0;
+    for (int i = 0; i < 8; ++i) {
+        auto category = db.LoadCategory(static_cast<std::uint16_t>(i));
+        EXPECT_STREQ(category->Name(), names[i]);
+        EXPECT_EQ(category->CharacterCount(), expected[i]) << names[i];
+        total += category->CharacterCount();
+    }
+    EXPECT_EQ(db.LoadCategory(0)->CharacterCount(), 80u);
+    EXPECT_EQ(total, db.CharacterCount());
+}
+
+TEST(RealDatabase, EveryCharacterHasStrokesAndSoundTexts)
+{
+    FileCharacterDatabase& db = Standard();
+    EXPECT_TRUE(ValidateDatabase(db).empty());
+    for (std::uint16_t id = 0; id < db.CharacterCount(); ++id) {
+        ASSERT_TRUE(db.CharacterExists(id));
+        auto c = db.LoadCharacter(id);
+        EXPECT_GE(db.LoadElement(c->ElementId())->GetForm(0).StrokeCount(), 1) << id;
+        for (const char* text : {c->OnReading(), c->KunReading(), c->Meaning()}) {
+            if (!text)
+                continue;
+            EXPECT_LE(std::strlen(text), 255u) << id;
+            EXPECT_TRUE(IsValidUtf8(text)) << id;
+        }
+    }
+}
+
+TEST(RealDatabase, WaterAndOne)
+{
+    FileCharacterDatabase& db = Standard();
+    const std::uint16_t water = FindCharacter("スイ", "water");
+    ASSERT_NE(water, 0xFFFF);
+    auto c = db.LoadCharacter(water);
+    EXPECT_NE(std::string(c->KunReading()).find("みず"), std::string::npos);
+    EXPECT_EQ(db.LoadElement(c->ElementId())->GetForm(0).StrokeCount(), 4);
+    const std::uint16_t one = FindCharacter("イチ", "one");
+    ASSERT_NE(one, 0xFFFF);
+    EXPECT_EQ(db.LoadElement(db.LoadCharacter(one)->ElementId())->GetForm(0).StrokeCount(), 1);
+}

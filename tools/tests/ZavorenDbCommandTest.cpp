@@ -1,0 +1,106 @@
+// Runs the zavoren-db executable as a user would and checks its output and exit codes.
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <sys/wait.h>
+
+namespace {
+
+struct Result {
+    int exitCode = -1;
+    std::string output; // standard output and standard error together
+};
+
+Result RunTool(const std::string& arguments)
+{
+    const std::string command = std::string(ZAVOREN_DB_TOOL) + " " + arguments + " 2>&1";
+    Result r;
+    FILE* pipe = popen(command.c_str(), "r");
+    std::array<char, 4096> buffer{};
+    std::size_t n = 0;
+    while ((n = fread(buffer.data(), 1, buffer.size(), pipe)) > 0)
+        r.output.append(buffer.data(), n);
+    const int status = pclose(pipe);
+    r.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return r;
+}
+
+const std::string Standard = ZAVOREN_STANDARD_DATABASE;
+
+} // namespace
+
+TEST(ZavorenDb, InfoValidatesTheStandardDatabase)
+{
+    const Result r = RunTool("info " + Standard);
+    EXPECT_EQ(r.exitCode, 0) << r.output;
+    EXPECT_NE(r.output.find("categories: 8"), std::string::npos);
+    EXPECT_NE(r.output.find("Grade 1: 80"), std::string::npos);
+    EXPECT_NE(r.output.find("valid"), std::string::npos);
+}
+
+TEST(ZavorenDb, DumpJsonShowsCountsAndTexts)
+{
+    const Result r = RunTool("dump --json " + Standard);
+    ASSERT_EQ(r.exitCode, 0);
+    EXPECT_EQ(r.output.rfind("{\"counts\":{\"characters\":", 0), 0u);
+    EXPECT_NE(r.output.find("\"name\":\"Grade 1\""), std::string::npos);
+    EXPECT_NE(r.output.find("\"meaning\":\"water\""), std::string::npos);
+    EXPECT_NE(r.output.find("\"type\":\"bezier\""), std::string::npos);
+    const Result text = RunTool("dump " + Standard);
+    EXPECT_EQ(text.exitCode, 0);
+    EXPECT_NE(text.output.find("category 0 \"Grade 1\" (80):"), std::string::npos);
+}
+
+TEST(ZavorenDb, ReaderFailuresReachStandardErrorWithTheirOwnText)
+{
+    const auto dir = std::filesystem::temp_directory_path() / ("zavoren-db-cli-" + std::to_string(getpid()));
+    std::filesystem::create_directories(dir);
+    // A header pointing at a dictionary beyond the end of the file.
+    std::ofstream((dir / "broken").string(), std::ios::binary) << std::string("\xFF\xFF\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00", 12);
+    Result r = RunTool("info " + (dir / "broken").string());
+    EXPECT_NE(r.exitCode, 0);
+    EXPECT_NE(r.output.find("Unable to read dictionary"), std::string::npos) << r.output;
+    EXPECT_NE(r.output.find("broken"), std::string::npos);
+    r = RunTool("dump " + (dir / "missing").string());
+    EXPECT_NE(r.exitCode, 0);
+    EXPECT_NE(r.output.find("Unable to open database"), std::string::npos);
+    std::filesystem::remove_all(dir);
+}
+
+TEST(ZavorenDb, BadArgumentsGiveUsageAndNonZeroExit)
+{
+    EXPECT_EQ(RunTool("").exitCode, 2);
+    EXPECT_EQ(RunTool("frobnicate").exitCode, 2);
+    Result r = RunTool("build --kanjivg /nonexistent");
+    EXPECT_NE(r.exitCode, 0);
+    EXPECT_NE(r.output.find("--kanjidic"), std::string::npos);
+    r = RunTool("build --kanjivg /nonexistent --kanjidic /nonexistent.xml --out /tmp/x --lang de");
+    EXPECT_NE(r.exitCode, 0);
+    EXPECT_NE(r.output.find("--lang"), std::string::npos);
+    r = RunTool("build --kanjivg /nonexistent --kanjidic /nonexistent.xml --out /tmp/x");
+    EXPECT_NE(r.exitCode, 0);
+    EXPECT_NE(r.output.find("/nonexistent"), std::string::npos);
+}
+
+TEST(ZavorenDb, BuildWritesTheFileAndReportsLeftOutCharacters)
+{
+    const auto out = std::filesystem::temp_directory_path() / ("zavoren-db-sample-" + std::to_string(getpid()));
+    const std::string data = ZAVOREN_TOOLS_TEST_DATA;
+    const Result r = RunTool("build --kanjivg " + data + "/kanjivg --kanjidic " + data + "/kanjidic2-sample.xml --out "
+                         + out.string());
+    EXPECT_EQ(r.exitCode, 0) << r.output;
+    EXPECT_NE(r.output.find("Grade 1: 3 characters (1 left out: no KanjiVG strokes)"), std::string::npos) << r.output;
+    EXPECT_NE(r.output.find("犬"), std::string::npos);
+    EXPECT_EQ(RunTool("info " + out.string()).exitCode, 0);
+    // Writing into a folder that does not exist fails cleanly.
+    const Result bad = RunTool("build --kanjivg " + data + "/kanjivg --kanjidic " + data
+                           + "/kanjidic2-sample.xml --out /nonexistent-folder/database");
+    EXPECT_NE(bad.exitCode, 0);
+    EXPECT_NE(bad.output.find("cannot write"), std::string::npos);
+    std::filesystem::remove(out);
+}
