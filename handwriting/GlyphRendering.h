@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Form.h"
+
+#include <QColor>
+#include <QRect>
+
+#include <cstdint>
+
+class QImage;
+class QPainter;
+
+/// Maps glyph units onto a target rectangle: x * W / form width + left, in single precision.
+QPointF MapGlyphPoint(Point p, const QRect& target, const Form& form);
+
+/// Draws one stroke with the painter's current pen, as lines and cubic curves. Every point is
+/// mapped onto `target`, snapped to multiples of `grid` (truncating towards zero) and moved by
+/// the offsets. A Move segment lifts the pen.
+void DrawStroke(QPainter& painter, const QRect& target, const Form& form, std::uint16_t strokeIndex, int grid,
+                int offsetX, int offsetY);
+
+/// Draws every stroke anti-aliased onto a 32-bit image: the form is drawn four times larger with
+/// round pens of 4 x `penWidth`, and each 4 x 4 block is filtered down with a fixed kernel and
+/// blended onto what the image already shows. Pixels outside the image are skipped.
+void DrawFormSmooth(QImage& image, const QRect& target, const Form& form, QRgb ink, int penWidth);
+
+/// The filtering step of DrawFormSmooth: `enlarged` (4W x 4H, a pixel is inked when its alpha is
+/// not 0) is filtered down block by block onto `target` of the 32-bit `image`: full coverage
+/// sets the ink colour, partial coverage blends towards it, none leaves the pixel alone.
+void FilterEnlargedGlyph(const QImage& enlarged, QImage& image, const QRect& target, QRgb ink);
+
+/// Draws the hint marker of one stroke: a filled circle of 8 pixels diameter, halfway in colour
+/// between the window and window-text colours of the application palette, centred where the
+/// stroke begins. Does nothing without a painter or for an index not below the stroke count.
+void DrawStrokeMarker(QPainter* painter, const QRect& target, const Form& form, std::uint16_t strokeIndex);
+
+/// The colour of the hint marker.
+QColor StrokeMarkerColour();
