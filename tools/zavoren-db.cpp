@@ -4,9 +4,14 @@
 #include "DatabaseInspector.h"
 #include "DatabaseLoadException.h"
 #include "FileCharacterDatabase.h"
+#include "InkFile.h"
+#include "StrokeChecker.h"
 
 
 #include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <sstream>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -179,6 +184,71 @@ int Info(const std::vector<std::string>& args)
     return 0;
 }
 
+bool ParseNumber(const std::string& text, long min, long max, long& value)
+{
+    if (text.empty())
+        return false;
+    char* end = nullptr;
+    errno = 0;
+    value = std::strtol(text.c_str(), &end, 10);
+    return errno == 0 && *end == '\0' && value >= min && value <= max;
+}
+
+int Score(const std::vector<std::string>& args)
+{
+    std::map<std::string, std::string> o;
+    std::vector<std::string> positional;
+    std::string error;
+    const std::vector<std::string> names{"--db", "--char", "--canvas", "--stroke", "--ink"};
+    if (!ParseOptions(args, names, o, positional, error))
+        return Fail(error);
+    for (const auto& [name, value] : o)
+        if (std::find(names.begin(), names.end(), name) == names.end())
+            return Fail("score: unknown option " + name);
+    for (const std::string& name : names)
+        if (!o.count(name))
+            return Fail("score needs " + name + "\n" + Usage);
+    long id = 0, stroke = 0;
+    if (!ParseNumber(o["--char"], 0, 0xFFFF, id))
+        return Fail("--char must be a character id from 0 to 65535");
+    if (!ParseNumber(o["--stroke"], 0, 0xFFFF, stroke))
+        return Fail("--stroke must be a stroke index from 0 to 65535");
+    long rect[4];
+    {
+        std::stringstream parts(o["--canvas"]);
+        std::string part;
+        int n = 0;
+        while (std::getline(parts, part, ',')) {
+            if (n == 4 || !ParseNumber(part, 0, 0xFFFF, rect[n]))
+                return Fail("--canvas must be X,Y,W,H in pixels (0 to 65535)");
+            ++n;
+        }
+        if (n != 4 || rect[2] == 0 || rect[3] == 0)
+            return Fail("--canvas must be X,Y,W,H in pixels with a width and height above 0");
+    }
+    StrokePath ink;
+    try {
+        ink = ReadInkFile(o["--ink"]);
+    } catch (const InkFileError& e) {
+        return Fail(e.what());
+    }
+    try {
+        FileCharacterDatabase database(o["--db"]);
+        database.Preload(nullptr);
+        const auto character = database.LoadCharacter(static_cast<std::uint16_t>(id));
+        const auto element = database.LoadElement(character->ElementId());
+        const CanvasRect canvas{static_cast<std::uint16_t>(rect[0]), static_cast<std::uint16_t>(rect[1]),
+                                static_cast<std::uint16_t>(rect[2]), static_cast<std::uint16_t>(rect[3])};
+        const StrokeChecker checker(element->GetForm(0), canvas, StrokeChecker::PageSampleCount);
+        std::cout << checker.Score(ink, static_cast<std::uint16_t>(stroke)) << '\n';
+    } catch (const ZavorenCommon::DatabaseLoadException& e) {
+        return Fail(o["--db"] + ": " + e.what());
+    } catch (const std::out_of_range&) {
+        return Fail(o["--db"] + ": the character's glyph has no form");
+    }
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -195,6 +265,8 @@ int main(int argc, char** argv)
         return Dump(args);
     if (command == "info")
         return Info(args);
+    if (command == "score")
+        return Score(args);
     if (command == "--help" || command == "-h" || command == "help") {
         std::cout << Usage;
         return 0;

@@ -1,6 +1,7 @@
 #include "DatabaseBuilder.h"
 #include "DatabaseInspector.h"
 #include "FileCharacterDatabase.h"
+#include "InkFile.h"
 #include "KanjiDic.h"
 
 #include <gtest/gtest.h>
@@ -143,4 +144,15 @@ TEST(DatabaseBuilder, BadInputsNameTheFile)
         EXPECT_NE(what.find("M1,1 Q2,2 3,3"), std::string::npos);
     }
     std::filesystem::remove_all(dir);
+}
+
+TEST(InkFile, ParsesPairsAndRefusesAnythingElse)
+{
+    const StrokePath ink = ParseInkJson(" [ [1, 2.5] , [-3e1,4] ] ");
+    ASSERT_EQ(ink.Count(), 2u);
+    EXPECT_EQ(ink.At(1), (Point{-30, 4}));
+    EXPECT_EQ(ParseInkJson("[]").Count(), 0u);
+    for (const char* bad : {"", "[", "[[1,2]", "[[1]]", "[[1,2],]", "{\"x\":1}", "[[1,2]] x", "[[a,b]]"})
+        EXPECT_THROW(ParseInkJson(bad), InkFileError) << bad;
+    EXPECT_THROW(ReadInkFile("/nonexistent/ink.json"), InkFileError);
 }

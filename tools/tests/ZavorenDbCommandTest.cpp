@@ -1,5 +1,8 @@
 // Runs the zavoren-db executable as a user would and checks its output and exit codes.
 
+#include "FileCharacterDatabase.h"
+#include "Flattening.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
@@ -103,4 +106,47 @@ TEST(ZavorenDb, BuildWritesTheFileAndReportsLeftOutCharacters)
     EXPECT_NE(bad.exitCode, 0);
     EXPECT_NE(bad.output.find("cannot write"), std::string::npos);
     std::filesystem::remove(out);
+}
+
+TEST(ZavorenDb, ScorePrintsTheCheckersScore)
+{
+    const auto dir = std::filesystem::temp_directory_path() / ("zavoren-db-score-" + std::to_string(getpid()));
+    std::filesystem::create_directories(dir);
+    // Ink that follows stroke 0 of character 0, flattened onto a 300 x 300 canvas.
+    FileCharacterDatabase db(Standard);
+    const auto element = db.LoadElement(db.LoadCharacter(0)->ElementId());
+    const Form& form = element->GetForm(0);
+    const auto ink = (dir / "ink.json").string();
+    {
+        std::ofstream out(ink);
+        out << "[";
+        const std::vector<Point> points = FlattenStroke(form.GetStroke(0));
+        for (std::size_t i = 0; i < points.size(); ++i)
+            out << (i ? "," : "") << "[" << points[i].x * 300 / form.Width() << "," << points[i].y * 300 / form.Height()
+                << "]";
+        out << "]";
+    }
+    Result r = RunTool("score --db " + Standard + " --char 0 --canvas 0,0,300,300 --stroke 0 --ink " + ink);
+    EXPECT_EQ(r.exitCode, 0) << r.output;
+    EXPECT_EQ(r.output, "1\n");
+    // The same ink judged as a later stroke of the character is misplaced or misshapen.
+    r = RunTool("score --db " + Standard + " --char 0 --canvas 0,0,300,300 --stroke 2 --ink " + ink);
+    EXPECT_NE(r.output, "1\n");
+    r = RunTool("score --db " + Standard + " --char 0 --canvas 0,0,109,109 --stroke 1 --ink " + ink);
+    EXPECT_EQ(r.output, "-1\n");
+    std::ofstream(dir / "bad.json") << "[[1,2],[3]";
+    r = RunTool("score --db " + Standard + " --char 0 --canvas 0,0,109,109 --stroke 0 --ink " + (dir / "bad.json").string());
+    EXPECT_NE(r.exitCode, 0);
+    EXPECT_NE(r.output.find("bad.json"), std::string::npos);
+    r = RunTool("score --db " + Standard + " --char 0 --canvas 0,0,109 --stroke 0 --ink " + ink);
+    EXPECT_NE(r.exitCode, 0);
+    EXPECT_NE(r.output.find("--canvas"), std::string::npos);
+    r = RunTool("score --db " + Standard + " --char 99999 --canvas 0,0,109,109 --stroke 0 --ink " + ink);
+    EXPECT_NE(r.exitCode, 0);
+    r = RunTool("score --db " + Standard + " --char 0 --canvas 0,0,109,109 --stroke 0 --ink " + (dir / "none").string());
+    EXPECT_NE(r.exitCode, 0);
+    EXPECT_NE(r.output.find("cannot read"), std::string::npos);
+    r = RunTool("score --db " + Standard + " --char 65000 --canvas 0,0,109,109 --stroke 0 --ink " + ink);
+    EXPECT_NE(r.output.find("Character id out of range"), std::string::npos);
+    std::filesystem::remove_all(dir);
 }

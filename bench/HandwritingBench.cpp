@@ -1,0 +1,130 @@
+// Stroke checker and glyph rendering over the standard database.
+
+#include "FileCharacterDatabase.h"
+#include "Flattening.h"
+#include "GlyphRendering.h"
+#include "StrokeChecker.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+
+#include <cmath>
+
+namespace {
+
+/// First forms of every character's glyph, loaded once.
+const std::vector<Form>& Glyphs()
+{
+    static const std::vector<Form> glyphs = [] {
+        FileCharacterDatabase db(ZAVOREN_STANDARD_DATABASE);
+        db.Preload(nullptr);
+        std::vector<Form> forms;
+        for (std::uint16_t id = 0; id < db.CharacterCount(); ++id)
+            forms.push_back(db.LoadElement(db.LoadCharacter(id)->ElementId())->GetForm(0));
+        return forms;
+    }();
+    return glyphs;
+}
+
+/// The glyph whose stroke count is closest to the average.
+const Form& AverageGlyph()
+{
+    static const Form* chosen = [] {
+        double total = 0;
+        for (const Form& f : Glyphs())
+            total += f.StrokeCount();
+        const double mean = total / static_cast<double>(Glyphs().size());
+        const Form* best = &Glyphs().front();
+        for (const Form& f : Glyphs())
+            if (std::abs(f.StrokeCount() - mean) < std::abs(best->StrokeCount() - mean))
+                best = &f;
+        return best;
+    }();
+    return *chosen;
+}
+
+void BM_CheckerConstruction(benchmark::State& state)
+{
+    const auto& glyphs = Glyphs();
+    std::size_t i = 0;
+    for (auto _ : state) {
+        StrokeChecker checker(glyphs[i], CanvasRect{0, 0, 300, 300});
+        benchmark::DoNotOptimize(checker.StrokeCount());
+        i = (i + 1) % glyphs.size();
+    }
+    state.SetLabel("averaged over all characters");
+}
+BENCHMARK(BM_CheckerConstruction)->Unit(benchmark::kMicrosecond);
+
+void BM_ScoreOneStroke(benchmark::State& state)
+{
+    // Every stroke of every glyph, replayed as learner ink with points 3 px apart.
+    struct Case {
+        std::size_t glyph;
+        std::uint16_t stroke;
+        StrokePath ink;
+    };
+    std::vector<StrokeChecker> checkers;
+    std::vector<Case> cases;
+    const auto& glyphs = Glyphs();
+    for (std::size_t g = 0; g < glyphs.size(); g += 7) {
+        checkers.emplace_back(glyphs[g], CanvasRect{0, 0, 300, 300});
+        for (std::uint16_t k = 0; k < glyphs[g].StrokeCount(); ++k) {
+            StrokePath ink(FlattenStroke(glyphs[g].GetStroke(k)));
+            ink.ScaleAndOffset(300.0f / glyphs[g].Width(), 300.0f / glyphs[g].Height(), 0, 0);
+            ink.ResampleInPlace(static_cast<std::uint32_t>(std::lround(ink.Length() / 3)) + 2);
+            cases.push_back({checkers.size() - 1, k, std::move(ink)});
+        }
+    }
+    std::size_t i = 0;
+    for (auto _ : state) {
+        const Case& c = cases[i];
+        benchmark::DoNotOptimize(checkers[c.glyph].Score(c.ink, c.stroke));
+        i = (i + 1) % cases.size();
+    }
+}
+BENCHMARK(BM_ScoreOneStroke)->Unit(benchmark::kMicrosecond);
+
+void BM_DrawFormSmooth(benchmark::State& state)
+{
+    const int side = static_cast<int>(state.range(0));
+    QImage image(side, side, QImage::Format_RGB32);
+    const Form& form = AverageGlyph();
+    for (auto _ : state) {
+        image.fill(Qt::white);
+        DrawFormSmooth(image, QRect(0, 0, side, side), form, qRgb(0, 0, 0), 2);
+        benchmark::DoNotOptimize(image.constBits());
+    }
+    state.SetLabel(std::to_string(form.StrokeCount()) + " strokes");
+}
+BENCHMARK(BM_DrawFormSmooth)->Arg(300)->Arg(600)->Unit(benchmark::kMillisecond);
+
+void BM_DrawStroke(benchmark::State& state)
+{
+    QImage image(300, 300, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setPen(QPen(Qt::black, 6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const Form& form = AverageGlyph();
+    std::uint16_t k = 0;
+    for (auto _ : state) {
+        DrawStroke(painter, QRect(0, 0, 300, 300), form, k, 1, 0, 0);
+        k = static_cast<std::uint16_t>((k + 1) % form.StrokeCount());
+    }
+}
+BENCHMARK(BM_DrawStroke)->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "StrokePath.h"
+
+#include <stdexcept>
+#include <string>
+
+/// The ink file is missing or not a JSON array of [x, y] pairs; the message says where.
+class InkFileError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Parses a JSON array of [x, y] number pairs (canvas pixels) into learner ink.
+StrokePath ParseInkJson(const std::string& text);
+
+/// Reads and parses an ink file.
+StrokePath ReadInkFile(const std::string& path);
