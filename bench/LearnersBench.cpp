@@ -1,0 +1,88 @@
+// The learner store: opening a file of 100 learners, and loading and saving a learner whose
+// lists hold every character of the database of all KanjiVG kanji.
+
+#include "FileCharacterDatabase.h"
+#include "XmlConfigStore.h"
+
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct Fixture {
+    fs::path dir;
+    std::unique_ptr<FileCharacterDatabase> database;
+    Fixture()
+    {
+        std::string pattern = (fs::temp_directory_path() / "zavoren-bench-XXXXXX").string();
+        dir = mkdtemp(pattern.data());
+        database = std::make_unique<FileCharacterDatabase>(ZAVOREN_ALL_DATABASE);
+        database->Preload(nullptr);
+        std::ofstream(dir / "config.xml") << "<Zavoren><Users/></Zavoren>";
+        XmlConfigStore store((dir / "config.xml").string(), database.get());
+        for (int i = 0; i < 100; ++i)
+            store.AddUser("Learner " + std::to_string(i));
+        // Learner 0 has every character of every category: most learned, the rest untested.
+        auto user = store.LoadUser("Learner 0");
+        for (std::uint16_t c = 0; c < database->CategoryCount(); ++c) {
+            const auto category = database->LoadCategory(c);
+            CategoryProgress& progress = user->GetProgress(c);
+            for (std::size_t i = 0; i < category->CharacterCount(); ++i)
+                (i % 5 ? progress.AddLearned(category->CharacterAt(i)) : progress.AddUntested(category->CharacterAt(i)));
+        }
+        store.SaveUser(*user);
+        // A few ordinary learners with some progress.
+        for (int i = 1; i < 100; i += 10) {
+            auto other = store.LoadUser("Learner " + std::to_string(i));
+            for (std::uint16_t k = 0; k < 40; ++k)
+                other->GetProgress(0).AddLearned(k);
+            store.SaveUser(*other);
+        }
+    }
+    ~Fixture() { fs::remove_all(dir); }
+};
+
+Fixture& Shared()
+{
+    static Fixture fixture;
+    return fixture;
+}
+
+void BM_OpenStoreWith100Learners(benchmark::State& state)
+{
+    Fixture& f = Shared();
+    for (auto _ : state) {
+        XmlConfigStore store((f.dir / "config.xml").string(), f.database.get());
+        benchmark::DoNotOptimize(store.UserCount());
+    }
+    state.counters["file_bytes"] = static_cast<double>(fs::file_size(f.dir / "config.xml"));
+}
+BENCHMARK(BM_OpenStoreWith100Learners)->Unit(benchmark::kMillisecond);
+
+void BM_LoadUserWithEveryCharacter(benchmark::State& state)
+{
+    Fixture& f = Shared();
+    XmlConfigStore store((f.dir / "config.xml").string(), f.database.get());
+    for (auto _ : state) {
+        auto user = store.LoadUser("Learner 0");
+        benchmark::DoNotOptimize(user->ProgressCount());
+    }
+}
+BENCHMARK(BM_LoadUserWithEveryCharacter)->Unit(benchmark::kMillisecond);
+
+void BM_SaveUserWithEveryCharacter(benchmark::State& state)
+{
+    Fixture& f = Shared();
+    XmlConfigStore store((f.dir / "config.xml").string(), f.database.get());
+    auto user = store.LoadUser("Learner 0");
+    for (auto _ : state)
+        store.SaveUser(*user);
+    state.counters["file_bytes"] = static_cast<double>(fs::file_size(f.dir / "config.xml"));
+}
+BENCHMARK(BM_SaveUserWithEveryCharacter)->Unit(benchmark::kMillisecond);
+
+} // namespace

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "User.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+/// The store of learners and their progress. Failures throw ZavorenCommon::ConfigException.
+class ConfigStore {
+public:
+    virtual ~ConfigStore() = default;
+    /// The learner's record, or null when the name is empty or not found. Makes that learner
+    /// the current one.
+    virtual std::unique_ptr<User> LoadUser(const std::string& name) = 0;
+    /// Adds a learner and saves; false when the name is empty or taken.
+    virtual bool AddUser(const std::string& name) = 0;
+    /// Removes a learner and saves; false when no learner of that name exists.
+    virtual bool DeleteUser(const std::string& name) = 0;
+    /// Writes the learner's whole record afresh (one Progress per category) and saves.
+    virtual bool SaveUser(User& user) = 0;
+    /// Number of learners known since the store was opened.
+    virtual std::uint16_t UserCount() const = 0;
+    /// Learner name by index; throws std::out_of_range "invalid vector<T> subscript" past the end.
+    virtual const std::string& UserName(std::uint16_t index) const = 0;
+    /// The current learner's name; empty when there is none.
+    virtual const std::string& CurrentUserName() const = 0;
+};
+
+/// The process's store, opened on first use from "config.xml" in the current folder. A failed
+/// open throws ConfigException and leaves it unset, so the next call tries again.
+ConfigStore& GetConfigStore();
+
+/// Releases the character database first, then the learner store (at exit).
+void ReleaseDataStores();

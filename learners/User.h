@@ -1,0 +1,36 @@
+#pragma once
+
+#include "CategoryProgress.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// One learner: a name and a progress record per category touched, in the order added.
+class User {
+public:
+    /// The name, or null when there is none.
+    const char* Name() const { return m_name ? m_name->c_str() : nullptr; }
+    /// Copies the name; an empty text leaves no name.
+    void SetName(const std::string& name)
+    {
+        if (name.empty())
+            m_name.reset();
+        else
+            m_name = name;
+    }
+    /// Number of progress records.
+    std::size_t ProgressCount() const { return m_progress.size(); }
+    /// The first record for the category, appended empty when there is none. The reference
+    /// stays valid until the next record is appended.
+    CategoryProgress& GetProgress(std::uint16_t categoryId);
+    /// Appends a copy of the record, without looking for one of the same category.
+    void AddProgress(const CategoryProgress& record) { m_progress.push_back(record); }
+    /// All records in order.
+    const std::vector<CategoryProgress>& Progress() const { return m_progress; }
+
+private:
+    std::vector<CategoryProgress> m_progress;
+    std::optional<std::string> m_name;
+};

@@ -1,0 +1,242 @@
+#include "XmlConfigStore.h"
+
+#include "ConfigException.h"
+#include "DatabaseLoadException.h"
+#include "TextRules.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <stdexcept>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using ZavorenCommon::ConfigException;
+
+namespace {
+
+const char* const SaveFailed = "Unable to save config";
+
+std::string Format(const char* format, const char* a, const char* b = "", const char* c = "")
+{
+    const int n = std::snprintf(nullptr, 0, format, a, b, c);
+    std::string out(static_cast<std::size_t>(n), '\0');
+    std::snprintf(out.data(), out.size() + 1, format, a, b, c);
+    return out;
+}
+
+/// A buffer that pugixml writes the document into, for one write(2) loop.
+class StringWriter : public pugi::xml_writer {
+public:
+    void write(const void* data, size_t size) override { text.append(static_cast<const char*>(data), size); }
+    std::string text;
+};
+
+bool WriteAll(int fd, const std::string& text)
+{
+    std::size_t done = 0;
+    while (done < text.size()) {
+        const ssize_t n = ::write(fd, text.data() + done, text.size() - done);
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0)
+            return false;
+        done += static_cast<std::size_t>(n);
+    }
+    return true;
+}
+
+} // namespace
+
+XmlConfigStore::XmlConfigStore(std::string path, CharacterDatabase* database) : m_path(std::move(path))
+{
+    struct stat info {};
+    if (::stat(m_path.c_str(), &info) != 0)
+        throw ConfigException("Config file does not exist. Try to reinstall Zavoren.");
+    // Read-only: no write permission on the file at all, or none for this user.
+    if ((info.st_mode & 0222) == 0 || ::access(m_path.c_str(), W_OK) != 0)
+        throw ConfigException("Config file is ReadOnly. Check file attirbutes or reinstall Zavoren.");
+    const unsigned options = pugi::parse_default | pugi::parse_declaration | pugi::parse_comments;
+    if (!S_ISREG(info.st_mode) || !m_document.load_file(m_path.c_str(), options) || !m_document.document_element()
+        || !UsersNode())
+        throw ConfigException("Unable to load config");
+    try {
+        m_database = database ? database : &GetDatabase();
+    } catch (const ZavorenCommon::DatabaseLoadException& e) {
+        throw ConfigException(e.what());
+    }
+    ReadUserList();
+}
+
+pugi::xml_node XmlConfigStore::UsersNode() const
+{
+    return m_document.document_element().select_node(Format("%s", "Users").c_str()).node();
+}
+
+pugi::xml_node XmlConfigStore::FindUser(const char* format, const std::string& name) const
+{
+    // The name is pasted into the query as a quoted literal: a name holding an apostrophe
+    // would end the literal and change what the query asks, so such a name matches nobody.
+    if (name.find('\'') != std::string::npos)
+        return {};
+    const std::string query = std::strcmp(format, "User[@%s='%s']") == 0 ? Format(format, "name", name.c_str())
+                                                                          : Format(format, "User", "name", name.c_str());
+    try {
+        return UsersNode().select_node(query.c_str()).node();
+    } catch (const pugi::xpath_exception&) {
+        return {};
+    }
+}
+
+void XmlConfigStore::ReadUserList()
+{
+    m_userNames.clear();
+    const pugi::xml_node users = UsersNode();
+    m_currentUserName = users.attribute("currentUser").value();
+    // Only element children are learners: whitespace, comments and text are not.
+    for (pugi::xml_node child : users.children())
+        if (child.type() == pugi::node_element)
+            m_userNames.emplace_back(child.attribute("name").value());
+}
+
+std::unique_ptr<User> XmlConfigStore::LoadUser(const std::string& name)
+{
+    if (name.empty())
+        return nullptr;
+    const pugi::xml_node node = FindUser("%s[@%s='%s']", name);
+    if (!node)
+        return nullptr;
+    auto user = std::make_unique<User>();
+    user->SetName(name);
+    for (pugi::xml_node progress : node.children("Progress")) {
+        CategoryProgress record;
+        record.SetCategoryId(ParseId(progress.attribute("categoryId").value()));
+        const std::string ids = Format("%s/@%s", "Character", "id");
+        if (const pugi::xml_node learned = progress.child("Learned"))
+            for (const pugi::xpath_node& id : learned.select_nodes(ids.c_str()))
+                record.AddLearned(ParseId(id.attribute().value()));
+        if (const pugi::xml_node untested = progress.child("Untested"))
+            for (const pugi::xpath_node& id : untested.select_nodes(ids.c_str()))
+                record.AddUntested(ParseId(id.attribute().value()));
+        user->AddProgress(record);
+    }
+    if (!EqualsIgnoringAsciiCase(m_currentUserName, name))
+        SetCurrentUser(name);
+    return user;
+}
+
+bool XmlConfigStore::AddUser(const std::string& name)
+{
+    // A name holding an apostrophe could never be found again: refuse it like a taken name.
+    if (name.empty() || name.find('\'') != std::string::npos)
+        return false;
+    if (FindUser("%s[@%s='%s']", name))
+        return false;
+    pugi::xml_node user = UsersNode().append_child("User");
+    if (!user)
+        return false;
+    user.append_attribute("name") = name.c_str();
+    m_userNames.push_back(name);
+    return SaveFile();
+}
+
+bool XmlConfigStore::DeleteUser(const std::string& name)
+{
+    const pugi::xml_node node = FindUser("User[@%s='%s']", name);
+    if (!node || !UsersNode().remove_child(node))
+        return false;
+    for (auto it = m_userNames.begin(); it != m_userNames.end(); ++it)
+        if (*it == name) {
+            m_userNames.erase(it);
+            break;
+        }
+    if (EqualsIgnoringAsciiCase(m_currentUserName, name))
+        SetCurrentUser("");
+    return SaveFile();
+}
+
+bool XmlConfigStore::SaveUser(User& user)
+{
+    const std::string name = user.Name() ? user.Name() : "";
+    pugi::xml_node node = FindUser("%s[@%s='%s']", name);
+    if (node) {
+        while (node.first_child())
+            node.remove_child(node.first_child());
+    } else {
+        // Deliberately not added to the cached names: only AddUser and ReadUserList fill them.
+        node = UsersNode().append_child("User");
+        node.append_attribute("name") = name.c_str();
+    }
+    const std::uint16_t categories = m_database->CategoryCount();
+    for (std::uint16_t i = 0; i < categories; ++i) {
+        const CategoryProgress& record = user.GetProgress(i);
+        pugi::xml_node progress = node.append_child("Progress");
+        progress.append_attribute("categoryId") = static_cast<unsigned>(i);
+        pugi::xml_node learned = progress.append_child("Learned");
+        for (std::uint16_t id : record.Learned())
+            learned.append_child("Character").append_attribute("id") = static_cast<unsigned>(id);
+        pugi::xml_node untested = progress.append_child("Untested");
+        for (std::uint16_t id : record.Untested())
+            untested.append_child("Character").append_attribute("id") = static_cast<unsigned>(id);
+    }
+    return SaveFile();
+}
+
+std::uint16_t XmlConfigStore::UserCount() const
+{
+    return static_cast<std::uint16_t>(m_userNames.size());
+}
+
+const std::string& XmlConfigStore::UserName(std::uint16_t index) const
+{
+    if (index >= m_userNames.size())
+        throw std::out_of_range("invalid vector<T> subscript");
+    return m_userNames[index];
+}
+
+const std::string& XmlConfigStore::CurrentUserName() const
+{
+    return m_currentUserName;
+}
+
+void XmlConfigStore::SetCurrentUser(const std::string& name)
+{
+    pugi::xml_node users = UsersNode();
+    pugi::xml_attribute current = users.attribute("currentUser");
+    if (!current)
+        current = users.append_attribute("currentUser");
+    current = name.c_str();
+    m_currentUserName = name;
+}
+
+bool XmlConfigStore::SaveFile()
+{
+    StringWriter writer;
+    m_document.save(writer, "  ", pugi::format_default, pugi::encoding_utf8);
+
+    // Write a sibling file, make it durable, then rename it over the old one: a failure at any
+    // point leaves the previous config.xml complete.
+    const std::filesystem::path target = std::filesystem::absolute(m_path);
+    std::string temporary = (target.parent_path() / (target.filename().string() + ".XXXXXX")).string();
+    const int fd = ::mkstemp(temporary.data());
+    if (fd < 0)
+        throw ConfigException(SaveFailed);
+    struct stat info {};
+    if (::stat(m_path.c_str(), &info) == 0)
+        ::fchmod(fd, info.st_mode & 07777);
+    const bool written = WriteAll(fd, writer.text) && ::fsync(fd) == 0;
+    const bool closed = ::close(fd) == 0;
+    if (!written || !closed || ::rename(temporary.c_str(), m_path.c_str()) != 0) {
+        ::unlink(temporary.c_str());
+        throw ConfigException(SaveFailed);
+    }
+    const int dir = ::open(target.parent_path().c_str(), O_RDONLY | O_DIRECTORY);
+    if (dir >= 0) {
+        ::fsync(dir);
+        ::close(dir);
+    }
+    return true;
+}

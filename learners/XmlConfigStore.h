@@ -1,0 +1,44 @@
+#pragma once
+
+#include "CharacterDatabase.h"
+#include "ConfigStore.h"
+
+#include <pugixml.hpp>
+
+#include <string>
+#include <vector>
+
+/// The learner store in `config.xml`: a document element holding `Users` (attribute
+/// `currentUser`), one `User` per learner (attribute `name`) with one `Progress` per category
+/// (`categoryId`) holding `Learned` and `Untested` lists of `Character` (`id`). Every change is
+/// saved at once, atomically: a failed save leaves the previous file as it was.
+class XmlConfigStore : public ConfigStore {
+public:
+    /// Opens the file. `database` supplies the category count; null takes the process's database.
+    explicit XmlConfigStore(std::string path = "config.xml", CharacterDatabase* database = nullptr);
+
+    std::unique_ptr<User> LoadUser(const std::string& name) override;
+    bool AddUser(const std::string& name) override;
+    bool DeleteUser(const std::string& name) override;
+    bool SaveUser(User& user) override;
+    std::uint16_t UserCount() const override;
+    const std::string& UserName(std::uint16_t index) const override;
+    const std::string& CurrentUserName() const override;
+
+    /// Re-reads the names of all learners and the current learner from the document.
+    void ReadUserList();
+    /// Records the current learner in the document (empty for none); written with the next save.
+    void SetCurrentUser(const std::string& name);
+    /// Writes the document over the file, atomically; throws "Unable to save config" on failure.
+    bool SaveFile();
+
+private:
+    pugi::xml_node UsersNode() const;
+    pugi::xml_node FindUser(const char* format, const std::string& name) const;
+
+    pugi::xml_document m_document;
+    std::vector<std::string> m_userNames;
+    std::string m_currentUserName;
+    CharacterDatabase* m_database = nullptr;
+    std::string m_path;
+};

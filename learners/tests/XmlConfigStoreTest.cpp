@@ -1,0 +1,371 @@
+#include "ConfigException.h"
+#include "DatabaseWriter.h"
+#include "FileCharacterDatabase.h"
+#include "XmlConfigStore.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace fs = std::filesystem;
+using ZavorenCommon::ConfigException;
+using Ids = std::vector<std::uint16_t>;
+
+namespace {
+
+#define EXPECT_CONFIG_ERROR(statement, message)                                                                        \
+    do {                                                                                                               \
+        try {                                                                                                          \
+            statement;                                                                                                 \
+            ADD_FAILURE() << "expected ConfigException \"" << message << "\"";                                         \
+        } catch (const ConfigException& e) {                                                                           \
+            EXPECT_STREQ(e.what(), message);                                                                           \
+        }                                                                                                              \
+    } while (0)
+
+std::string ReadText(const fs::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    std::stringstream text;
+    text << file.rdbuf();
+    return text.str();
+}
+
+void WriteText(const fs::path& path, const std::string& text)
+{
+    std::ofstream(path, std::ios::binary | std::ios::trunc) << text;
+}
+
+/// A temporary folder with a database of five categories and a config.xml.
+class StoreTest : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        std::string pattern = (fs::temp_directory_path() / "zavoren-store-XXXXXX").string();
+        m_dir = mkdtemp(pattern.data());
+        DatabaseWriter writer;
+        Form form(109, 109);
+        form.AppendStroke(Stroke(Point{1, 1}));
+        writer.AddCharacter(writer.AddStrokeElement(form), "a", "b", "c");
+        for (int i = 0; i < 5; ++i)
+            writer.AddCategory("Category " + std::to_string(i), {0});
+        const auto bytes = writer.Serialize();
+        std::ofstream(m_dir / "database", std::ios::binary)
+            .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+        m_database = std::make_unique<FileCharacterDatabase>((m_dir / "database").string());
+        WriteText(Config(), "<?xml version=\"1.0\"?>\n<Zavoren><Users/></Zavoren>\n");
+    }
+    void TearDown() override
+    {
+        fs::permissions(m_dir, fs::perms::owner_all, fs::perm_options::add);
+        std::error_code ec;
+        fs::remove_all(m_dir, ec);
+    }
+    fs::path Config() const { return m_dir / "config.xml"; }
+    std::unique_ptr<XmlConfigStore> Open() { return std::make_unique<XmlConfigStore>(Config().string(), m_database.get()); }
+
+    fs::path m_dir;
+    std::unique_ptr<FileCharacterDatabase> m_database;
+};
+
+std::vector<std::string> Names(const ConfigStore& store)
+{
+    std::vector<std::string> names;
+    for (std::uint16_t i = 0; i < store.UserCount(); ++i)
+        names.push_back(store.UserName(i));
+    return names;
+}
+
+using Strings = std::vector<std::string>;
+
+} // namespace
+
+TEST_F(StoreTest, MissingFile)
+{
+    fs::remove(Config());
+    EXPECT_CONFIG_ERROR(Open(), "Config file does not exist. Try to reinstall Zavoren.");
+}
+
+TEST_F(StoreTest, ReadOnlyFile)
+{
+    fs::permissions(Config(), fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+    EXPECT_CONFIG_ERROR(Open(), "Config file is ReadOnly. Check file attirbutes or reinstall Zavoren.");
+}
+
+TEST_F(StoreTest, MalformedFileIsReportedAndLeftUntouched)
+{
+    const std::string broken = "<Zavoren><Users><User name=\"Anna\"></Users>";
+    WriteText(Config(), broken);
+    EXPECT_CONFIG_ERROR(Open(), "Unable to load config");
+    EXPECT_EQ(ReadText(Config()), broken);
+    WriteText(Config(), "");
+    EXPECT_CONFIG_ERROR(Open(), "Unable to load config");
+    WriteText(Config(), "<Zavoren/>"); // no Users element
+    EXPECT_CONFIG_ERROR(Open(), "Unable to load config");
+}
+
+TEST_F(StoreTest, UnreadableFile)
+{
+    fs::remove(Config());
+    fs::create_directory(Config());
+    EXPECT_CONFIG_ERROR(Open(), "Unable to load config");
+}
+
+TEST_F(StoreTest, DatabaseFailureBecomesAConfigExceptionWithItsMessage)
+{
+    const fs::path previous = fs::current_path();
+    fs::current_path(m_dir);
+    fs::remove("database");
+    ReleaseDatabase();
+    EXPECT_CONFIG_ERROR(XmlConfigStore("config.xml"), "Unable to open database");
+    fs::current_path(previous);
+}
+
+TEST_F(StoreTest, AddLoadAndListLearners)
+{
+    auto store = Open();
+    EXPECT_EQ(store->UserCount(), 0);
+    EXPECT_EQ(store->CurrentUserName(), "");
+    EXPECT_FALSE(store->AddUser(""));
+    EXPECT_EQ(store->LoadUser(""), nullptr);
+    EXPECT_TRUE(store->AddUser("Anna"));
+    EXPECT_TRUE(store->AddUser("Ben"));
+    EXPECT_FALSE(store->AddUser("Anna"));
+    EXPECT_EQ(Names(*store), (Strings{"Anna", "Ben"}));
+    EXPECT_EQ(store->CurrentUserName(), ""); // adding does not make current
+    try {
+        store->UserName(2);
+        FAIL();
+    } catch (const std::out_of_range& e) {
+        EXPECT_STREQ(e.what(), "invalid vector<T> subscript");
+    }
+    // Written at once: a new store sees both.
+    EXPECT_EQ(Names(*Open()), (Strings{"Anna", "Ben"}));
+    auto anna = store->LoadUser("Anna");
+    ASSERT_NE(anna, nullptr);
+    EXPECT_STREQ(anna->Name(), "Anna");
+    EXPECT_EQ(anna->ProgressCount(), 0u);
+    EXPECT_EQ(store->CurrentUserName(), "Anna");
+    EXPECT_EQ(store->LoadUser("Nobody"), nullptr);
+}
+
+TEST_F(StoreTest, LetterCaseMakesADifferentLearnerButTheSameCurrentOne)
+{
+    auto store = Open();
+    ASSERT_TRUE(store->AddUser("Anna"));
+    EXPECT_TRUE(store->AddUser("anna"));
+    EXPECT_EQ(store->UserCount(), 2);
+    ASSERT_NE(store->LoadUser("Anna"), nullptr);
+    EXPECT_EQ(store->CurrentUserName(), "Anna");
+    // "anna" counts as the current learner: loading does not rewrite currentUser.
+    ASSERT_NE(store->LoadUser("anna"), nullptr);
+    EXPECT_EQ(store->CurrentUserName(), "Anna");
+    EXPECT_EQ(store->LoadUser("ANNA"), nullptr);
+    // Deleting "anna" removes only that learner but clears the current one.
+    EXPECT_TRUE(store->DeleteUser("anna"));
+    EXPECT_EQ(Names(*store), Strings{"Anna"});
+    EXPECT_EQ(store->CurrentUserName(), "");
+    EXPECT_FALSE(store->DeleteUser("anna"));
+}
+
+TEST_F(StoreTest, ApostropheNamesMatchNobodyAndCannotChangeAQuery)
+{
+    auto store = Open();
+    ASSERT_TRUE(store->AddUser("Anna"));
+    ASSERT_TRUE(store->AddUser("Ben"));
+    const std::string sneaky = "x' or '1'='1";
+    EXPECT_EQ(store->LoadUser(sneaky), nullptr);
+    EXPECT_FALSE(store->DeleteUser(sneaky));
+    EXPECT_FALSE(store->AddUser(sneaky));
+    EXPECT_EQ(store->LoadUser("O'Brien"), nullptr);
+    EXPECT_FALSE(store->AddUser("O'Brien"));
+    EXPECT_EQ(Names(*store), (Strings{"Anna", "Ben"}));
+    EXPECT_EQ(Names(*Open()), (Strings{"Anna", "Ben"}));
+    EXPECT_EQ(store->CurrentUserName(), "");
+    // A learner whose name has an apostrophe in a file written by hand is listed but not found.
+    WriteText(Config(), "<Z><Users><User name=\"O'Brien\"/></Users></Z>");
+    auto other = Open();
+    EXPECT_EQ(Names(*other), Strings{"O'Brien"});
+    EXPECT_EQ(other->LoadUser("O'Brien"), nullptr);
+    EXPECT_FALSE(other->DeleteUser("O'Brien"));
+    // Double quotes and other text are fine.
+    EXPECT_TRUE(store->AddUser("The \"Ace\" <&>"));
+    EXPECT_NE(store->LoadUser("The \"Ace\" <&>"), nullptr);
+}
+
+TEST_F(StoreTest, DeletingTheCurrentLearnerLeavesAnEmptyCurrentUserAttribute)
+{
+    auto store = Open();
+    store->AddUser("Anna");
+    store->AddUser("Ben");
+    store->LoadUser("Ben");
+    EXPECT_TRUE(store->DeleteUser("Ben"));
+    const std::string text = ReadText(Config());
+    EXPECT_NE(text.find("currentUser=\"\""), std::string::npos) << text;
+    EXPECT_EQ(text.find("Ben"), std::string::npos);
+}
+
+TEST_F(StoreTest, SavingWritesAProgressForEveryCategory)
+{
+    auto store = Open();
+    store->AddUser("Anna");
+    auto anna = store->LoadUser("Anna");
+    anna->GetProgress(0).AddLearned(12);
+    anna->GetProgress(0).AddLearned(40);
+    anna->GetProgress(0).AddUntested(65535);
+    CategoryProgress beyond;
+    beyond.SetCategoryId(9);
+    beyond.AddLearned(3);
+    anna->AddProgress(beyond);
+    EXPECT_TRUE(store->SaveUser(*anna));
+    // The record in memory gained the empty categories too.
+    EXPECT_EQ(anna->ProgressCount(), 6u);
+    pugi::xml_document doc;
+    ASSERT_TRUE(doc.load_file(Config().c_str()));
+    const pugi::xml_node user = doc.document_element().child("Users").child("User");
+    EXPECT_STREQ(doc.document_element().child("Users").attribute("currentUser").value(), "Anna");
+    int n = 0;
+    for (pugi::xml_node p : user.children("Progress")) {
+        EXPECT_EQ(p.attribute("categoryId").as_int(), n);
+        EXPECT_TRUE(p.child("Learned"));
+        EXPECT_TRUE(p.child("Untested"));
+        if (n > 0) {
+            EXPECT_FALSE(p.child("Learned").first_child()) << n;
+            EXPECT_FALSE(p.child("Untested").first_child()) << n;
+        }
+        ++n;
+    }
+    EXPECT_EQ(n, 5); // category 9 is beyond the database's count and is dropped
+    auto again = Open()->LoadUser("Anna");
+    EXPECT_EQ(again->GetProgress(0).Learned(), (Ids{12, 40}));
+    EXPECT_EQ(again->GetProgress(0).Untested(), Ids{65535});
+    EXPECT_EQ(again->ProgressCount(), 5u);
+}
+
+TEST_F(StoreTest, SavingAnUnknownLearnerAddsAnElementButNotAName)
+{
+    auto store = Open();
+    User ghost;
+    ghost.SetName("Ghost");
+    EXPECT_TRUE(store->SaveUser(ghost));
+    EXPECT_EQ(store->UserCount(), 0);
+    EXPECT_EQ(Names(*Open()), Strings{"Ghost"});
+}
+
+TEST_F(StoreTest, IdsAreReadByTheRuntimeRules)
+{
+    WriteText(Config(), R"(<Z><Users currentUser="Anna"><User name="Anna"><Progress categoryId=" 2x">)"
+                        R"(<Learned><Character id="70000"/><Character id="-1"/><Character id="abc"/></Learned>)"
+                        R"(<Untested><Character id="7"/><Character id="7"/></Untested></Progress>)"
+                        R"(<Progress categoryId="3"/></User></Users></Z>)");
+    auto store = Open();
+    EXPECT_EQ(store->CurrentUserName(), "Anna");
+    auto anna = store->LoadUser("Anna");
+    ASSERT_EQ(anna->ProgressCount(), 2u);
+    EXPECT_EQ(anna->Progress()[0].CategoryId(), 2);
+    EXPECT_EQ(anna->Progress()[0].Learned(), (Ids{4464, 65535, 0}));
+    EXPECT_EQ(anna->Progress()[0].Untested(), (Ids{7, 7}));
+    // A Progress without Learned or Untested reads as empty lists.
+    EXPECT_EQ(anna->Progress()[1].LearnedCount(), 0u);
+    EXPECT_EQ(anna->Progress()[1].UntestedCount(), 0u);
+}
+
+TEST_F(StoreTest, FilesFromOtherToolsLoadTheSame)
+{
+    const std::string body = "<Zavoren>\n  <!-- learners -->\n  <Users currentUser=\"Ben\">\n    <User name=\"Anna\">\n"
+                             "      <Progress categoryId=\"0\"><Learned><Character id=\"3\"/></Learned><Untested/></Progress>\n"
+                             "    </User>\n    <!-- a comment between learners -->\n    <User name=\"Ben\"/>\n  </Users>\n</Zavoren>\n";
+    auto crlf = [](std::string text) {
+        std::string out;
+        for (char c : text) {
+            if (c == '\n')
+                out += '\r';
+            out += c;
+        }
+        return out;
+    };
+    const std::string variants[] = {
+        body,
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + body,
+        "\xEF\xBB\xBF<?xml version=\"1.0\"?>\n" + body,
+        "\xEF\xBB\xBF" + body,
+        crlf("<?xml version=\"1.0\"?>\n" + body),
+    };
+    for (const std::string& text : variants) {
+        WriteText(Config(), text);
+        auto store = Open();
+        EXPECT_EQ(Names(*store), (Strings{"Anna", "Ben"}));
+        EXPECT_EQ(store->CurrentUserName(), "Ben");
+        auto anna = store->LoadUser("Anna");
+        ASSERT_NE(anna, nullptr);
+        EXPECT_EQ(anna->GetProgress(0).Learned(), Ids{3});
+        // Saving keeps every learner and the comments.
+        EXPECT_TRUE(store->SaveUser(*anna));
+        EXPECT_EQ(Names(*Open()), (Strings{"Anna", "Ben"}));
+        EXPECT_NE(ReadText(Config()).find("a comment between learners"), std::string::npos);
+    }
+}
+
+TEST_F(StoreTest, FailedSaveKeepsThePreviousFile)
+{
+    auto store = Open();
+    for (const char* name : {"Anna", "Ben", "Chiyo"})
+        ASSERT_TRUE(store->AddUser(name));
+    const std::string before = ReadText(Config());
+    // Let the next write stop part-way: a file-size limit below what the new file needs.
+    const auto previousHandler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit previousLimit{};
+    getrlimit(RLIMIT_FSIZE, &previousLimit);
+    rlimit limit = previousLimit;
+    limit.rlim_cur = before.size() + 20;
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
+    auto anna = store->LoadUser("Anna");
+    for (std::uint16_t i = 0; i < 300; ++i)
+        anna->GetProgress(0).AddLearned(i);
+    EXPECT_CONFIG_ERROR(store->SaveUser(*anna), "Unable to save config");
+    EXPECT_CONFIG_ERROR(store->AddUser("Dai"), "Unable to save config");
+    setrlimit(RLIMIT_FSIZE, &previousLimit);
+    std::signal(SIGXFSZ, previousHandler);
+    EXPECT_EQ(ReadText(Config()), before);
+    EXPECT_EQ(Names(*Open()), (Strings{"Anna", "Ben", "Chiyo"}));
+    // No temporary files are left beside it.
+    int files = 0;
+    for (const auto& entry : fs::directory_iterator(m_dir))
+        files += entry.path().filename().string().rfind("config.xml", 0) == 0;
+    EXPECT_EQ(files, 1);
+    // Once the disk has room again, the change in memory is saved.
+    EXPECT_TRUE(store->SaveUser(*anna));
+    EXPECT_EQ(Open()->LoadUser("Anna")->GetProgress(0).LearnedCount(), 300u);
+}
+
+TEST_F(StoreTest, SaveKeepsTheFilePermissions)
+{
+    fs::permissions(Config(), fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+    auto store = Open();
+    store->AddUser("Anna");
+    EXPECT_EQ(fs::status(Config()).permissions() & fs::perms::all,
+              fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+}
+
+TEST_F(StoreTest, SingletonOpensConfigXmlInTheCurrentFolder)
+{
+    const fs::path previous = fs::current_path();
+    fs::current_path(m_dir);
+    ReleaseDataStores();
+    WriteText("config.xml", "<Z><Users currentUser=\"Anna\"><User name=\"Anna\"/></Users></Z>");
+    ConfigStore& store = GetConfigStore();
+    EXPECT_EQ(&GetConfigStore(), &store);
+    EXPECT_EQ(store.CurrentUserName(), "Anna");
+    ReleaseDataStores();
+    fs::remove("config.xml");
+    EXPECT_THROW(GetConfigStore(), ConfigException);
+    WriteText("config.xml", "<Z><Users/></Z>");
+    EXPECT_EQ(GetConfigStore().UserCount(), 0); // the failed attempt left nothing behind
+    ReleaseDataStores();
+    fs::current_path(previous);
+}
