@@ -14,7 +14,6 @@ packages=(
     libpugixml-dev zlib1g-dev
     googletest libgtest-dev libgmock-dev libbenchmark-dev
     fonts-ipafont-gothic kanjidic-xml
-    nodejs npm
     clang libclang-rt-14-dev
     xvfb xauth
 )
@@ -22,6 +21,11 @@ packages=(
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
 }
+
+# Node.js and npm only fetch the KanjiVG data; any installed copy will do.
+if ! command -v npm >/dev/null 2>&1; then
+    packages+=(nodejs npm)
+fi
 
 missing=()
 for p in "${packages[@]}"; do

@@ -1,0 +1,88 @@
+// The lesson page: loading a character (stroke checker plus smooth drawing) and one step of the
+// stroke-order animation, at the sizes the pages use.
+
+#include "DisplayCanvas.h"
+#include "FileCharacterDatabase.h"
+#include "GlyphRendering.h"
+#include "InputCanvas.h"
+#include "LessonPage.h"
+#include "StrokeChecker.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+
+namespace {
+
+FileCharacterDatabase& Database()
+{
+    static FileCharacterDatabase db(ZAVOREN_STANDARD_DATABASE);
+    static bool preloaded = (db.Preload(nullptr), true);
+    (void)preloaded;
+    return db;
+}
+
+void BM_LessonPageLoadCharacter(benchmark::State& state)
+{
+    FileCharacterDatabase& db = Database();
+    LessonPage page(db);
+    page.show();
+    std::uint16_t id = 0;
+    for (auto _ : state) {
+        page.StartLesson({id});
+        id = static_cast<std::uint16_t>((id + 1) % db.CharacterCount());
+    }
+    state.SetLabel("input canvas " + std::to_string(page.Input()->ClientRect().width()) + " px, display "
+                   + std::to_string(page.Display()->ClientRect().width()) + " px, averaged over all characters");
+}
+BENCHMARK(BM_LessonPageLoadCharacter)->Unit(benchmark::kMillisecond);
+
+/// The same work for a canvas of the given side: checker on the input canvas and smooth drawing
+/// on a display canvas of the same side.
+void BM_LoadCharacterAtSide(benchmark::State& state)
+{
+    FileCharacterDatabase& db = Database();
+    const int side = static_cast<int>(state.range(0));
+    QImage display(side, side, QImage::Format_RGB32);
+    std::uint16_t id = 0;
+    for (auto _ : state) {
+        const auto character = db.LoadCharacter(id);
+        const auto glyph = db.LoadElement(character->ElementId());
+        StrokeChecker checker(glyph->GetForm(0), CanvasRect{0, 0, static_cast<std::uint16_t>(side),
+                                                             static_cast<std::uint16_t>(side)});
+        display.fill(Qt::white);
+        DrawFormSmooth(display, QRect(0, 0, side, side), glyph->GetForm(0), qRgb(0, 0, 0), 2);
+        benchmark::DoNotOptimize(checker.StrokeCount());
+        id = static_cast<std::uint16_t>((id + 1) % db.CharacterCount());
+    }
+}
+BENCHMARK(BM_LoadCharacterAtSide)->Arg(300)->Arg(600)->Unit(benchmark::kMillisecond);
+
+void BM_AnimationTick(benchmark::State& state)
+{
+    FileCharacterDatabase& db = Database();
+    DisplayCanvas canvas;
+    const int side = static_cast<int>(state.range(0));
+    canvas.setFixedSize(side, side);
+    canvas.show();
+    const auto glyph = db.LoadElement(db.LoadCharacter(100)->ElementId());
+    canvas.StartAnimation(glyph->GetForm(0), 1000000);
+    for (auto _ : state) {
+        if (!canvas.IsAnimating())
+            canvas.StartAnimation(glyph->GetForm(0), 1000000);
+        canvas.Tick();
+    }
+}
+BENCHMARK(BM_AnimationTick)->Arg(160)->Arg(600)->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

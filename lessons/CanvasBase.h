@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QFrame>
+#include <QImage>
+
+/// A square writing or display surface with the frame of an edit box. Everything it shows is
+/// drawn into a back buffer of its client size; painting copies from the buffer.
+class CanvasBase : public QFrame {
+    Q_OBJECT
+public:
+    explicit CanvasBase(QWidget* parent = nullptr);
+
+    /// The colour the back buffer is wiped with (chosen by the owning page).
+    void SetBackground(const QColor& colour);
+    /// Fills the back buffer with the background and repaints.
+    void Wipe();
+    /// The back buffer, as the learner sees it (without live ink).
+    const QImage& BackBuffer() const { return m_buffer; }
+    /// The client rectangle in client coordinates (0, 0, width, height).
+    QRect ClientRect() const { return QRect(QPoint(0, 0), contentsRect().size()); }
+    /// Makes the canvas square: its shorter side is lengthened to the longer one.
+    void MakeSquare();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    /// Paints what only the screen shows, on top of the buffer (live ink).
+    virtual void PaintOverlay(QPainter&) {}
+    /// Makes sure the back buffer has the client size (contents kept); false when there is none.
+    bool EnsureBuffer();
+    /// Widget position to client coordinates.
+    QPointF ToClient(const QPointF& widgetPosition) const { return widgetPosition - contentsRect().topLeft(); }
+    QImage m_buffer;
+    QColor m_background = Qt::white;
+};

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "CanvasBase.h"
+#include "Form.h"
+#include "StrokeAnimation.h"
+
+#include <QTimer>
+
+#include <memory>
+#include <mutex>
+
+/// Shows a character and, on request, writes it stroke by stroke. A click (press and release
+/// inside) is reported to the page, which restarts the animation.
+class DisplayCanvas : public CanvasBase {
+    Q_OBJECT
+public:
+    explicit DisplayCanvas(QWidget* parent = nullptr);
+
+    /// Draws the whole glyph at once, smoothly, on a wiped buffer.
+    void ShowGlyph(const Form& glyph);
+    /// Starts writing the glyph from its first stroke, one step every `intervalMs`.
+    void StartAnimation(const Form& glyph, int intervalMs);
+    /// Stops a running animation.
+    void StopAnimation();
+    /// Whether an animation runs.
+    bool IsAnimating() const { return m_animation != nullptr; }
+    /// One timer step (the timer calls this; tests may too).
+    void Tick();
+    /// Whether new animations keep the glyph's aspect ratio (centred) instead of filling.
+    void SetKeepAspect(bool keep) { m_keepAspect = keep; }
+    /// The animation's pen.
+    QPen AnimationPen() const;
+
+signals:
+    /// The canvas was clicked: pressed and released inside.
+    void clicked();
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    bool m_pressed = false;
+    std::mutex m_animationLock;
+    std::unique_ptr<StrokeAnimation> m_animation;
+    bool m_keepAspect = false;
+    QTimer m_timer;
+};

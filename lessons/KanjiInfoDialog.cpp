@@ -1,0 +1,65 @@
+#include "KanjiInfoDialog.h"
+
+#include "CharacterDatabase.h"
+#include "DatabaseLoadException.h"
+#include "DisplayCanvas.h"
+#include "Page.h"
+#include "ui_KanjiInfoDialog.h"
+
+#include <QMessageBox>
+
+KanjiInfoDialog::KanjiInfoDialog(CharacterDatabase& database, QWidget* parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::KanjiInfoDialog>()), m_database(database)
+{
+    m_ui->setupUi(this);
+    Display()->MakeSquare();
+    connect(Display(), &DisplayCanvas::clicked, this, [this] {
+        if (m_glyph)
+            Display()->StartAnimation(m_glyph->GetForm(0), 10);
+    });
+    connect(CloseButton(), &QPushButton::clicked, this, [this] {
+        Display()->StopAnimation();
+        done(Closed);
+    });
+}
+
+KanjiInfoDialog::~KanjiInfoDialog() = default;
+
+DisplayCanvas* KanjiInfoDialog::Display() const { return m_ui->displayCanvas; }
+QLabel* KanjiInfoDialog::OnReadingLabel() const { return m_ui->onReading; }
+QLabel* KanjiInfoDialog::KunReadingLabel() const { return m_ui->kunReading; }
+QLabel* KanjiInfoDialog::MeaningLabel() const { return m_ui->meaning; }
+QPushButton* KanjiInfoDialog::CloseButton() const { return m_ui->closeButton; }
+
+bool KanjiInfoDialog::SetCode(std::uint16_t code)
+{
+    try {
+        auto character = m_database.LoadCharacter(code);
+        auto glyph = m_database.LoadElement(character->ElementId());
+        if (glyph->FormCount() == 0)
+            throw ZavorenCommon::DatabaseLoadException("Unable to load element");
+        m_character = std::move(character);
+        m_glyph = std::move(glyph);
+        return true;
+    } catch (const ZavorenCommon::DatabaseLoadException& e) {
+        QMessageBox::critical(parentWidget(), QStringLiteral("Zavoren Database Error"), QString::fromUtf8(e.what()));
+    }
+    return false;
+}
+
+void KanjiInfoDialog::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (!m_character || !m_glyph)
+        return;
+    OnReadingLabel()->setText(TextOrNotAvailable(m_character->OnReading()));
+    KunReadingLabel()->setText(TextOrNotAvailable(m_character->KunReading()));
+    MeaningLabel()->setText(TextOrNotAvailable(m_character->Meaning()));
+    Display()->ShowGlyph(m_glyph->GetForm(0));
+}
+
+void KanjiInfoDialog::reject()
+{
+    Display()->StopAnimation();
+    done(Cancelled);
+}

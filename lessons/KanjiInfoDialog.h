@@ -1,0 +1,46 @@
+#pragma once
+
+#include "Character.h"
+#include "Element.h"
+
+#include <QDialog>
+
+#include <memory>
+
+class CharacterDatabase;
+class DisplayCanvas;
+class QLabel;
+namespace Ui {
+class KanjiInfoDialog;
+}
+
+/// Shows one character: its glyph (click to animate), ON reading, KUN reading and meaning.
+/// Ends with 8 (Close) or 2 (Esc).
+class KanjiInfoDialog : public QDialog {
+    Q_OBJECT
+public:
+    enum Result { Cancelled = 2, Closed = 8 };
+
+    explicit KanjiInfoDialog(CharacterDatabase& database, QWidget* parent = nullptr);
+    ~KanjiInfoDialog() override;
+
+    /// Loads the character and its glyph; false (after an error box) when the database fails.
+    bool SetCode(std::uint16_t code);
+
+    DisplayCanvas* Display() const;
+    QLabel* OnReadingLabel() const;
+    QLabel* KunReadingLabel() const;
+    QLabel* MeaningLabel() const;
+    QPushButton* CloseButton() const;
+
+    void reject() override;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    std::unique_ptr<Ui::KanjiInfoDialog> m_ui;
+    CharacterDatabase& m_database;
+    std::unique_ptr<Character> m_character;
+    std::unique_ptr<Element> m_glyph;
+};

@@ -1,0 +1,196 @@
+#include "LessonPage.h"
+
+#include "CharacterDatabase.h"
+#include "DatabaseLoadException.h"
+#include "DisplayCanvas.h"
+#include "InputCanvas.h"
+#include "WritingCursor.h"
+#include "ui_LessonPage.h"
+
+#include <QMessageBox>
+
+namespace {
+
+/// Width given to a check box caption before it is shortened (the full text is its tooltip).
+constexpr int CaptionWidth = 200;
+
+void SetCaption(QCheckBox* box, const char* text)
+{
+    const QString full = TextOrNotAvailable(text);
+    box->setText(box->fontMetrics().elidedText(full, Qt::ElideRight, CaptionWidth));
+    box->setToolTip(full);
+    box->setAccessibleName(full);
+}
+
+} // namespace
+
+LessonPage::LessonPage(CharacterDatabase& database, QWidget* parent)
+    : Page(parent), m_ui(std::make_unique<Ui::LessonPage>()), m_database(database)
+{
+    m_ui->setupUi(this);
+    Display()->MakeSquare();
+    Input()->MakeSquare();
+    Input()->setCursor(WritingCursor());
+    connect(Input(), &InputCanvas::strokeEnded, this, &LessonPage::OnStrokeEnded, Qt::DirectConnection);
+    connect(Input(), &InputCanvas::strokeKept, this, &LessonPage::OnStrokeKept, Qt::DirectConnection);
+    connect(Display(), &DisplayCanvas::clicked, this, [this] {
+        if (m_glyph)
+            Display()->StartAnimation(m_glyph->GetForm(0), 10);
+    });
+    for (QCheckBox* box : {OnReadingBox(), KunReadingBox(), MeaningBox()})
+        connect(box, &QCheckBox::toggled, this, &LessonPage::RefreshControls);
+    connect(ClearButton(), &QPushButton::clicked, this, [this] {
+        Input()->Clear();
+        m_hintShown = false;
+        RefreshControls();
+    });
+    connect(UndoButton(), &QPushButton::clicked, this, [this] {
+        Input()->Undo();
+        m_hintShown = false;
+        RefreshControls();
+    });
+    connect(HintButton(), &QPushButton::clicked, this, [this] {
+        if (!m_glyph)
+            return;
+        Input()->ShowHint(m_glyph->GetForm(0), static_cast<std::uint16_t>(Input()->StrokeCount()));
+        m_hintShown = true;
+        RefreshControls();
+    });
+    connect(AbortButton(), &QPushButton::clicked, this, &LessonPage::Cancel);
+    connect(NextButton(), &QPushButton::clicked, this, &LessonPage::OnNext);
+    RefreshControls();
+}
+
+LessonPage::~LessonPage() = default;
+
+DisplayCanvas* LessonPage::Display() const { return m_ui->displayCanvas; }
+InputCanvas* LessonPage::Input() const { return m_ui->inputCanvas; }
+QCheckBox* LessonPage::OnReadingBox() const { return m_ui->onReading; }
+QCheckBox* LessonPage::KunReadingBox() const { return m_ui->kunReading; }
+QCheckBox* LessonPage::MeaningBox() const { return m_ui->meaning; }
+QPushButton* LessonPage::ClearButton() const { return m_ui->clearButton; }
+QPushButton* LessonPage::UndoButton() const { return m_ui->undoButton; }
+QPushButton* LessonPage::HintButton() const { return m_ui->hintButton; }
+QPushButton* LessonPage::AbortButton() const { return m_ui->abortButton; }
+QPushButton* LessonPage::NextButton() const { return m_ui->nextButton; }
+
+const Form* LessonPage::Glyph() const
+{
+    return m_glyph ? &m_glyph->GetForm(0) : nullptr;
+}
+
+void LessonPage::StartLesson(const std::vector<std::uint16_t>& codes)
+{
+    m_session.Start(codes);
+    LoadCharacter();
+    RefreshControls();
+}
+
+void LessonPage::LoadCharacter()
+{
+    for (QCheckBox* box : {OnReadingBox(), KunReadingBox(), MeaningBox()}) {
+        const QSignalBlocker block(box);
+        box->setChecked(false);
+    }
+    m_checker.reset();
+    m_glyph.reset();
+    m_character.reset();
+    m_hintShown = false;
+    Display()->StopAnimation();
+    const auto code = m_session.Current();
+    if (!code) {
+        Display()->Wipe();
+        Input()->Wipe();
+        Input()->Clear();
+        return;
+    }
+    try {
+        auto character = m_database.LoadCharacter(*code);
+        auto glyph = m_database.LoadElement(character->ElementId());
+        if (glyph->FormCount() == 0)
+            throw ZavorenCommon::DatabaseLoadException("Unable to load element");
+        m_character = std::move(character);
+        m_glyph = std::move(glyph);
+    } catch (const ZavorenCommon::DatabaseLoadException& e) {
+        ReportDatabaseError(e.what());
+        return;
+    } catch (const std::out_of_range&) {
+        ReportDatabaseError("Unable to load element");
+        return;
+    }
+    const Form& form = m_glyph->GetForm(0);
+    Display()->ShowGlyph(form);
+    const QRect client = Input()->ClientRect();
+    m_checker = std::make_unique<StrokeChecker>(
+        form, CanvasRect{0, 0, static_cast<std::uint16_t>(client.width()), static_cast<std::uint16_t>(client.height())},
+        StrokeChecker::PageSampleCount);
+    SetCaption(OnReadingBox(), m_character->OnReading());
+    SetCaption(KunReadingBox(), m_character->KunReading());
+    SetCaption(MeaningBox(), m_character->Meaning());
+    Input()->Wipe();
+    Input()->Clear();
+}
+
+void LessonPage::ReportDatabaseError(const char* message)
+{
+    QMessageBox::critical(this, QStringLiteral("Zavoren Database Error"), QString::fromUtf8(message));
+}
+
+void LessonPage::RefreshControls()
+{
+    const int strokes = m_glyph ? m_glyph->GetForm(0).StrokeCount() : 0;
+    const bool ticked = OnReadingBox()->isChecked() && KunReadingBox()->isChecked() && MeaningBox()->isChecked();
+    const LessonControlState s =
+        DecideLessonControls(m_glyph != nullptr, strokes, Input()->StrokeCount(), ticked, m_hintShown);
+    Input()->setEnabled(s.inputEnabled);
+    NextButton()->setEnabled(s.nextEnabled);
+    SetDefaultButton(s.nextIsDefault ? NextButton() : AbortButton());
+    HintButton()->setEnabled(s.hintEnabled);
+    ClearButton()->setEnabled(s.clearAndUndoEnabled);
+    UndoButton()->setEnabled(s.clearAndUndoEnabled);
+}
+
+void LessonPage::OnStrokeEnded()
+{
+    const int index = Input()->StrokeCount() - 1;
+    const float score =
+        m_checker ? m_checker->Score(Input()->CurrentStroke(), static_cast<std::uint16_t>(index)) : -1.0f;
+    if (score < 1.0f)
+        Input()->Undo();
+    RefreshControls();
+}
+
+void LessonPage::OnStrokeKept()
+{
+    m_hintShown = false;
+    RefreshControls();
+}
+
+void LessonPage::OnNext()
+{
+    if (!NextButton()->isEnabled())
+        return;
+    if (m_session.Next()) {
+        LoadCharacter();
+        RefreshControls();
+    } else {
+        emit pageEvent(Finished, 0);
+    }
+}
+
+void LessonPage::Cancel()
+{
+    emit pageEvent(Aborted, 0);
+}
+
+void LessonPage::showEvent(QShowEvent* event)
+{
+    Page::showEvent(event);
+    RefreshControls();
+}
+
+void LessonPage::hideEvent(QHideEvent* event)
+{
+    Display()->StopAnimation();
+    Page::hideEvent(event);
+}

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "Character.h"
+#include "Element.h"
+#include "LessonSession.h"
+#include "Page.h"
+#include "StrokeChecker.h"
+
+#include <memory>
+#include <vector>
+
+class CharacterDatabase;
+class DisplayCanvas;
+class InputCanvas;
+class QCheckBox;
+namespace Ui {
+class LessonPage;
+}
+
+/// Teaches a short list of characters one after another: the glyph on a display canvas, the
+/// readings and meaning on three check boxes to tick, and an input canvas where every stroke is
+/// checked at once. Events: 0 lesson finished, 1 lesson aborted.
+class LessonPage : public Page {
+    Q_OBJECT
+public:
+    enum Event : quint16 { Finished = 0, Aborted = 1 };
+
+    explicit LessonPage(CharacterDatabase& database, QWidget* parent = nullptr);
+    ~LessonPage() override;
+
+    /// Starts a lesson on these character codes.
+    void StartLesson(const std::vector<std::uint16_t>& codes);
+    /// The codes taught to the end, in the order they were finished.
+    const std::vector<std::uint16_t>& DoneCodes() const { return m_session.Done(); }
+
+    DisplayCanvas* Display() const;
+    InputCanvas* Input() const;
+    QCheckBox* OnReadingBox() const;
+    QCheckBox* KunReadingBox() const;
+    QCheckBox* MeaningBox() const;
+    QPushButton* ClearButton() const;
+    QPushButton* UndoButton() const;
+    QPushButton* HintButton() const;
+    QPushButton* AbortButton() const;
+    QPushButton* NextButton() const;
+    /// The glyph being taught, or null.
+    const Form* Glyph() const;
+
+protected:
+    void Cancel() override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    void LoadCharacter();
+    void RefreshControls();
+    void OnStrokeEnded();
+    void OnStrokeKept();
+    void OnNext();
+    void ReportDatabaseError(const char* message);
+
+    std::unique_ptr<Ui::LessonPage> m_ui;
+    CharacterDatabase& m_database;
+    std::unique_ptr<Character> m_character;
+    std::unique_ptr<Element> m_glyph;
+    std::unique_ptr<StrokeChecker> m_checker;
+    LessonSession m_session;
+    bool m_hintShown = false;
+};

@@ -1,0 +1,93 @@
+#include "DisplayCanvas.h"
+#include "KanjiInfoDialog.h"
+#include "TestSupport.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+using namespace testsupport;
+
+class KanjiInfoDialogTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        m_small.writer.AddCharacter(m_small.writer.AddStrokeElement(SmallDatabase::Lines({{10, 30, 99, 30}, {54, 10, 54, 99}})),
+                                    "ジュウ", "", "ten");
+        m_small.writer.AddCategory("Test", {0});
+        m_db = m_small.Open();
+    }
+
+    void showsTheCharacterWithNotAvailableForAMissingReading()
+    {
+        KanjiInfoDialog dialog(*m_db);
+        QCOMPARE(dialog.windowTitle(), QStringLiteral(" Kanji Info"));
+        QVERIFY(dialog.SetCode(0));
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QCOMPARE(dialog.OnReadingLabel()->text(), QStringLiteral("ジュウ"));
+        QCOMPARE(dialog.KunReadingLabel()->text(), QStringLiteral("N/A"));
+        QCOMPARE(dialog.MeaningLabel()->text(), QStringLiteral("ten"));
+        QVERIFY(CountNot(dialog.Display()->BackBuffer(), qRgb(255, 255, 255)) > 0);
+        QCOMPARE(dialog.Display()->width(), dialog.Display()->height());
+    }
+
+    void clickingTwiceRestartsTheAnimation()
+    {
+        KanjiInfoDialog dialog(*m_db);
+        dialog.SetCode(0);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        DisplayCanvas* display = dialog.Display();
+        QTest::mouseClick(display, Qt::LeftButton, Qt::NoModifier, display->rect().center());
+        QVERIFY(display->IsAnimating());
+        for (int i = 0; i < 100; ++i)
+            display->Tick();
+        QVERIFY(CountNot(display->BackBuffer(), qRgb(255, 255, 255)) > 0);
+        QTest::mouseClick(display, Qt::LeftButton, Qt::NoModifier, display->rect().center());
+        QVERIFY(display->IsAnimating());
+        QCOMPARE(CountNot(display->BackBuffer(), qRgb(255, 255, 255)), 0); // from the first stroke again
+    }
+
+    void closingWhileAnimatingStopsTheTimer()
+    {
+        for (bool escape : {false, true}) {
+            KanjiInfoDialog dialog(*m_db);
+            dialog.SetCode(0);
+            bool animatingWhenEnded = true;
+            QTimer::singleShot(0, &dialog, [&] {
+                QTest::mouseClick(dialog.Display(), Qt::LeftButton, Qt::NoModifier, dialog.Display()->rect().center());
+                QVERIFY(dialog.Display()->IsAnimating());
+                if (escape)
+                    QTest::keyClick(&dialog, Qt::Key_Escape);
+                else
+                    QTest::mouseClick(dialog.CloseButton(), Qt::LeftButton);
+                animatingWhenEnded = dialog.Display()->IsAnimating();
+            });
+            const int result = dialog.exec();
+            QCOMPARE(result, escape ? int(KanjiInfoDialog::Cancelled) : int(KanjiInfoDialog::Closed));
+            QVERIFY(!animatingWhenEnded);
+        }
+    }
+
+    void badCodeReportsAndReturnsFalse()
+    {
+        KanjiInfoDialog dialog(*m_db);
+        // The error box is modal: close it as soon as it shows.
+        QTimer::singleShot(0, [] {
+            if (QWidget* box = QApplication::activeModalWidget())
+                box->close();
+        });
+        QVERIFY(!dialog.SetCode(5));
+    }
+
+private:
+    SmallDatabase m_small;
+    std::unique_ptr<FileCharacterDatabase> m_db;
+};
+
+QTEST_MAIN(KanjiInfoDialogTest)
+#include "KanjiInfoDialogTest.moc"
