@@ -1,16 +1,20 @@
 // The lesson page: loading a character (stroke checker plus smooth drawing) and one step of the
 // stroke-order animation, at the sizes the pages use.
 
+#include "CategoryPage.h"
+#include "CharacterGrid.h"
 #include "DisplayCanvas.h"
 #include "FileCharacterDatabase.h"
 #include "GlyphRendering.h"
 #include "InputCanvas.h"
 #include "LessonPage.h"
+#include "ReadingChoices.h"
 #include "StrokeChecker.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QScrollBar>
 
 namespace {
 
@@ -74,6 +78,50 @@ void BM_AnimationTick(benchmark::State& state)
     }
 }
 BENCHMARK(BM_AnimationTick)->Arg(160)->Arg(600)->Unit(benchmark::kMicrosecond);
+
+void BM_CategoryPageFirstPaintSecondarySchool(benchmark::State& state)
+{
+    FileCharacterDatabase& db = Database();
+    CategoryProgress progress;
+    for (auto _ : state) {
+        CategoryPage page(db);
+        page.show();
+        page.SetCategory(6, &progress);
+        benchmark::DoNotOptimize(page.grab());
+    }
+}
+BENCHMARK(BM_CategoryPageFirstPaintSecondarySchool)->Unit(benchmark::kMillisecond);
+
+void BM_CategoryPageScrollOnePage(benchmark::State& state)
+{
+    FileCharacterDatabase& db = Database();
+    CategoryProgress progress;
+    CategoryPage page(db);
+    page.show();
+    page.SetCategory(6, &progress);
+    CharacterGrid* grid = page.Grid();
+    QScrollBar* bar = grid->verticalScrollBar();
+    // Scroll through new pages each time (cells not yet cached), wrapping at the end.
+    for (auto _ : state) {
+        bar->setValue(bar->value() + bar->pageStep() > bar->maximum() ? 0 : bar->value() + bar->pageStep());
+        benchmark::DoNotOptimize(grid->viewport()->grab());
+    }
+    state.counters["cells_drawn"] = grid->RenderedCells();
+}
+BENCHMARK(BM_CategoryPageScrollOnePage)->Unit(benchmark::kMillisecond);
+
+void BM_BuildReadingChoices(benchmark::State& state)
+{
+    FileCharacterDatabase& db = Database();
+    Random15 random(1);
+    std::uint16_t id = 0;
+    for (auto _ : state) {
+        const auto character = db.LoadCharacter(id);
+        benchmark::DoNotOptimize(ReadingChoices::Build(db, *character, random));
+        id = static_cast<std::uint16_t>((id + 1) % db.CharacterCount());
+    }
+}
+BENCHMARK(BM_BuildReadingChoices)->Unit(benchmark::kMicrosecond);
 
 } // namespace
 

@@ -1,0 +1,186 @@
+#include "CategoryPage.h"
+
+#include "CategoryRules.h"
+#include "CharacterDatabase.h"
+#include "CharacterGrid.h"
+#include "DatabaseLoadException.h"
+#include "KanjiInfoDialog.h"
+#include "ui_CategoryPage.h"
+
+#include <QMenu>
+#include <QMessageBox>
+
+namespace {
+/// String 223: shown in the empty strip while a lesson is possible.
+const char* const LessonHint =
+    "To learn characters press 'Lesson' button and then test learned characters by pressing 'Test' button.";
+/// String 225: shown in the empty strip when no lesson is possible.
+const char* const CategoryComplete = "Category complete";
+} // namespace
+
+CategoryPage::CategoryPage(CharacterDatabase& database, QWidget* parent)
+    : Page(parent), m_ui(std::make_unique<Ui::CategoryPage>()), m_database(database)
+{
+    m_ui->setupUi(this);
+    Grid()->setAccessibleName(tr("Characters of the category"));
+    Strip()->setAccessibleName(tr("Untested characters"));
+    for (CharacterGrid* grid : {Grid(), Strip()}) {
+        grid->SetGlyphSource([this](std::uint16_t code) { return GlyphOf(code); });
+        connect(grid, &CharacterGrid::selectionChanged, this, &CategoryPage::RefreshButtons);
+        connect(grid, &CharacterGrid::contextMenuRequested, this,
+                [this, grid](int cell, const QPoint& at) { OnContextMenu(grid, cell, at); });
+    }
+    // Context menus; each one's first item is its default.
+    m_learnedMenu = new QMenu(tr("Learned"), this);
+    QAction* info = m_learnedMenu->addAction(tr("&Info"), this, [this] { ShowInfo(Grid()); });
+    m_learnedMenu->setDefaultAction(info);
+    m_learnedMenu->addAction(tr("&Review"), this, [] {
+        // Review is offered but does nothing, deliberately.
+    });
+    m_learnedMenu->addAction(tr("&Forget"), this, &CategoryPage::OnForget);
+    m_unlearnedMenu = new QMenu(tr("Unlearned"), this);
+    m_unlearnedMenu->setDefaultAction(m_unlearnedMenu->addAction(tr("&Info"), this, [this] { ShowInfo(Grid()); }));
+    m_learnAction = m_unlearnedMenu->addAction(tr("&Learn"), this, &CategoryPage::OnLearn);
+    m_untestedMenu = new QMenu(tr("Untested"), this);
+    m_untestedMenu->setDefaultAction(m_untestedMenu->addAction(tr("&Info"), this, [this] { ShowInfo(Strip()); }));
+
+    connect(LessonButton(), &QPushButton::clicked, this, [this] { emit pageEvent(Lesson, 0); });
+    connect(TestButton(), &QPushButton::clicked, this, [this] { emit pageEvent(Test, 0); });
+    connect(RetestButton(), &QPushButton::clicked, this, &CategoryPage::OnRetest);
+    connect(ForgetButton(), &QPushButton::clicked, this, &CategoryPage::OnForget);
+    connect(BackButton(), &QPushButton::clicked, this, &CategoryPage::Cancel);
+    RefreshButtons();
+}
+
+CategoryPage::~CategoryPage() = default;
+
+CharacterGrid* CategoryPage::Grid() const { return m_ui->characterGrid; }
+CharacterGrid* CategoryPage::Strip() const { return m_ui->untestedStrip; }
+QPushButton* CategoryPage::LessonButton() const { return m_ui->lessonButton; }
+QPushButton* CategoryPage::TestButton() const { return m_ui->testButton; }
+QPushButton* CategoryPage::RetestButton() const { return m_ui->retestButton; }
+QPushButton* CategoryPage::ForgetButton() const { return m_ui->forgetButton; }
+QPushButton* CategoryPage::BackButton() const { return m_ui->backButton; }
+
+const Form* CategoryPage::GlyphOf(std::uint16_t code)
+{
+    auto found = m_glyphs.find(code);
+    if (found == m_glyphs.end()) {
+        std::shared_ptr<Element> glyph;
+        try {
+            glyph = m_database.LoadElement(m_database.LoadCharacter(code)->ElementId());
+        } catch (const ZavorenCommon::DatabaseLoadException&) {
+            // A cell without a readable glyph stays blank.
+        }
+        found = m_glyphs.insert(code, glyph);
+    }
+    return *found && (*found)->FormCount() > 0 ? &(*found)->GetForm(0) : nullptr;
+}
+
+bool CategoryPage::SetCategory(std::uint16_t categoryId, CategoryProgress* progress)
+{
+    m_progress = progress;
+    try {
+        m_category = m_database.LoadCategory(categoryId);
+    } catch (const ZavorenCommon::DatabaseLoadException& e) {
+        m_category.reset();
+        QMessageBox::critical(this, QStringLiteral("Zavoren Database Error"), QString::fromUtf8(e.what()));
+        Refresh();
+        return false;
+    }
+    m_ui->categoryName->setText(QString::fromUtf8(m_category->Name() ? m_category->Name() : ""));
+    Refresh();
+    return true;
+}
+
+void CategoryPage::Refresh()
+{
+    std::vector<std::uint16_t> learned, toLearn;
+    if (m_category && m_progress) {
+        for (std::uint16_t code : m_category->Characters())
+            (m_progress->IsLearned(code) ? learned : toLearn).push_back(code);
+    } else if (m_category) {
+        toLearn = m_category->Characters();
+    }
+    Grid()->SetGroups({{tr("Learned Kanji"), learned}, {tr("Kanji to be Learned"), toLearn}});
+    Strip()->SetGroups({{QString(), m_progress ? m_progress->Untested() : std::vector<std::uint16_t>{}}});
+    RefreshButtons();
+}
+
+void CategoryPage::RefreshButtons()
+{
+    static const CategoryProgress none;
+    const CategoryProgress& progress = m_progress ? *m_progress : none;
+    const std::size_t size = m_category ? m_category->CharacterCount() : 0;
+    const CategoryControlState s = DecideCategoryControls(size, progress, Grid()->FirstSelectedGroup() == LearnedGroup);
+    ForgetButton()->setEnabled(s.forgetEnabled);
+    TestButton()->setEnabled(s.testEnabled);
+    RetestButton()->setEnabled(s.retestEnabled);
+    LessonButton()->setEnabled(s.lessonEnabled);
+    m_learnAction->setEnabled(s.lessonEnabled);
+    Strip()->SetEmptyMessage(QString::fromUtf8(s.lessonEnabled ? LessonHint : CategoryComplete));
+    SetDefaultButton(s.testIsDefault ? TestButton() : LessonButton());
+}
+
+std::vector<std::uint16_t> CategoryPage::PickLessonCharacters(std::size_t max) const
+{
+    if (!m_category || !m_progress)
+        return {};
+    return ::PickLessonCharacters(m_category->Characters(), *m_progress, m_progress->UntestedCount(), max);
+}
+
+void CategoryPage::OnContextMenu(CharacterGrid* grid, int cell, const QPoint& globalPosition)
+{
+    if (cell < 0)
+        return;
+    QMenu* menu = grid == Strip() ? m_untestedMenu
+                                  : (grid->FirstSelectedGroup() == LearnedGroup ? m_learnedMenu : m_unlearnedMenu);
+    menu->popup(globalPosition, menu->defaultAction());
+}
+
+void CategoryPage::ShowInfo(CharacterGrid* grid)
+{
+    const std::vector<std::uint16_t> selected = grid->SelectedCodes();
+    if (selected.empty())
+        return;
+    KanjiInfoDialog dialog(m_database, this);
+    if (dialog.SetCode(selected.front())) {
+        if (m_infoHook)
+            m_infoHook(dialog);
+        dialog.exec();
+    }
+    grid->setFocus();
+    RefreshButtons();
+}
+
+void CategoryPage::OnForget()
+{
+    if (!m_progress || Grid()->FirstSelectedGroup() != LearnedGroup)
+        return;
+    for (std::uint16_t code : Grid()->SelectedCodes())
+        m_progress->RemoveLearned(code);
+    Refresh();
+}
+
+void CategoryPage::OnRetest()
+{
+    if (!m_progress || !RetestButton()->isEnabled())
+        return;
+    m_random.SeedFromClock();
+    ::Retest(*m_progress, m_random);
+    Refresh();
+    emit pageEvent(Test, 0);
+}
+
+void CategoryPage::OnLearn()
+{
+    const std::vector<std::uint16_t> selected = Grid()->SelectedCodes();
+    if (selected.empty() || !m_learnAction->isEnabled())
+        return;
+    emit pageEvent(Learn, selected.front());
+}
+
+void CategoryPage::Cancel()
+{
+    emit pageEvent(Back, 0);
+}

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "Category.h"
+#include "CategoryProgress.h"
+#include "Element.h"
+#include "Page.h"
+#include "Random15.h"
+
+#include <QHash>
+
+#include <memory>
+#include <vector>
+
+class CharacterDatabase;
+class CharacterGrid;
+class QLabel;
+class QMenu;
+class QAction;
+namespace Ui {
+class CategoryPage;
+}
+
+/// One category for the current learner: all its characters in the groups "Learned Kanji" and
+/// "Kanji to be Learned", and the strip of untested characters. Events: 0 Lesson, 1 Learn (with
+/// the character's code), 2 Test (also after Retest), 3 Back.
+class CategoryPage : public Page {
+    Q_OBJECT
+public:
+    enum Event : quint16 { Lesson = 0, Learn = 1, Test = 2, Back = 3 };
+    enum Group { LearnedGroup = 0, ToBeLearnedGroup = 1 };
+
+    explicit CategoryPage(CharacterDatabase& database, QWidget* parent = nullptr);
+    ~CategoryPage() override;
+
+    /// Shows a category with the learner's record of it (not owned; kept up to date here for
+    /// Retest and Forget). Returns false after an error box when the category cannot be read.
+    bool SetCategory(std::uint16_t categoryId, CategoryProgress* progress);
+    /// Up to `max` characters for a lesson from the Lesson button.
+    std::vector<std::uint16_t> PickLessonCharacters(std::size_t max) const;
+    /// Refreshes grid, strip and buttons from the learner's record.
+    void Refresh();
+
+    CharacterGrid* Grid() const;
+    CharacterGrid* Strip() const;
+    QPushButton* LessonButton() const;
+    QPushButton* TestButton() const;
+    QPushButton* RetestButton() const;
+    QPushButton* ForgetButton() const;
+    QPushButton* BackButton() const;
+    /// The three context menus: "Learned", "Unlearned", "Untested".
+    QMenu* LearnedMenu() const { return m_learnedMenu; }
+    QMenu* UnlearnedMenu() const { return m_unlearnedMenu; }
+    QMenu* UntestedMenu() const { return m_untestedMenu; }
+    /// Opens the Kanji Info dialog for the first selected character of `grid` (modal).
+    void ShowInfo(CharacterGrid* grid);
+    /// Test hook: called with each Kanji Info dialog before it runs.
+    void SetInfoDialogHook(std::function<void(QDialog&)> hook) { m_infoHook = std::move(hook); }
+
+protected:
+    void Cancel() override;
+
+private:
+    void RefreshButtons();
+    void OnContextMenu(CharacterGrid* grid, int cell, const QPoint& globalPosition);
+    void OnForget();
+    void OnRetest();
+    void OnLearn();
+    const Form* GlyphOf(std::uint16_t code);
+
+    std::unique_ptr<Ui::CategoryPage> m_ui;
+    CharacterDatabase& m_database;
+    std::unique_ptr<Category> m_category;
+    CategoryProgress* m_progress = nullptr;
+    QMenu* m_learnedMenu = nullptr;
+    QMenu* m_unlearnedMenu = nullptr;
+    QMenu* m_untestedMenu = nullptr;
+    QAction* m_learnAction = nullptr;
+    QHash<std::uint16_t, std::shared_ptr<Element>> m_glyphs;
+    Random15 m_random;
+    std::function<void(QDialog&)> m_infoHook;
+};

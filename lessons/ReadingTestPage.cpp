@@ -1,0 +1,114 @@
+#include "ReadingTestPage.h"
+
+#include "CharacterDatabase.h"
+#include "DatabaseLoadException.h"
+#include "DisplayCanvas.h"
+#include "Page.h"
+#include "ui_ReadingTestPage.h"
+
+#include <QMessageBox>
+
+ReadingTestPage::ReadingTestPage(CharacterDatabase& database, QWidget* parent)
+    : QuestionPage(parent), m_ui(std::make_unique<Ui::ReadingTestPage>()), m_database(database)
+{
+    m_ui->setupUi(this);
+    Display()->MakeSquare();
+    m_onButtons = {m_ui->on0, m_ui->on1, m_ui->on2, m_ui->on3, m_ui->on4};
+    m_kunButtons = {m_ui->kun0, m_ui->kun1, m_ui->kun2, m_ui->kun3, m_ui->kun4};
+    for (int i = 0; i < 5; ++i) {
+        connect(m_onButtons[static_cast<std::size_t>(i)], &QRadioButton::clicked, this, [this, i] { Pick(true, i); });
+        connect(m_kunButtons[static_cast<std::size_t>(i)], &QRadioButton::clicked, this, [this, i] { Pick(false, i); });
+    }
+    connect(Display(), &DisplayCanvas::clicked, this, [this] {
+        if (m_glyph)
+            Display()->StartAnimation(m_glyph->GetForm(0), 10);
+    });
+}
+
+ReadingTestPage::~ReadingTestPage() = default;
+
+QLabel* ReadingTestPage::OnReadingLabel() const { return m_ui->onReading; }
+QLabel* ReadingTestPage::KunReadingLabel() const { return m_ui->kunReading; }
+QLabel* ReadingTestPage::MeaningLabel() const { return m_ui->meaning; }
+DisplayCanvas* ReadingTestPage::Display() const { return m_ui->displayCanvas; }
+
+void ReadingTestPage::SetCharacter(const Character* character)
+{
+    m_character = character;
+    m_glyph.reset();
+    m_selectedOn = m_selectedKun = -1;
+    m_onRight = m_kunRight = false;
+    m_perfect = true;
+    Display()->StopAnimation();
+    if (character) {
+        try {
+            auto glyph = m_database.LoadElement(character->ElementId());
+            if (glyph->FormCount() > 0)
+                m_glyph = std::move(glyph);
+        } catch (const ZavorenCommon::DatabaseLoadException& e) {
+            QMessageBox::critical(this, QStringLiteral("Zavoren Database Error"), QString::fromUtf8(e.what()));
+        }
+        OnReadingLabel()->setText(QStringLiteral("?"));
+        KunReadingLabel()->setText(QStringLiteral("?"));
+        MeaningLabel()->setText(TextOrNotAvailable(character->Meaning()));
+        if (m_glyph)
+            Display()->ShowGlyph(m_glyph->GetForm(0));
+        else
+            Display()->Wipe();
+        m_random.SeedFromClock();
+        try {
+            m_choices = ReadingChoices::Build(m_database, *character, m_random);
+        } catch (const ZavorenCommon::DatabaseLoadException& e) {
+            m_choices = {};
+            QMessageBox::critical(this, QStringLiteral("Zavoren Database Error"), QString::fromUtf8(e.what()));
+        }
+    } else {
+        m_choices = {};
+    }
+    for (int set = 0; set < 2; ++set) {
+        const auto& buttons = set == 0 ? m_onButtons : m_kunButtons;
+        const auto& texts = set == 0 ? m_choices.on : m_choices.kun;
+        // Unchecking needs the group's exclusivity lifted for a moment.
+        buttons[0]->setAutoExclusive(false);
+        for (std::size_t i = 0; i < buttons.size(); ++i) {
+            buttons[i]->setAutoExclusive(false);
+            buttons[i]->setChecked(false);
+            const bool has = i < texts.size();
+            buttons[i]->setText(has ? TextOrNotAvailable(texts[i].c_str()) : QString());
+            buttons[i]->setEnabled(has);
+        }
+        for (QRadioButton* b : buttons)
+            b->setAutoExclusive(true);
+    }
+}
+
+bool ReadingTestPage::IsAnswered() const
+{
+    return m_selectedOn >= 0 && m_selectedKun >= 0 && m_onRight && m_kunRight;
+}
+
+void ReadingTestPage::Pick(bool on, int index)
+{
+    if (!m_character)
+        return;
+    bool& right = on ? m_onRight : m_kunRight;
+    if (right)
+        return; // this set is already answered
+    const auto& texts = on ? m_choices.on : m_choices.kun;
+    if (static_cast<std::size_t>(index) >= texts.size())
+        return;
+    (on ? m_selectedOn : m_selectedKun) = index;
+    const char* reading = on ? m_character->OnReading() : m_character->KunReading();
+    right = texts[static_cast<std::size_t>(index)] == (reading ? reading : "");
+    if (!right) {
+        m_perfect = false;
+        return;
+    }
+    (on ? OnReadingLabel() : KunReadingLabel())->setText(TextOrNotAvailable(reading));
+    const auto& buttons = on ? m_onButtons : m_kunButtons;
+    for (int i = 0; i < 5; ++i)
+        if (i != index)
+            buttons[static_cast<std::size_t>(i)]->setEnabled(false);
+    if (IsAnswered())
+        emit pageEvent(m_perfect ? AnsweredCleanly : AnsweredWithMistakes, 0);
+}

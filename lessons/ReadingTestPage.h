@@ -1,0 +1,56 @@
+#pragma once
+
+#include "Element.h"
+#include "QuestionPage.h"
+#include "Random15.h"
+#include "ReadingChoices.h"
+
+#include <array>
+#include <memory>
+
+class CharacterDatabase;
+class DisplayCanvas;
+class QLabel;
+class QRadioButton;
+namespace Ui {
+class ReadingTestPage;
+}
+
+/// Shows a character's glyph and meaning and asks for its ON and KUN readings among five
+/// choices each. A wrong pick makes the answer one with mistakes.
+class ReadingTestPage : public QuestionPage {
+    Q_OBJECT
+public:
+    explicit ReadingTestPage(CharacterDatabase& database, QWidget* parent = nullptr);
+    ~ReadingTestPage() override;
+
+    void SetCharacter(const Character* character) override;
+    bool IsAnswered() const override;
+
+    /// Whether no wrong pick was made for this question.
+    bool Perfect() const { return m_perfect; }
+    const ReadingChoices& Choices() const { return m_choices; }
+    QRadioButton* OnButton(int i) const { return m_onButtons.at(static_cast<std::size_t>(i)); }
+    QRadioButton* KunButton(int i) const { return m_kunButtons.at(static_cast<std::size_t>(i)); }
+    QLabel* OnReadingLabel() const;
+    QLabel* KunReadingLabel() const;
+    QLabel* MeaningLabel() const;
+    DisplayCanvas* Display() const;
+
+private:
+    void Pick(bool on, int index);
+
+    std::unique_ptr<Ui::ReadingTestPage> m_ui;
+    CharacterDatabase& m_database;
+    const Character* m_character = nullptr;
+    std::unique_ptr<Element> m_glyph;
+    std::array<QRadioButton*, 5> m_onButtons{};
+    std::array<QRadioButton*, 5> m_kunButtons{};
+    ReadingChoices m_choices;
+    int m_selectedOn = -1;
+    int m_selectedKun = -1;
+    bool m_onRight = false;
+    bool m_kunRight = false;
+    bool m_perfect = true;
+    Random15 m_random;
+};

@@ -1,0 +1,245 @@
+#include "CategoryPage.h"
+#include "CharacterGrid.h"
+#include "KanjiInfoDialog.h"
+#include "Random15.h"
+#include "TestSupport.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+using namespace testsupport;
+using Codes = std::vector<std::uint16_t>;
+
+class CategoryPageTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        TestSeedOverride() = 777;
+        m_standard = std::make_unique<FileCharacterDatabase>(ZAVOREN_STANDARD_DATABASE);
+        m_standard->Preload(nullptr);
+        m_grade1 = m_standard->LoadCategory(0)->Characters();
+    }
+    void cleanupTestCase() { TestSeedOverride() = 0; }
+
+    void init()
+    {
+        m_progress = CategoryProgress();
+        m_progress.SetCategoryId(0);
+        m_page = std::make_unique<CategoryPage>(*m_standard);
+        m_page->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_page.get()));
+    }
+    void cleanup() { m_page.reset(); }
+
+    void buttonsFollowTheUntestedCount_data()
+    {
+        QTest::addColumn<int>("untested");
+        for (int n : {0, 4, 5, 9, 10})
+            QTest::newRow(std::to_string(n).c_str()) << n;
+    }
+    void buttonsFollowTheUntestedCount()
+    {
+        QFETCH(int, untested);
+        for (int i = 0; i < 6; ++i)
+            m_progress.AddLearned(m_grade1[static_cast<std::size_t>(i)]);
+        for (int i = 0; i < untested; ++i)
+            m_progress.AddUntested(m_grade1[static_cast<std::size_t>(10 + i)]);
+        m_page->SetCategory(0, &m_progress);
+        QCOMPARE(m_page->TestButton()->isEnabled(), untested > 0);
+        QCOMPARE(m_page->RetestButton()->isEnabled(), untested < 5);
+        QCOMPARE(m_page->LessonButton()->isEnabled(), untested < 10);
+        QVERIFY(!m_page->ForgetButton()->isEnabled());
+        QCOMPARE(m_page->DefaultButton(), untested > 0 ? m_page->TestButton() : m_page->LessonButton());
+        QCOMPARE(m_page->Strip()->Groups()[0].codes.size(), std::size_t(untested));
+        QCOMPARE(m_page->Grid()->Groups()[0].codes.size(), 6u);
+        QCOMPARE(m_page->Grid()->Groups()[1].codes.size(), m_grade1.size() - 6);
+        QCOMPARE(m_page->Grid()->Groups()[0].title, QStringLiteral("Learned Kanji"));
+        QCOMPARE(m_page->Grid()->Groups()[1].title, QStringLiteral("Kanji to be Learned"));
+        const auto lesson = m_page->PickLessonCharacters(5);
+        QCOMPARE(lesson.size(), std::size_t(std::min(5, std::max(0, 10 - untested))));
+    }
+
+    void nineUntestedLessonTakesOne()
+    {
+        for (int i = 0; i < 9; ++i)
+            m_progress.AddUntested(m_grade1[static_cast<std::size_t>(i)]);
+        m_page->SetCategory(0, &m_progress);
+        QVERIFY(m_page->LessonButton()->isEnabled());
+        QCOMPARE(m_page->PickLessonCharacters(5), Codes{m_grade1[9]});
+        QSignalSpy events(m_page.get(), &CategoryPage::pageEvent);
+        QTest::mouseClick(m_page->LessonButton(), Qt::LeftButton);
+        QCOMPARE(events.count(), 1);
+        QCOMPARE(events[0][0].toInt(), int(CategoryPage::Lesson));
+    }
+
+    void completeCategorySaysSoInTheStrip()
+    {
+        for (std::uint16_t code : m_grade1)
+            m_progress.AddLearned(code);
+        m_page->SetCategory(0, &m_progress);
+        QVERIFY(!m_page->LessonButton()->isEnabled());
+        QCOMPARE(m_page->Strip()->EmptyMessage(), QStringLiteral("Category complete"));
+        m_progress = CategoryProgress();
+        m_page->Refresh();
+        QCOMPARE(m_page->Strip()->EmptyMessage(),
+                 QStringLiteral("To learn characters press 'Lesson' button and then test learned characters by pressing 'Test' button."));
+    }
+
+    void retestWithFiveLearnedAndFourUntested()
+    {
+        for (int i = 0; i < 5; ++i)
+            m_progress.AddLearned(m_grade1[static_cast<std::size_t>(i)]);
+        for (int i = 5; i < 9; ++i)
+            m_progress.AddUntested(m_grade1[static_cast<std::size_t>(i)]);
+        m_page->SetCategory(0, &m_progress);
+        QVERIFY(m_page->RetestButton()->isEnabled());
+        QSignalSpy events(m_page.get(), &CategoryPage::pageEvent);
+        QTest::mouseClick(m_page->RetestButton(), Qt::LeftButton);
+        QCOMPARE(m_progress.UntestedCount(), 9u);
+        QCOMPARE(m_progress.LearnedCount(), 0u);
+        QCOMPARE(events.count(), 1);
+        QCOMPARE(events[0][0].toInt(), int(CategoryPage::Test));
+    }
+
+    void forgetSeveralSelectedCells()
+    {
+        for (int i = 0; i < 6; ++i)
+            m_progress.AddLearned(m_grade1[static_cast<std::size_t>(i)]);
+        m_page->SetCategory(0, &m_progress);
+        CharacterGrid* grid = m_page->Grid();
+        QVERIFY(!m_page->ForgetButton()->isEnabled()); // nothing selected
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, grid->CellRect(1).center());
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::ControlModifier, grid->CellRect(3).center());
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::ControlModifier, grid->CellRect(4).center());
+        QCOMPARE(grid->SelectedCodes(), (Codes{m_grade1[1], m_grade1[3], m_grade1[4]}));
+        QVERIFY(m_page->ForgetButton()->isEnabled());
+        QTest::mouseClick(m_page->ForgetButton(), Qt::LeftButton);
+        QCOMPARE(m_progress.Learned(), (Codes{m_grade1[0], m_grade1[2], m_grade1[5]}));
+        QCOMPARE(grid->Groups()[0].codes.size(), 3u);
+        QVERIFY(!m_page->ForgetButton()->isEnabled());
+        // A cell of "Kanji to be Learned" first: Forget stays disabled.
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, grid->CellRect(5).center());
+        QVERIFY(!m_page->ForgetButton()->isEnabled());
+    }
+
+    void keyboardMovesAcrossGroups()
+    {
+        for (int i = 0; i < 3; ++i)
+            m_progress.AddLearned(m_grade1[static_cast<std::size_t>(i)]);
+        m_page->SetCategory(0, &m_progress);
+        CharacterGrid* grid = m_page->Grid();
+        grid->setFocus();
+        const int columns = grid->Columns();
+        QVERIFY(columns > 3);
+        QTest::keyClick(grid, Qt::Key_Home);
+        QCOMPARE(grid->FocusedCell(), 0);
+        QTest::keyClick(grid, Qt::Key_Right);
+        QCOMPARE(grid->FocusedCell(), 1);
+        QTest::keyClick(grid, Qt::Key_Down); // from "Learned Kanji" into the next group, same column
+        QCOMPARE(grid->FocusedCell(), 3 + 1);
+        QCOMPARE(grid->SelectedCodes(), Codes{m_grade1[4]});
+        QVERIFY(!m_page->ForgetButton()->isEnabled());
+        QTest::keyClick(grid, Qt::Key_Up);
+        QCOMPARE(grid->FocusedCell(), 1);
+        QVERIFY(m_page->ForgetButton()->isEnabled());
+        QTest::keyClick(grid, Qt::Key_Left);
+        QTest::keyClick(grid, Qt::Key_Left);
+        QCOMPARE(grid->FocusedCell(), 0);
+        QTest::keyClick(grid, Qt::Key_End);
+        QCOMPARE(grid->FocusedCell(), int(m_grade1.size()) - 1);
+        QVERIFY(grid->CellRect(grid->FocusedCell()).bottom() <= grid->viewport()->height()); // scrolled into view
+    }
+
+    void nothingSelectedMakesInfoAndLearnDoNothing()
+    {
+        m_page->SetCategory(0, &m_progress);
+        QSignalSpy events(m_page.get(), &CategoryPage::pageEvent);
+        bool opened = false;
+        m_page->SetInfoDialogHook([&](QDialog&) { opened = true; });
+        m_page->ShowInfo(m_page->Grid());
+        QVERIFY(!opened);
+        m_page->UnlearnedMenu()->actions()[1]->trigger(); // Learn
+        QCOMPARE(events.count(), 0);
+    }
+
+    void contextMenusAndTheirDefaults()
+    {
+        QCOMPARE(m_page->LearnedMenu()->title(), QStringLiteral("Learned"));
+        QStringList learned;
+        for (QAction* a : m_page->LearnedMenu()->actions())
+            learned << a->text();
+        QCOMPARE(learned, (QStringList{"&Info", "&Review", "&Forget"}));
+        QCOMPARE(m_page->LearnedMenu()->defaultAction(), m_page->LearnedMenu()->actions()[0]);
+        QCOMPARE(m_page->UnlearnedMenu()->actions().size(), 2);
+        QCOMPARE(m_page->UnlearnedMenu()->defaultAction()->text(), QStringLiteral("&Info"));
+        QCOMPARE(m_page->UntestedMenu()->actions().size(), 1);
+        // Learn on a cell of "Kanji to be Learned" asks for a lesson of that character.
+        m_progress.AddLearned(m_grade1[0]);
+        m_page->SetCategory(0, &m_progress);
+        QSignalSpy events(m_page.get(), &CategoryPage::pageEvent);
+        m_page->Grid()->SelectCell(2);
+        m_page->UnlearnedMenu()->actions()[1]->trigger();
+        QCOMPARE(events.count(), 1);
+        QCOMPARE(events[0][0].toInt(), int(CategoryPage::Learn));
+        QCOMPARE(events[0][1].toInt(), int(m_grade1[2]));
+        // Review does nothing.
+        m_page->Grid()->SelectCell(0);
+        const Codes before = m_progress.Learned();
+        m_page->LearnedMenu()->actions()[1]->trigger();
+        QCOMPARE(events.count(), 1);
+        QCOMPARE(m_progress.Learned(), before);
+    }
+
+    void infoOpensTheKanjiInfoDialogForTheFirstSelected()
+    {
+        m_progress.AddUntested(m_grade1[7]);
+        m_page->SetCategory(0, &m_progress);
+        m_page->Strip()->SelectCell(0);
+        QString title;
+        m_page->SetInfoDialogHook([&](QDialog& dialog) {
+            title = dialog.windowTitle();
+            QTimer::singleShot(0, &dialog, [&dialog] { QTest::keyClick(&dialog, Qt::Key_Escape); });
+        });
+        m_page->UntestedMenu()->actions()[0]->trigger();
+        QCOMPARE(title, QStringLiteral(" Kanji Info"));
+        QCOMPARE(m_page->focusWidget(), m_page->Strip()); // focus goes back to the strip
+    }
+
+    void backAndEscapeGoBack()
+    {
+        m_page->SetCategory(0, &m_progress);
+        QSignalSpy events(m_page.get(), &CategoryPage::pageEvent);
+        QTest::mouseClick(m_page->BackButton(), Qt::LeftButton);
+        QTest::keyClick(m_page.get(), Qt::Key_Escape);
+        QCOMPARE(events.count(), 2);
+        QCOMPARE(events[1][0].toInt(), int(CategoryPage::Back));
+    }
+
+    void largeCategoryDrawsOnlyVisibleCells()
+    {
+        // "Secondary school" holds over a thousand characters.
+        m_page->SetCategory(6, &m_progress);
+        QVERIFY(m_page->Grid()->Groups()[1].codes.size() > 1000);
+        m_page->grab();
+        const int afterFirstPaint = m_page->Grid()->RenderedCells();
+        QVERIFY(afterFirstPaint > 0);
+        QVERIFY(afterFirstPaint < 200);
+        m_page->grab();
+        QCOMPARE(m_page->Grid()->RenderedCells(), afterFirstPaint); // cached
+    }
+
+private:
+    std::unique_ptr<FileCharacterDatabase> m_standard;
+    Codes m_grade1;
+    CategoryProgress m_progress;
+    std::unique_ptr<CategoryPage> m_page;
+};
+
+QTEST_MAIN(CategoryPageTest)
+#include "CategoryPageTest.moc"
