@@ -4,11 +4,11 @@
 #include "CharacterDatabase.h"
 #include "CharacterGrid.h"
 #include "DatabaseLoadException.h"
+#include "MessageBox.h"
 #include "KanjiInfoDialog.h"
 #include "ui_CategoryPage.h"
 
 #include <QMenu>
-#include <QMessageBox>
 
 namespace {
 /// String 223: shown in the empty strip while a lesson is possible.
@@ -84,7 +84,7 @@ bool CategoryPage::SetCategory(std::uint16_t categoryId, CategoryProgress* progr
         m_category = m_database.LoadCategory(categoryId);
     } catch (const ZavorenCommon::DatabaseLoadException& e) {
         m_category.reset();
-        QMessageBox::critical(this, QStringLiteral("Zavoren Database Error"), QString::fromUtf8(e.what()));
+        ShowStoreError(this, "Zavoren Database Error", e.what());
         Refresh();
         return false;
     }

@@ -2,13 +2,13 @@
 
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
+#include "MessageBox.h"
 #include "DisplayCanvas.h"
 #include "InputCanvas.h"
 #include "Page.h"
 #include "WritingCursor.h"
 #include "ui_DrawingTestPage.h"
 
-#include <QMessageBox>
 
 DrawingTestPage::DrawingTestPage(CharacterDatabase& database, QWidget* parent)
     : QuestionPage(parent), m_ui(std::make_unique<Ui::DrawingTestPage>()), m_database(database)
@@ -42,7 +42,7 @@ void DrawingTestPage::SetCharacter(const Character* character)
             if (glyph->FormCount() > 0)
                 m_glyph = std::move(glyph);
         } catch (const ZavorenCommon::DatabaseLoadException& e) {
-            QMessageBox::critical(this, QStringLiteral("Zavoren Database Error"), QString::fromUtf8(e.what()));
+            ShowStoreError(this, "Zavoren Database Error", e.what());
         }
         if (m_glyph) {
             const QRect client = Input()->ClientRect();

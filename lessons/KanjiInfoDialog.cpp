@@ -2,11 +2,11 @@
 
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
+#include "MessageBox.h"
 #include "DisplayCanvas.h"
 #include "Page.h"
 #include "ui_KanjiInfoDialog.h"
 
-#include <QMessageBox>
 
 KanjiInfoDialog::KanjiInfoDialog(CharacterDatabase& database, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::KanjiInfoDialog>()), m_database(database)
@@ -42,7 +42,7 @@ bool KanjiInfoDialog::SetCode(std::uint16_t code)
         m_glyph = std::move(glyph);
         return true;
     } catch (const ZavorenCommon::DatabaseLoadException& e) {
-        QMessageBox::critical(parentWidget(), QStringLiteral("Zavoren Database Error"), QString::fromUtf8(e.what()));
+        ShowStoreError(parentWidget(), "Zavoren Database Error", e.what());
     }
     return false;
 }

@@ -2,12 +2,12 @@
 
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
+#include "MessageBox.h"
 #include "DisplayCanvas.h"
 #include "InputCanvas.h"
 #include "WritingCursor.h"
 #include "ui_LessonPage.h"
 
-#include <QMessageBox>
 
 namespace {
 
@@ -133,7 +133,7 @@ void LessonPage::LoadCharacter()
 
 void LessonPage::ReportDatabaseError(const char* message)
 {
-    QMessageBox::critical(this, QStringLiteral("Zavoren Database Error"), QString::fromUtf8(message));
+    ShowStoreError(this, "Zavoren Database Error", message);
 }
 
 void LessonPage::RefreshControls()

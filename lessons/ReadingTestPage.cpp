@@ -2,11 +2,11 @@
 
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
+#include "MessageBox.h"
 #include "DisplayCanvas.h"
 #include "Page.h"
 #include "ui_ReadingTestPage.h"
 
-#include <QMessageBox>
 
 ReadingTestPage::ReadingTestPage(CharacterDatabase& database, QWidget* parent)
     : QuestionPage(parent), m_ui(std::make_unique<Ui::ReadingTestPage>()), m_database(database)
@@ -46,7 +46,7 @@ void ReadingTestPage::SetCharacter(const Character* character)
             if (glyph->FormCount() > 0)
                 m_glyph = std::move(glyph);
         } catch (const ZavorenCommon::DatabaseLoadException& e) {
-            QMessageBox::critical(this, QStringLiteral("Zavoren Database Error"), QString::fromUtf8(e.what()));
+            ShowStoreError(this, "Zavoren Database Error", e.what());
         }
         OnReadingLabel()->setText(QStringLiteral("?"));
         KunReadingLabel()->setText(QStringLiteral("?"));
@@ -60,7 +60,7 @@ void ReadingTestPage::SetCharacter(const Character* character)
             m_choices = ReadingChoices::Build(m_database, *character, m_random);
         } catch (const ZavorenCommon::DatabaseLoadException& e) {
             m_choices = {};
-            QMessageBox::critical(this, QStringLiteral("Zavoren Database Error"), QString::fromUtf8(e.what()));
+            ShowStoreError(this, "Zavoren Database Error", e.what());
         }
     } else {
         m_choices = {};

@@ -2,11 +2,11 @@
 
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
+#include "MessageBox.h"
 #include "DrawingTestPage.h"
 #include "ReadingTestPage.h"
 #include "ui_TestContainer.h"
 
-#include <QMessageBox>
 
 TestContainer::TestContainer(CharacterDatabase& database, QWidget* parent)
     : Page(parent), m_ui(std::make_unique<Ui::TestContainer>()), m_database(database)
@@ -61,7 +61,7 @@ void TestContainer::AskQuestion()
         m_character.reset();
         m_character = m_database.LoadCharacter(*code);
     } catch (const ZavorenCommon::DatabaseLoadException& e) {
-        QMessageBox::critical(this, QStringLiteral("Zavoren Database Error"), QString::fromUtf8(e.what()));
+        ShowStoreError(this, "Zavoren Database Error", e.what());
     }
     QuestionPage* page = m_schedule.CurrentPage() == Reading ? static_cast<QuestionPage*>(m_reading)
                                                              : static_cast<QuestionPage*>(m_drawing);

@@ -1,0 +1,36 @@
+#include "AddUserDialog.h"
+
+#include "ui_AddUserDialog.h"
+
+AddUserDialog::AddUserDialog(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::AddUserDialog>())
+{
+    m_ui->setupUi(this);
+    connect(NameEdit(), &QLineEdit::textChanged, this, &AddUserDialog::UpdateOk);
+    connect(OkButton(), &QPushButton::clicked, this, [this] {
+        if (NameEdit()->text().isEmpty())
+            return;
+        m_name = NameEdit()->text();
+        done(1);
+    });
+    connect(CancelButton(), &QPushButton::clicked, this, [this] { done(2); });
+}
+
+AddUserDialog::~AddUserDialog() = default;
+
+QLineEdit* AddUserDialog::NameEdit() const { return m_ui->nameEdit; }
+QPushButton* AddUserDialog::OkButton() const { return m_ui->okButton; }
+QPushButton* AddUserDialog::CancelButton() const { return m_ui->cancelButton; }
+
+void AddUserDialog::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    NameEdit()->setText(m_name);
+    NameEdit()->setFocus();
+    NameEdit()->selectAll();
+    UpdateOk();
+}
+
+void AddUserDialog::UpdateOk()
+{
+    OkButton()->setEnabled(!NameEdit()->text().isEmpty());
+}

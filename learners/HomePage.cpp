@@ -1,0 +1,112 @@
+#include "HomePage.h"
+
+#include "CharacterDatabase.h"
+#include "DatabaseLoadException.h"
+#include "MessageBox.h"
+#include "User.h"
+#include "ui_HomePage.h"
+
+namespace {
+/// Page size in dialog units, converted with the font's metrics.
+constexpr int PageWidthUnits = 197;
+constexpr int PageHeightUnits = 264;
+} // namespace
+
+HomePage::HomePage(CharacterDatabase& database, QWidget* parent)
+    : Page(parent), m_ui(std::make_unique<Ui::HomePage>()), m_database(database)
+{
+    m_ui->setupUi(this);
+    CategoryList()->setAccessibleName(tr("Categories"));
+    CategoryList()->setIconSize(QSize(16, 16));
+    const QFontMetrics metrics(font());
+    setFixedSize(PageWidthUnits * metrics.averageCharWidth() / 4, PageHeightUnits * metrics.height() / 8);
+    connect(CategoryList(), &QTreeWidget::itemSelectionChanged, this, &HomePage::UpdateButtons);
+    connect(CategoryList(), &QTreeWidget::itemDoubleClicked, this, [this] {
+        if (!CategoryList()->selectedItems().isEmpty())
+            OnOpen();
+    });
+    connect(OpenButton(), &QPushButton::clicked, this, &HomePage::OnOpen);
+    UpdateButtons();
+}
+
+HomePage::~HomePage() = default;
+
+QLabel* HomePage::UserNameLabel() const { return m_ui->userName; }
+QTreeWidget* HomePage::CategoryList() const { return m_ui->categoryList; }
+QPushButton* HomePage::OpenButton() const { return m_ui->openButton; }
+
+QString HomePage::CategoryText(const char* name, std::size_t learned, std::size_t total)
+{
+    QString text = QString::fromUtf8(name ? name : "");
+    if (learned > 0)
+        text += QString::asprintf(" (%d of %d)", static_cast<int>(learned), static_cast<int>(total));
+    return text;
+}
+
+void HomePage::FillItem(QTreeWidgetItem* item, std::uint16_t categoryId)
+{
+    const auto category = m_database.LoadCategory(categoryId);
+    const std::size_t learned = m_user->GetProgress(category->Id()).LearnedCount();
+    item->setText(0, CategoryText(category->Name(), learned, category->CharacterCount()));
+    item->setIcon(0, QIcon(learned > 0 ? QStringLiteral(":/images/category-progress.png")
+                                       : QStringLiteral(":/images/category-new.png")));
+    item->setData(0, Qt::UserRole, categoryId);
+    item->setData(0, Qt::UserRole + 1, learned > 0 ? 1 : 0); // the picture shown: 1 with progress
+}
+
+void HomePage::SetUser(User* user)
+{
+    m_user = user;
+    if (!user) {
+        // The list keeps the previous learner's items.
+        UserNameLabel()->setText(TextOrNotAvailable(nullptr));
+    } else {
+        UserNameLabel()->setText(QString::fromUtf8(user->Name() ? user->Name() : ""));
+        CategoryList()->clear();
+        try {
+            for (std::uint16_t i = 0; i < m_database.CategoryCount(); ++i) {
+                auto* item = new QTreeWidgetItem(CategoryList());
+                FillItem(item, i);
+            }
+        } catch (const ZavorenCommon::DatabaseLoadException& e) {
+            ShowStoreError(this, "Zavoren Database Error", e.what());
+        }
+    }
+    UpdateButtons();
+}
+
+void HomePage::RefreshSelectedCategory()
+{
+    const auto selected = CategoryList()->selectedItems();
+    if (selected.isEmpty() || !m_user)
+        return;
+    try {
+        FillItem(selected.front(), static_cast<std::uint16_t>(selected.front()->data(0, Qt::UserRole).toUInt()));
+    } catch (const ZavorenCommon::DatabaseLoadException& e) {
+        ShowStoreError(this, "Zavoren Database Error", e.what());
+    }
+}
+
+void HomePage::UpdateButtons()
+{
+    setEnabled(m_user != nullptr);
+    const bool selected = m_user && !CategoryList()->selectedItems().isEmpty();
+    OpenButton()->setEnabled(selected);
+    SetDefaultButton(selected ? OpenButton() : nullptr);
+}
+
+void HomePage::showEvent(QShowEvent* event)
+{
+    Page::showEvent(event);
+    UpdateButtons();
+    CategoryList()->setFocus();
+}
+
+void HomePage::OnOpen()
+{
+    const auto selected = CategoryList()->selectedItems();
+    if (selected.isEmpty() || !m_user)
+        return;
+    m_chosenCategory = static_cast<std::uint16_t>(selected.front()->data(0, Qt::UserRole).toUInt());
+    emit pageEvent(OpenCategory, 0);
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "Page.h"
+
+#include <memory>
+
+class CharacterDatabase;
+class QTreeWidget;
+class QTreeWidgetItem;
+class QLabel;
+class User;
+namespace Ui {
+class HomePage;
+}
+
+/// The first page: the open learner's name and every category of the database with the
+/// learner's progress in it. Event 0: open the selected category.
+class HomePage : public Page {
+    Q_OBJECT
+public:
+    enum Event : quint16 { OpenCategory = 0 };
+
+    explicit HomePage(CharacterDatabase& database, QWidget* parent = nullptr);
+    ~HomePage() override;
+
+    /// The learner whose progress is shown (not owned), or null when none is open.
+    void SetUser(User* user);
+    /// Brings the selected category's text and picture up to date.
+    void RefreshSelectedCategory();
+    /// The category chosen by the last Open.
+    std::uint16_t ChosenCategory() const { return m_chosenCategory; }
+
+    QLabel* UserNameLabel() const;
+    QTreeWidget* CategoryList() const;
+    QPushButton* OpenButton() const;
+    /// The text shown for a category: its name, and " (learned of total)" once one is learned.
+    static QString CategoryText(const char* name, std::size_t learned, std::size_t total);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void FillItem(QTreeWidgetItem* item, std::uint16_t categoryId);
+    void UpdateButtons();
+    void OnOpen();
+
+    std::unique_ptr<Ui::HomePage> m_ui;
+    CharacterDatabase& m_database;
+    User* m_user = nullptr;
+    std::uint16_t m_chosenCategory = 0;
+};

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QDialog>
+
+#include <functional>
+#include <memory>
+#include <string>
+
+class AddUserDialog;
+class ConfigStore;
+class QListWidget;
+class QPushButton;
+namespace Ui {
+class UserManagerDialog;
+}
+
+/// Lists the learners and offers Open, Add, Delete and Close. Ends with 1 when the learner
+/// named by SelectedUserName() is to be opened, 2 or 8 when closed.
+class UserManagerDialog : public QDialog {
+    Q_OBJECT
+public:
+    enum Result { Open = 1, Cancelled = 2, Closed = 8 };
+
+    explicit UserManagerDialog(QWidget* parent = nullptr);
+    ~UserManagerDialog() override;
+
+    /// The selected learner's name; empty when none is selected.
+    const std::string& SelectedUserName() const { return m_selectedUserName; }
+    QListWidget* UserList() const;
+    QPushButton* OpenButton() const;
+    QPushButton* AddButton() const;
+    QPushButton* DeleteButton() const;
+    QPushButton* CloseButton() const;
+    /// The button that Enter presses: Open with a selection, otherwise Add.
+    QPushButton* DefaultButton() const;
+    /// Test hook: called with the Add dialog each time before it runs.
+    void SetAddDialogHook(std::function<void(AddUserDialog&)> hook) { m_addHook = std::move(hook); }
+
+signals:
+    /// The current learner was deleted; whoever shows the learner must drop it.
+    void currentUserDeleted();
+    /// Saving the learner file failed while adding or deleting; the message is the store's.
+    void storeFailed(const QString& message);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void reject() override;
+
+private:
+    void Fill();
+    void SelectRow(int row);
+    void UpdateButtons();
+    void OnAdd();
+    void OnDelete();
+
+    std::unique_ptr<Ui::UserManagerDialog> m_ui;
+    ConfigStore* m_store = nullptr;
+    std::string m_selectedUserName;
+    std::function<void(AddUserDialog&)> m_addHook;
+};

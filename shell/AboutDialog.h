@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QDialog>
+
+class HyperlinkLabel;
+class QLabel;
+class QPushButton;
+
+/// The About box: product line, version, the maker's site and support links, the data credits.
+class AboutDialog : public QDialog {
+    Q_OBJECT
+public:
+    explicit AboutDialog(QWidget* owner = nullptr);
+
+    QLabel* VersionLabel() const { return m_version; }
+    HyperlinkLabel* SiteLink() const { return m_site; }
+    HyperlinkLabel* SupportLink() const { return m_support; }
+    QPushButton* OkButton() const { return m_ok; }
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QLabel* m_version = nullptr;
+    HyperlinkLabel* m_site = nullptr;
+    HyperlinkLabel* m_support = nullptr;
+    QPushButton* m_ok = nullptr;
+};

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QLabel>
+
+/// A link in a dialog: underlined text in the link colour (blue), purple once visited for the
+/// life of the control, a hand cursor and the target as tooltip. A click opens the target with
+/// the desktop; only a successful open marks the link visited.
+class HyperlinkLabel : public QLabel {
+    Q_OBJECT
+public:
+    explicit HyperlinkLabel(QWidget* parent = nullptr);
+
+    /// The address opened on click (the caption when none is set).
+    void SetTarget(const QString& target);
+    QString Target() const { return m_target.isEmpty() ? text() : m_target; }
+    bool Visited() const { return m_visited; }
+    /// The colour the caption is painted in now.
+    QColor CurrentColour() const { return m_visited ? m_visitedColour : m_linkColour; }
+    /// How the target is opened (the desktop by default; tests replace it).
+    static void SetOpener(std::function<bool(const QUrl&)> opener);
+
+protected:
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void Open();
+    void UpdateLook();
+
+    QString m_target;
+    bool m_visited = false;
+    QColor m_linkColour{0, 0, 255};
+    QColor m_visitedColour{128, 0, 128};
+};

@@ -1,0 +1,307 @@
+#include "MainWindow.h"
+
+#include "CategoryPage.h"
+#include "CharacterDatabase.h"
+#include "ConfigException.h"
+#include "ConfigStore.h"
+#include "HelpActions.h"
+#include "HomePage.h"
+#include "LessonPage.h"
+#include "MessageBox.h"
+#include "TestContainer.h"
+#include "UserManagerDialog.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QMenuBar>
+#include <QScreen>
+#include <QSettings>
+#include <QShortcut>
+#include <QtEndian>
+
+using ZavorenCommon::ConfigException;
+
+namespace {
+
+const char* const ConfigErrorTitle = "Zavoren Configuration Error";
+
+/// Keys the window takes and ignores, so that the pages never see them.
+const QKeySequence IgnoredKeys[] = {
+    QKeySequence(Qt::CTRL | Qt::Key_C),      QKeySequence(Qt::CTRL | Qt::Key_Insert),
+    QKeySequence(Qt::SHIFT | Qt::Key_Delete), QKeySequence(Qt::CTRL | Qt::Key_X),
+    QKeySequence(Qt::CTRL | Qt::Key_V),      QKeySequence(Qt::SHIFT | Qt::Key_Insert),
+    QKeySequence(Qt::ALT | Qt::Key_Backspace), QKeySequence(Qt::CTRL | Qt::Key_Z),
+    QKeySequence(Qt::CTRL | Qt::Key_N),      QKeySequence(Qt::CTRL | Qt::Key_O),
+    QKeySequence(Qt::CTRL | Qt::Key_P),      QKeySequence(Qt::CTRL | Qt::Key_S),
+    QKeySequence(Qt::Key_F6),                QKeySequence(Qt::SHIFT | Qt::Key_F6),
+};
+
+} // namespace
+
+MainWindow::MainWindow(CharacterDatabase& database, ConfigStore& store, QWidget* parent)
+    : QMainWindow(parent), m_database(database), m_store(store)
+{
+    setObjectName(QStringLiteral("Zavoren Mainframe Class"));
+    setWindowTitle(QStringLiteral("Zavoren!"));
+    setWindowIcon(QIcon(QStringLiteral(":/images/zavoren.png")));
+    BuildMenu();
+    m_pageArea = new QWidget(this);
+    setCentralWidget(m_pageArea);
+    m_home = new HomePage(database, m_pageArea);
+    m_lesson = new LessonPage(database, m_pageArea);
+    m_test = new TestContainer(database, m_pageArea);
+    m_category = new CategoryPage(database, m_pageArea);
+    for (Page* page : {static_cast<Page*>(m_home), static_cast<Page*>(m_lesson), static_cast<Page*>(m_test),
+                       static_cast<Page*>(m_category)}) {
+        page->adjustSize();
+        page->setFixedSize(page->size());
+        page->hide();
+        connect(page, &Page::pageEvent, this,
+                [this, page](quint16 code, quint16 argument) { OnPageEvent(page, code, argument); },
+                Qt::DirectConnection);
+    }
+    for (const QKeySequence& keys : IgnoredKeys)
+        new QShortcut(keys, this, [] {}, Qt::WindowShortcut);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::BuildMenu()
+{
+    QMenu* file = menuBar()->addMenu(tr("&File"));
+    m_usersAction = file->addAction(QStringLiteral("Users"), this, &MainWindow::ChooseLearner);
+    file->addSeparator();
+    m_exitAction = file->addAction(QStringLiteral("Exit"), this, &QWidget::close);
+    QMenu* help = menuBar()->addMenu(tr("&Help"));
+    m_contentsAction = help->addAction(QStringLiteral("Contents"), this, [] { OpenHelpContents(); });
+    QMenu* links = help->addMenu(QStringLiteral("Links"));
+    m_siteAction = links->addAction(QStringLiteral("Quelmar Software site"), this, [] { OpenMakerSite(); });
+    m_siteAction->setStatusTip(QStringLiteral("Open Quelmar Software web site"));
+    help->addSeparator();
+    m_aboutAction = help->addAction(QStringLiteral("About"), this, [this] { ShowAbout(this); });
+    m_aboutAction->setStatusTip(QStringLiteral("About Zavoren"));
+}
+
+CategoryProgress* MainWindow::CurrentCategory() const
+{
+    if (!m_learner || !m_categoryId)
+        return nullptr;
+    return &m_learner->GetProgress(*m_categoryId);
+}
+
+void MainWindow::ReportStoreError(const char* message)
+{
+    ShowStoreError(this, ConfigErrorTitle, message);
+    QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+}
+
+int MainWindow::RunUserManager()
+{
+    QWidget* owner = QApplication::activeWindow();
+    UserManagerDialog manager(owner && owner->isVisible() ? owner : (isVisible() ? this : nullptr));
+    connect(&manager, &UserManagerDialog::currentUserDeleted, this, [this] { SetLearner(nullptr); });
+    connect(&manager, &UserManagerDialog::storeFailed, this,
+            [this](const QString& message) { ReportStoreError(message.toUtf8().constData()); });
+    if (m_managerHook)
+        m_managerHook(manager);
+    const int result = manager.exec();
+    m_managerChoice = manager.SelectedUserName();
+    return result;
+}
+
+bool MainWindow::ChooseLearnerAtStart()
+{
+    try {
+        std::string name = m_store.CurrentUserName();
+        if (name.empty() && m_store.UserCount() == 1)
+            name = m_store.UserName(0);
+        m_chosenAtStart = m_store.LoadUser(name);
+        if (!m_chosenAtStart) {
+            if (RunUserManager() != UserManagerDialog::Open)
+                return false;
+            m_chosenAtStart = m_store.LoadUser(m_managerChoice);
+        }
+    } catch (const ConfigException& e) {
+        ShowStoreError(nullptr, ConfigErrorTitle, e.what());
+        return false;
+    }
+    // Sized to the home page, centred; a stored position wins.
+    resize(m_home->width(), m_home->height() + menuBar()->sizeHint().height());
+    if (const QScreen* screen = QGuiApplication::primaryScreen())
+        move(screen->availableGeometry().center() - rect().center());
+    LoadPlacement();
+    return true;
+}
+
+void MainWindow::ShowChosenLearner()
+{
+    SetLearner(std::move(m_chosenAtStart));
+}
+
+void MainWindow::SetLearner(std::unique_ptr<User> learner)
+{
+    try {
+        if (m_learner && m_learner->Name() && m_store.CurrentUserName() == m_learner->Name())
+            m_store.SaveUser(*m_learner);
+    } catch (const ConfigException& e) {
+        ReportStoreError(e.what());
+    }
+    m_learner = std::move(learner);
+    m_categoryId.reset();
+    if (!m_learner) {
+        m_home->SetUser(nullptr);
+        hide();
+        return;
+    }
+    m_home->SetUser(m_learner.get());
+    show();
+    ShowPage(m_home);
+}
+
+void MainWindow::ChooseLearner()
+{
+    const int result = RunUserManager();
+    if (result == UserManagerDialog::Open) {
+        try {
+            SetLearner(m_store.LoadUser(m_managerChoice));
+        } catch (const ConfigException& e) {
+            ReportStoreError(e.what());
+        }
+    } else if (!m_learner) {
+        QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+    }
+}
+
+void MainWindow::ShowPage(Page* page)
+{
+    if (page == m_shown)
+        return;
+    Page* previous = m_shown;
+    m_shown = page;
+    page->move(0, 0);
+    page->show();
+    if (previous)
+        previous->hide();
+    m_pageArea->setFixedSize(page->size());
+    setFixedSize(page->width(), page->height() + menuBar()->sizeHint().height());
+    page->setFocus();
+}
+
+void MainWindow::ShowCategoryPage()
+{
+    if (m_categoryId)
+        m_category->SetCategory(*m_categoryId, CurrentCategory());
+    ShowPage(m_category);
+}
+
+void MainWindow::OnPageEvent(Page* page, quint16 code, quint16 argument)
+{
+    if (page == m_home && code == HomePage::OpenCategory) {
+        m_categoryId = m_home->ChosenCategory();
+        ShowCategoryPage();
+    } else if (page == m_category) {
+        CategoryProgress* progress = CurrentCategory();
+        switch (code) {
+        case CategoryPage::Lesson:
+            m_lesson->StartLesson(m_category->PickLessonCharacters(5));
+            ShowPage(m_lesson);
+            break;
+        case CategoryPage::Learn:
+            m_lesson->StartLesson({argument});
+            ShowPage(m_lesson);
+            break;
+        case CategoryPage::Test: {
+            std::vector<std::uint16_t> codes;
+            if (progress)
+                for (std::size_t i = 0; i < progress->UntestedCount() && i < 5; ++i)
+                    codes.push_back(progress->UntestedAt(i));
+            m_test->StartTest(codes);
+            ShowPage(m_test);
+            break;
+        }
+        case CategoryPage::Back:
+            m_home->RefreshSelectedCategory();
+            ShowPage(m_home);
+            break;
+        }
+    } else if (page == m_lesson) {
+        if (code == LessonPage::Finished) {
+            // Every character of the lesson joins the untested list, in lesson order, as it is.
+            if (CategoryProgress* progress = CurrentCategory())
+                for (std::uint16_t id : m_lesson->DoneCodes())
+                    progress->AddUntested(id);
+        }
+        if (code == LessonPage::Finished || code == LessonPage::Aborted)
+            ShowCategoryPage();
+    } else if (page == m_test) {
+        if (code == TestContainer::Finished || code == TestContainer::Aborted) {
+            ApplyTestOutcome();
+            ShowCategoryPage();
+        }
+    }
+}
+
+void MainWindow::ApplyTestOutcome()
+{
+    if (CategoryProgress* progress = CurrentCategory()) {
+        for (std::uint16_t id : m_test->PassedCodes())
+            progress->MoveToLearned(id);
+        // A failed character counts as not learned again.
+        for (std::uint16_t id : m_test->FailedCodes())
+            progress->RemoveUntested(id);
+    }
+    m_test->StartTest({});
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (m_closing) {
+        event->accept();
+        return;
+    }
+    m_closing = true;
+    if (m_learner) {
+        // A test in progress counts as taken so far.
+        if (m_shown == m_test)
+            ApplyTestOutcome();
+        try {
+            m_store.SaveUser(*m_learner);
+        } catch (const ConfigException& e) {
+            ShowStoreError(this, ConfigErrorTitle, e.what());
+        }
+    }
+    SavePlacement();
+    event->accept();
+    emit closed();
+}
+
+void MainWindow::LoadPlacement()
+{
+    QSettings settings(QStringLiteral("Zavoren"), QStringLiteral("Zavoren"));
+    const QVariant value = settings.value(QStringLiteral("WindowPosition"));
+    if (!value.isValid())
+        return;
+    const QByteArray bytes = value.toByteArray();
+    if (bytes.size() > 16 || bytes.isEmpty())
+        return; // a longer value is not a placement; ignored
+    // Left, top, right, bottom as little-endian 32-bit numbers; a shorter value replaces only
+    // the leading fields.
+    const QRect frame = frameGeometry();
+    qint32 fields[4] = {frame.left(), frame.top(), frame.left() + frame.width(), frame.top() + frame.height()};
+    for (int i = 0; i < 4 && (i + 1) * 4 <= bytes.size(); ++i)
+        fields[i] = qFromLittleEndian<qint32>(bytes.constData() + 4 * i);
+    // Not checked against the screens: a position off every screen is restored as it is.
+    move(fields[0], fields[1]);
+}
+
+void MainWindow::SavePlacement()
+{
+    const QRect frame = frameGeometry();
+    QByteArray bytes(16, '\0');
+    const qint32 fields[4] = {frame.left(), frame.top(), frame.left() + frame.width(), frame.top() + frame.height()};
+    for (int i = 0; i < 4; ++i)
+        qToLittleEndian<qint32>(fields[i], bytes.data() + 4 * i);
+    QSettings settings(QStringLiteral("Zavoren"), QStringLiteral("Zavoren"));
+    settings.setValue(QStringLiteral("WindowPosition"), bytes);
+}

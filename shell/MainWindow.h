@@ -1,0 +1,97 @@
+#pragma once
+
+#include "User.h"
+
+#include <QMainWindow>
+
+#include <memory>
+#include <optional>
+
+class CategoryPage;
+class CharacterDatabase;
+class ConfigStore;
+class HomePage;
+class LessonPage;
+class Page;
+class TestContainer;
+class UserManagerDialog;
+
+/// The program's only top-level window: the menu bar and four pages, exactly one shown at a
+/// time. Pages report events; this window alone decides which page comes next, what it is
+/// given and what is recorded in the learner's progress. It owns the current learner.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+public:
+    MainWindow(CharacterDatabase& database, ConfigStore& store, QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    /// Chooses the learner to open: the recorded current one, else the only one, else the User
+    /// Manager's choice. False when the User Manager was cancelled (the program ends).
+    bool ChooseLearnerAtStart();
+    /// Makes the learner chosen at start current and shows the home page.
+    void ShowChosenLearner();
+    /// Makes a learner current (saving the one before when it is the store's current learner);
+    /// none hides the window.
+    void SetLearner(std::unique_ptr<User> learner);
+    /// File > Users: runs the User Manager and applies its choice.
+    void ChooseLearner();
+    /// Shows one page and sizes the window to it plus the menu bar.
+    void ShowPage(Page* page);
+
+    /// Restores the window position stored in the settings ("WindowPosition", 16 bytes).
+    void LoadPlacement();
+    /// Stores the window position.
+    void SavePlacement();
+
+    Page* ShownPage() const { return m_shown; }
+    HomePage* Home() const { return m_home; }
+    LessonPage* Lesson() const { return m_lesson; }
+    TestContainer* Test() const { return m_test; }
+    CategoryPage* Category() const { return m_category; }
+    User* Learner() const { return m_learner.get(); }
+    /// The learner's record of the opened category, or null.
+    CategoryProgress* CurrentCategory() const;
+    /// Test hook: called with the User Manager each time before it runs.
+    void SetUserManagerHook(std::function<void(UserManagerDialog&)> hook) { m_managerHook = std::move(hook); }
+    /// The window's menu actions, for tests and accessibility.
+    QAction* UsersAction() const { return m_usersAction; }
+    QAction* ExitAction() const { return m_exitAction; }
+    QAction* ContentsAction() const { return m_contentsAction; }
+    QAction* SiteAction() const { return m_siteAction; }
+    QAction* AboutAction() const { return m_aboutAction; }
+
+signals:
+    /// The window has closed normally (the program ends with exit code 1).
+    void closed();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void BuildMenu();
+    void OnPageEvent(Page* page, quint16 code, quint16 argument);
+    void ApplyTestOutcome();
+    void ShowCategoryPage();
+    void ReportStoreError(const char* message);
+    int RunUserManager();
+
+    CharacterDatabase& m_database;
+    ConfigStore& m_store;
+    QWidget* m_pageArea = nullptr;
+    HomePage* m_home = nullptr;
+    LessonPage* m_lesson = nullptr;
+    TestContainer* m_test = nullptr;
+    CategoryPage* m_category = nullptr;
+    Page* m_shown = nullptr;
+    std::unique_ptr<User> m_learner;
+    std::unique_ptr<User> m_chosenAtStart;
+    std::optional<std::uint16_t> m_categoryId;
+    std::string m_managerChoice;
+    std::function<void(UserManagerDialog&)> m_managerHook;
+    QAction* m_usersAction = nullptr;
+    QAction* m_exitAction = nullptr;
+    QAction* m_contentsAction = nullptr;
+    QAction* m_siteAction = nullptr;
+    QAction* m_aboutAction = nullptr;
+    bool m_closing = false;
+};

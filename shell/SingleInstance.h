@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QLockFile>
+#include <QObject>
+#include <QString>
+
+#include <memory>
+
+class QLocalServer;
+
+/// One running copy per user: the first takes a lock file and listens on a local socket; a
+/// later one finds the lock taken, asks the first (through the socket) to bring its window
+/// forward, and ends.
+class SingleInstance : public QObject {
+    Q_OBJECT
+public:
+    /// `name` identifies the program (tests pass their own).
+    explicit SingleInstance(QString name = QStringLiteral("Quelmar Zavoren! Kanji Learning Program"),
+                            QObject* parent = nullptr);
+    ~SingleInstance() override;
+
+    /// True when this is the first copy (it now owns the lock and listens); false when another
+    /// copy runs, which has then been asked to come forward.
+    bool Acquire();
+
+signals:
+    /// Another copy asked this one to come to the front.
+    void raiseRequested();
+
+private:
+    QString m_name;
+    std::unique_ptr<QLockFile> m_lock;
+    QLocalServer* m_server = nullptr;
+};
+
+/// Brings the program's active modal dialog (or else its main window) to the front.
+void BringToFront();

@@ -1,0 +1,47 @@
+#include "SplashWindow.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <QProgressBar>
+#include <QScreen>
+
+SplashWindow::SplashWindow(QWidget* parent)
+    : QWidget(parent, Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
+      m_picture(QStringLiteral(":/images/splash.png"))
+{
+    setObjectName(QStringLiteral("SplashWindow"));
+    setAccessibleName(tr("Zavoren! is starting"));
+    if (m_picture.isNull())
+        return;
+    setFixedSize(m_picture.size());
+    m_bar = new QProgressBar(this);
+    m_bar->setTextVisible(false);
+    m_bar->setGeometry(20, 230, width() - 40, 10);
+    m_bar->setRange(0, 100);
+    m_bar->setValue(75);
+    m_bar->setAccessibleName(tr("Loading the characters"));
+    if (const QScreen* screen = QGuiApplication::primaryScreen())
+        move(screen->availableGeometry().center() - rect().center());
+}
+
+void SplashWindow::SetPosition(std::uint32_t position)
+{
+    if (!m_bar)
+        return;
+    m_bar->setValue(static_cast<int>(position));
+    repaint();
+}
+
+void SplashWindow::SetRange(std::uint32_t lowest, std::uint32_t highest)
+{
+    if (!m_bar)
+        return;
+    m_bar->setRange(static_cast<int>(lowest), static_cast<int>(highest));
+    repaint();
+}
+
+void SplashWindow::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, m_picture);
+}

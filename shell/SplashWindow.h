@@ -1,0 +1,29 @@
+#pragma once
+
+#include "DatabaseProgress.h"
+
+#include <QWidget>
+
+class QProgressBar;
+
+/// The start-up window: the program's picture with a progress bar at y 230 to 240, driven by
+/// the database's preload. Each report repaints at once: loading does not pump events.
+class SplashWindow : public QWidget, public DatabaseProgress {
+    Q_OBJECT
+public:
+    explicit SplashWindow(QWidget* parent = nullptr);
+
+    /// False when the picture could not be loaded (no splash is shown then).
+    bool HasPicture() const { return !m_picture.isNull(); }
+    QProgressBar* Bar() const { return m_bar; }
+
+    void SetPosition(std::uint32_t position) override;
+    void SetRange(std::uint32_t lowest, std::uint32_t highest) override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QPixmap m_picture;
+    QProgressBar* m_bar = nullptr;
+};

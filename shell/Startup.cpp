@@ -1,0 +1,114 @@
+#include "Startup.h"
+
+#include "CharacterDatabase.h"
+#include "ConfigException.h"
+#include "ConfigStore.h"
+#include "HomePage.h"
+#include "MainWindow.h"
+#include "MessageBox.h"
+#include "SingleInstance.h"
+#include "SplashWindow.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+/// Closes the window once the home page has been painted for the first time.
+class FirstPaintWatcher : public QObject {
+public:
+    FirstPaintWatcher(QWidget* watched, MainWindow* window) : QObject(window), m_window(window)
+    {
+        watched->installEventFilter(this);
+        m_clock.start();
+    }
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint && !m_done) {
+            m_done = true;
+            std::fprintf(stderr, "home page painted %lld ms after the window was built\n",
+                         static_cast<long long>(m_clock.elapsed()));
+            QTimer::singleShot(0, m_window, &QWidget::close);
+        }
+        return QObject::eventFilter(object, event);
+    }
+
+private:
+    MainWindow* m_window;
+    QElapsedTimer m_clock;
+    bool m_done = false;
+};
+
+} // namespace
+
+StartupOptions OptionsFromEnvironment()
+{
+    StartupOptions options;
+    const char* quit = std::getenv("ZAVOREN_QUIT_AFTER_FIRST_PAINT");
+    options.quitAfterFirstPaint = quit && *quit && *quit != '0';
+    if (const char* name = std::getenv("ZAVOREN_INSTANCE_NAME"); name && *name)
+        options.instanceName = QString::fromUtf8(name);
+    return options;
+}
+
+int RunZavoren(const StartupOptions& options)
+{
+    SingleInstance instance(options.instanceName);
+    if (!instance.Acquire())
+        return 0;
+    QObject::connect(&instance, &SingleInstance::raiseRequested, [] {
+        if (std::getenv("ZAVOREN_TRACE"))
+            std::fprintf(stderr, "another start asked this one to come forward\n");
+        BringToFront();
+    });
+
+    SplashWindow splash;
+    if (splash.HasPicture()) {
+        splash.show();
+        splash.repaint();
+        QApplication::processEvents();
+    }
+    // A database that cannot be read is not handled here: the exception ends in the crash
+    // handler's question.
+    CharacterDatabase& database = GetDatabase();
+    database.Preload(&splash);
+
+    ConfigStore* store = nullptr;
+    try {
+        store = &GetConfigStore();
+    } catch (const ZavorenCommon::ConfigException& e) {
+        splash.close();
+        ShowStoreError(nullptr, "Zavoren Configuration Error", e.what());
+        ReleaseDataStores();
+        return 0;
+    }
+    int result = 0;
+    {
+        MainWindow window(database, *store);
+        if (!window.ChooseLearnerAtStart()) {
+            splash.close();
+            ReleaseDataStores();
+            return 0;
+        }
+        splash.close();
+        QApplication::setQuitOnLastWindowClosed(false);
+        QObject::connect(&window, &MainWindow::closed, [&result] {
+            result = 1;
+            QTimer::singleShot(0, [] { QApplication::exit(1); });
+        });
+        if (options.quitAfterFirstPaint)
+            new FirstPaintWatcher(window.Home(), &window);
+        window.ShowChosenLearner();
+        if (!window.Learner()) {
+            ReleaseDataStores();
+            return 0;
+        }
+        QApplication::exec();
+    }
+    ReleaseDataStores();
+    return result;
+}

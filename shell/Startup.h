@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+/// What a run of the program is asked to do beyond the ordinary.
+struct StartupOptions {
+    /// Close the window right after the home page is first painted (start-up measurements).
+    bool quitAfterFirstPaint = false;
+    /// Name of the single-instance lock (tests use their own).
+    QString instanceName = QStringLiteral("Quelmar Zavoren! Kanji Learning Program");
+};
+
+/// Starts the program in the current folder (which holds `database` and `config.xml`), runs it
+/// until its window closes and returns the exit code: 1 after a normal close, 0 for a second
+/// copy or a start that failed or was cancelled. A QApplication must exist.
+int RunZavoren(const StartupOptions& options);
+
+/// Reads the options from the environment (ZAVOREN_QUIT_AFTER_FIRST_PAINT, ZAVOREN_INSTANCE_NAME).
+StartupOptions OptionsFromEnvironment();

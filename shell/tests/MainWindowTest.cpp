@@ -1,0 +1,415 @@
+#include "AddUserDialog.h"
+#include "CategoryPage.h"
+#include "CharacterDatabase.h"
+#include "CharacterGrid.h"
+#include "ConfigStore.h"
+#include "DrawingTestPage.h"
+#include "HomePage.h"
+#include "InputCanvas.h"
+#include "LessonPage.h"
+#include "MainWindow.h"
+#include "ReadingTestPage.h"
+#include "ShellTestSupport.h"
+#include "SplashWindow.h"
+#include "TestContainer.h"
+#include "TestSupport.h"
+#include "UserManagerDialog.h"
+#include "XmlConfigStore.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QScreen>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+#include <QtEndian>
+
+#include <pugixml.hpp>
+
+using namespace testsupport;
+using Codes = std::vector<std::uint16_t>;
+
+namespace {
+
+void ClickRadio(QRadioButton* b)
+{
+    QTest::mouseClick(b, Qt::LeftButton, Qt::NoModifier, QPoint(8, b->height() / 2));
+}
+
+void Tick(QCheckBox* box)
+{
+    QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2));
+}
+
+void WriteAll(InputCanvas* canvas, const Form& glyph)
+{
+    for (std::uint16_t k = 0; k < glyph.StrokeCount(); ++k)
+        DrawInk(canvas, StrokeAsMouse(glyph, k, canvas->ClientRect().width()));
+}
+
+/// Answers every question of the test shown right, until it finishes.
+void AnswerTestRight(MainWindow& window)
+{
+    TestContainer* test = window.Test();
+    CharacterDatabase& db = GetDatabase();
+    for (int guard = 0; guard < 100 && window.ShownPage() == test; ++guard) {
+        const auto character = db.LoadCharacter(*test->Schedule().CurrentCode());
+        if (test->ShownPage() == test->ReadingPage()) {
+            ReadingTestPage* page = test->ReadingPage();
+            for (int i = 0; i < 5; ++i) {
+                if (page->Choices().on[static_cast<std::size_t>(i)] == (character->OnReading() ? character->OnReading() : ""))
+                    ClickRadio(page->OnButton(i));
+                if (page->Choices().kun[static_cast<std::size_t>(i)] == (character->KunReading() ? character->KunReading() : ""))
+                    ClickRadio(page->KunButton(i));
+            }
+        } else {
+            WriteAll(test->DrawingPage()->Input(), *test->DrawingPage()->Glyph());
+        }
+        QVERIFY(test->NextButton()->isEnabled());
+        QTest::mouseClick(test->NextButton(), Qt::LeftButton);
+    }
+}
+
+void OpenCategory(MainWindow& window, int row)
+{
+    QTreeWidget* list = window.Home()->CategoryList();
+    const QRect r = list->visualItemRect(list->topLevelItem(row));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, r.center());
+    QTest::mouseClick(window.Home()->OpenButton(), Qt::LeftButton);
+}
+
+} // namespace
+
+class MainWindowTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void aLearnersWholePathSurvivesARestart()
+    {
+        DataFolder folder;
+        std::size_t grade1Size = 0;
+        Codes taught;
+        {
+            // An empty learner file: the User Manager opens; add Anna and open her.
+            MainWindow window(GetDatabase(), GetConfigStore());
+            bool managerShown = false;
+            window.SetUserManagerHook([&](UserManagerDialog& manager) {
+                managerShown = true;
+                manager.SetAddDialogHook([](AddUserDialog& add) {
+                    QTimer::singleShot(0, &add, [&add] {
+                        add.NameEdit()->setText(QStringLiteral("Anna"));
+                        QTest::mouseClick(add.OkButton(), Qt::LeftButton);
+                    });
+                });
+                QTimer::singleShot(0, &manager, [&manager] {
+                    QTest::mouseClick(manager.AddButton(), Qt::LeftButton);
+                    QTest::mouseClick(manager.OpenButton(), Qt::LeftButton);
+                });
+            });
+            QVERIFY(window.ChooseLearnerAtStart());
+            QVERIFY(managerShown);
+            window.ShowChosenLearner();
+            QVERIFY(QTest::qWaitForWindowExposed(&window));
+            QCOMPARE(window.ShownPage(), window.Home());
+            QCOMPARE(window.Home()->UserNameLabel()->text(), QStringLiteral("Anna"));
+            // The window is the page plus the menu bar.
+            QCOMPARE(window.width(), window.Home()->width());
+            QCOMPARE(window.height(), window.Home()->height() + window.menuBar()->sizeHint().height());
+
+            OpenCategory(window, 0);
+            QCOMPARE(window.ShownPage(), window.Category());
+            grade1Size = GetDatabase().LoadCategory(0)->CharacterCount();
+
+            // A lesson: every stroke of each character, the three boxes, Next.
+            QTest::mouseClick(window.Category()->LessonButton(), Qt::LeftButton);
+            QCOMPARE(window.ShownPage(), window.Lesson());
+            LessonPage* lesson = window.Lesson();
+            for (int c = 0; c < 5; ++c) {
+                WriteAll(lesson->Input(), *lesson->Glyph());
+                for (QCheckBox* box : {lesson->OnReadingBox(), lesson->KunReadingBox(), lesson->MeaningBox()})
+                    Tick(box);
+                QVERIFY(lesson->NextButton()->isEnabled());
+                QTest::mouseClick(lesson->NextButton(), Qt::LeftButton);
+            }
+            QCOMPARE(window.ShownPage(), window.Category());
+            taught = window.CurrentCategory()->Untested();
+            QCOMPARE(taught.size(), 5u);
+            QCOMPARE(window.Category()->Strip()->Groups()[0].codes, taught);
+
+            // A test answered right throughout.
+            QTest::mouseClick(window.Category()->TestButton(), Qt::LeftButton);
+            QCOMPARE(window.ShownPage(), window.Test());
+            AnswerTestRight(window);
+            QCOMPARE(window.ShownPage(), window.Category());
+            QCOMPARE(window.CurrentCategory()->Learned(), taught);
+            QCOMPARE(window.CurrentCategory()->UntestedCount(), 0u);
+            QTest::mouseClick(window.Category()->BackButton(), Qt::LeftButton);
+            QCOMPARE(window.ShownPage(), window.Home());
+            window.close();
+        }
+        ReleaseDataStores();
+        // The file: Anna current, the characters learned in category 0, a Progress per category.
+        pugi::xml_document doc;
+        QVERIFY(doc.load_file("config.xml"));
+        const pugi::xml_node users = doc.document_element().child("Users");
+        QCOMPARE(std::string(users.attribute("currentUser").value()), std::string("Anna"));
+        const pugi::xml_node anna = users.find_child_by_attribute("User", "name", "Anna");
+        QVERIFY(anna);
+        int progresses = 0;
+        for (pugi::xml_node p : anna.children("Progress")) {
+            QCOMPARE(p.attribute("categoryId").as_int(), progresses);
+            if (progresses == 0) {
+                Codes learned;
+                for (pugi::xml_node c : p.child("Learned").children("Character"))
+                    learned.push_back(static_cast<std::uint16_t>(c.attribute("id").as_uint()));
+                QCOMPARE(learned, taught);
+            }
+            ++progresses;
+        }
+        QCOMPARE(progresses, int(GetDatabase().CategoryCount()));
+        ReleaseDataStores();
+        // Started again: Anna opens directly and the home page shows her progress.
+        MainWindow again(GetDatabase(), GetConfigStore());
+        bool managerShown = false;
+        again.SetUserManagerHook([&](UserManagerDialog&) { managerShown = true; });
+        QVERIFY(again.ChooseLearnerAtStart());
+        QVERIFY(!managerShown);
+        again.ShowChosenLearner();
+        QCOMPARE(again.Home()->CategoryList()->topLevelItem(0)->text(0),
+                 QStringLiteral("Grade 1 (5 of %1)").arg(grade1Size));
+        again.close();
+    }
+
+    void theOnlyLearnerOpensWithoutAsking()
+    {
+        DataFolder folder(R"(<Z><Users><User name="Solo"/></Users></Z>)");
+        MainWindow window(GetDatabase(), GetConfigStore());
+        QVERIFY(window.ChooseLearnerAtStart());
+        window.ShowChosenLearner();
+        QCOMPARE(QString::fromUtf8(window.Learner()->Name()), QStringLiteral("Solo"));
+        window.close();
+    }
+
+    void cancellingTheManagerAtStartEndsTheProgram()
+    {
+        DataFolder folder(R"(<Z><Users><User name="A"/><User name="B"/></Users></Z>)");
+        MainWindow window(GetDatabase(), GetConfigStore());
+        window.SetUserManagerHook([](UserManagerDialog& manager) {
+            QTimer::singleShot(0, &manager, [&manager] { QTest::mouseClick(manager.CloseButton(), Qt::LeftButton); });
+        });
+        QVERIFY(!window.ChooseLearnerAtStart());
+        QVERIFY(!window.isVisible());
+    }
+
+    void testsTakeAtMostFiveUntestedInListOrder()
+    {
+        DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
+        MainWindow window(GetDatabase(), GetConfigStore());
+        QVERIFY(window.ChooseLearnerAtStart());
+        window.ShowChosenLearner();
+        OpenCategory(window, 0);
+        const Codes grade1 = GetDatabase().LoadCategory(0)->Characters();
+        // None: the test gets an empty list and asks nothing.
+        emit window.Category()->pageEvent(CategoryPage::Test, 0);
+        QCOMPARE(window.ShownPage(), window.Test());
+        QVERIFY(window.Test()->Schedule().Codes().empty());
+        QTest::mouseClick(window.Test()->AbortButton(), Qt::LeftButton);
+        // Three: all of them; seven: the first five.
+        for (int i = 0; i < 3; ++i)
+            window.CurrentCategory()->AddUntested(grade1[static_cast<std::size_t>(i)]);
+        emit window.Category()->pageEvent(CategoryPage::Test, 0);
+        QCOMPARE(window.Test()->Schedule().Codes(), (Codes{grade1[0], grade1[1], grade1[2]}));
+        QTest::mouseClick(window.Test()->AbortButton(), Qt::LeftButton);
+        for (int i = 3; i < 7; ++i)
+            window.CurrentCategory()->AddUntested(grade1[static_cast<std::size_t>(i)]);
+        emit window.Category()->pageEvent(CategoryPage::Test, 0);
+        QCOMPARE(window.Test()->Schedule().Codes(), Codes(grade1.begin(), grade1.begin() + 5));
+        // Learn on one character starts a lesson of it alone.
+        QTest::mouseClick(window.Test()->AbortButton(), Qt::LeftButton);
+        emit window.Category()->pageEvent(CategoryPage::Learn, grade1[20]);
+        QCOMPARE(window.ShownPage(), window.Lesson());
+        QTest::mouseClick(window.Lesson()->AbortButton(), Qt::LeftButton);
+        QCOMPARE(window.ShownPage(), window.Category());
+        QCOMPARE(window.CurrentCategory()->UntestedCount(), 7u); // an aborted lesson records nothing
+        window.close();
+    }
+
+    void closingDuringATestAppliesTheAnswersSoFar()
+    {
+        DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
+        const Codes grade1 = GetDatabase().LoadCategory(0)->Characters();
+        {
+            MainWindow window(GetDatabase(), GetConfigStore());
+            QVERIFY(window.ChooseLearnerAtStart());
+            window.ShowChosenLearner();
+            OpenCategory(window, 0);
+            window.CurrentCategory()->AddUntested(grade1[0]);
+            window.Category()->Refresh();
+            QTest::mouseClick(window.Category()->TestButton(), Qt::LeftButton);
+            // Two wrong ON picks on the reading question fail the character.
+            TestContainer* test = window.Test();
+            QCOMPARE(test->ShownPage(), static_cast<QuestionPage*>(test->ReadingPage()));
+            const auto character = GetDatabase().LoadCharacter(grade1[0]);
+            auto answerWithMistake = [&] {
+                ReadingTestPage* page = test->ReadingPage();
+                const std::string right = character->OnReading() ? character->OnReading() : "";
+                for (int i = 0; i < 5; ++i)
+                    if (page->Choices().on[static_cast<std::size_t>(i)] != right) {
+                        ClickRadio(page->OnButton(i));
+                        break;
+                    }
+                for (int i = 0; i < 5; ++i) {
+                    if (page->Choices().on[static_cast<std::size_t>(i)] == right)
+                        ClickRadio(page->OnButton(i));
+                    if (page->Choices().kun[static_cast<std::size_t>(i)] == (character->KunReading() ? character->KunReading() : ""))
+                        ClickRadio(page->KunButton(i));
+                }
+                QTest::mouseClick(test->NextButton(), Qt::LeftButton);
+            };
+            answerWithMistake();
+            // Drawing next, answered right; then the reading again, missed again.
+            WriteAll(test->DrawingPage()->Input(), *test->DrawingPage()->Glyph());
+            QTest::mouseClick(test->NextButton(), Qt::LeftButton);
+            answerWithMistake();
+            QCOMPARE(test->FailedCodes(), Codes{}); // the drawing is still open
+            // The drawing answered right a second time decides it; Next is not pressed.
+            WriteAll(test->DrawingPage()->Input(), *test->DrawingPage()->Glyph());
+            QCOMPARE(test->FailedCodes(), Codes{grade1[0]});
+            QCOMPARE(window.ShownPage(), window.Test());
+            window.close(); // in the middle of the test
+        }
+        ReleaseDataStores();
+        auto user = GetConfigStore().LoadUser("A");
+        // The failure was applied before saving: not learned, no longer untested.
+        QCOMPARE(user->GetProgress(0).UntestedCount(), 0u);
+        QCOMPARE(user->GetProgress(0).LearnedCount(), 0u);
+        ReleaseDataStores();
+    }
+
+    void deletingTheCurrentLearnerHidesTheWindowUntilOneIsChosen()
+    {
+        DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/><User name="B"/></Users></Z>)");
+        TestMessageHook() = [](QMessageBox::Icon, const QString&, const QString&) { return QMessageBox::Yes; };
+        MainWindow window(GetDatabase(), GetConfigStore());
+        QVERIFY(window.ChooseLearnerAtStart());
+        window.ShowChosenLearner();
+        QVERIFY(window.isVisible());
+        bool hiddenDuring = false;
+        window.SetUserManagerHook([&](UserManagerDialog& manager) {
+            QTimer::singleShot(0, &manager, [&] {
+                QCOMPARE(manager.SelectedUserName(), std::string("A"));
+                QTest::mouseClick(manager.DeleteButton(), Qt::LeftButton);
+                hiddenDuring = !window.isVisible();
+                QCOMPARE(window.Home()->UserNameLabel()->text(), QStringLiteral("N/A"));
+                QCOMPARE(manager.SelectedUserName(), std::string("B"));
+                QTest::mouseClick(manager.OpenButton(), Qt::LeftButton);
+            });
+        });
+        window.UsersAction()->trigger();
+        QVERIFY(hiddenDuring);
+        QVERIFY(window.isVisible());
+        QCOMPARE(QString::fromUtf8(window.Learner()->Name()), QStringLiteral("B"));
+        QCOMPARE(window.ShownPage(), window.Home());
+        window.close();
+    }
+
+    void placementIsStoredAndRestoredEvenOffScreen()
+    {
+        DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
+        {
+            MainWindow window(GetDatabase(), GetConfigStore());
+            QVERIFY(window.ChooseLearnerAtStart());
+            window.ShowChosenLearner();
+            window.move(123, 45);
+            window.close();
+        }
+        QSettings settings(QStringLiteral("Zavoren"), QStringLiteral("Zavoren"));
+        const QByteArray stored = settings.value(QStringLiteral("WindowPosition")).toByteArray();
+        QCOMPARE(stored.size(), 16);
+        QCOMPARE(qFromLittleEndian<qint32>(stored.constData()), 123);
+        QCOMPARE(qFromLittleEndian<qint32>(stored.constData() + 4), 45);
+        QVERIFY(qFromLittleEndian<qint32>(stored.constData() + 8) > 123);
+        // Off every screen: restored there all the same.
+        QByteArray far(16, '\0');
+        qToLittleEndian<qint32>(-5000, far.data());
+        qToLittleEndian<qint32>(9000, far.data() + 4);
+        settings.setValue(QStringLiteral("WindowPosition"), far);
+        settings.sync();
+        ReleaseDataStores();
+        {
+            MainWindow window(GetDatabase(), GetConfigStore());
+            QVERIFY(window.ChooseLearnerAtStart());
+            QCOMPARE(window.pos(), QPoint(-5000, 9000));
+        }
+        // Without the value: centred.
+        settings.remove(QStringLiteral("WindowPosition"));
+        settings.sync();
+        ReleaseDataStores();
+        {
+            MainWindow window(GetDatabase(), GetConfigStore());
+            QVERIFY(window.ChooseLearnerAtStart());
+            const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+            QVERIFY(qAbs(window.frameGeometry().center().x() - screen.center().x()) <= 1);
+        }
+    }
+
+    void menuAndIgnoredKeys()
+    {
+        DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
+        MainWindow window(GetDatabase(), GetConfigStore());
+        QVERIFY(window.ChooseLearnerAtStart());
+        window.ShowChosenLearner();
+        QCOMPARE(window.objectName(), QStringLiteral("Zavoren Mainframe Class"));
+        QCOMPARE(window.windowTitle(), QStringLiteral("Zavoren!"));
+        QStringList menus;
+        for (QAction* a : window.menuBar()->actions())
+            menus << a->text();
+        QCOMPARE(menus, (QStringList{"&File", "&Help"}));
+        QCOMPARE(window.UsersAction()->text(), QStringLiteral("Users"));
+        QCOMPARE(window.ExitAction()->text(), QStringLiteral("Exit"));
+        QCOMPARE(window.ContentsAction()->text(), QStringLiteral("Contents"));
+        QCOMPARE(window.SiteAction()->text(), QStringLiteral("Quelmar Software site"));
+        QCOMPARE(window.AboutAction()->text(), QStringLiteral("About"));
+        // Contents without the help document does nothing.
+        window.ContentsAction()->trigger();
+        // The ignored keys never reach a page: Ctrl+Z does not undo a stroke.
+        OpenCategory(window, 0);
+        QTest::mouseClick(window.Category()->LessonButton(), Qt::LeftButton);
+        LessonPage* lesson = window.Lesson();
+        DrawInk(lesson->Input(), StrokeAsMouse(*lesson->Glyph(), 0, lesson->Input()->ClientRect().width()));
+        QCOMPARE(lesson->Input()->StrokeCount(), 1);
+        QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
+        QTest::keyClick(&window, Qt::Key_F6);
+        QCOMPARE(lesson->Input()->StrokeCount(), 1);
+        QCOMPARE(window.ShownPage(), window.Lesson());
+        // Exit closes and saves.
+        window.ExitAction()->trigger();
+        QVERIFY(!window.isVisible());
+    }
+
+    void splashStartsAtThreeQuartersThenFollowsTheReader()
+    {
+        SplashWindow splash;
+        QVERIFY(splash.HasPicture());
+        QVERIFY(splash.height() >= 240);
+        QCOMPARE(splash.Bar()->geometry().top(), 230);
+        QCOMPARE(splash.Bar()->geometry().bottom(), 239);
+        QCOMPARE(splash.Bar()->minimum(), 0);
+        QCOMPARE(splash.Bar()->maximum(), 100);
+        QCOMPARE(splash.Bar()->value(), 75);
+        DataFolder folder;
+        FileCharacterDatabase db("database");
+        db.Preload(&splash);
+        QCOMPARE(splash.Bar()->maximum(), int(db.CharacterCount()) + int(db.ElementCount()));
+        QCOMPARE(splash.Bar()->value(), int(db.CharacterCount()) + int(db.ElementCount()) - 1);
+    }
+};
+
+QTEST_MAIN(MainWindowTest)
+#include "MainWindowTest.moc"

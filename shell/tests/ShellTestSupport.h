@@ -1,0 +1,45 @@
+#pragma once
+
+// A temporary data folder made current for the test (database and config.xml), with settings
+// kept in the folder too.
+
+#include "ConfigStore.h"
+#include "MessageBox.h"
+
+#include <QDir>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <filesystem>
+#include <fstream>
+#include <memory>
+
+class DataFolder {
+public:
+    explicit DataFolder(const char* config = "<Zavoren><Users/></Zavoren>")
+    {
+        m_previous = QDir::currentPath();
+        QDir::setCurrent(m_dir.path());
+        std::filesystem::copy_file(ZAVOREN_STANDARD_DATABASE, "database");
+        WriteConfig(config);
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_dir.filePath(QStringLiteral("settings")));
+        ReleaseDataStores();
+    }
+    ~DataFolder()
+    {
+        ReleaseDataStores();
+        TestMessageHook() = nullptr;
+        QDir::setCurrent(m_previous);
+    }
+    void WriteConfig(const char* text) { std::ofstream("config.xml", std::ios::trunc) << text; }
+    std::string ReadConfig() const
+    {
+        std::ifstream file("config.xml");
+        return std::string(std::istreambuf_iterator<char>(file), {});
+    }
+    QString Path() const { return m_dir.path(); }
+
+private:
+    QTemporaryDir m_dir;
+    QString m_previous;
+};
