@@ -103,6 +103,8 @@ int RunZavoren(const StartupOptions& options)
         if (options.quitAfterFirstPaint)
             new FirstPaintWatcher(window.Home(), &window);
         window.ShowChosenLearner();
+        if (std::getenv("ZAVOREN_TRACE"))
+            std::fprintf(stderr, "window shown\n");
         if (!window.Learner()) {
             ReleaseDataStores();
             return 0;
