@@ -29,7 +29,7 @@ void SplashWindow::SetPosition(std::uint32_t position)
     if (!m_bar)
         return;
     m_bar->setValue(static_cast<int>(position));
-    repaint();
+    ShowProgress(position + 1 >= static_cast<std::uint32_t>(m_bar->maximum()));
 }
 
 void SplashWindow::SetRange(std::uint32_t lowest, std::uint32_t highest)
@@ -37,6 +37,18 @@ void SplashWindow::SetRange(std::uint32_t lowest, std::uint32_t highest)
     if (!m_bar)
         return;
     m_bar->setRange(static_cast<int>(lowest), static_cast<int>(highest));
+    ShowProgress(true);
+}
+
+void SplashWindow::ShowProgress(bool force)
+{
+    constexpr qint64 FrameMs = 16;
+    const qint64 span = qint64(m_bar->maximum()) - m_bar->minimum();
+    const int fill = span > 0 ? static_cast<int>((qint64(m_bar->value()) - m_bar->minimum()) * m_bar->width() / span) : 0;
+    if (!force && (fill == m_shownFill || (m_sinceRepaint.isValid() && m_sinceRepaint.elapsed() < FrameMs)))
+        return;
+    m_shownFill = fill;
+    m_sinceRepaint.start();
     repaint();
 }
 

@@ -2,6 +2,7 @@
 
 #include "DatabaseProgress.h"
 
+#include <QElapsedTimer>
 #include <QWidget>
 
 class QProgressBar;
@@ -24,6 +25,12 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    /// Repaints at once when the bar's drawn fill has changed and a frame's time has passed
+    /// (or `force`): loading does not pump events, so this is the only way progress shows.
+    void ShowProgress(bool force);
+
     QPixmap m_picture;
+    int m_shownFill = -1;
+    QElapsedTimer m_sinceRepaint;
     QProgressBar* m_bar = nullptr;
 };
