@@ -23,10 +23,9 @@ AboutDialog::AboutDialog(QWidget* owner) : QDialog(owner)
     m_version->setText(VersionText());
     auto* notice = new QLabel(tr("Copyright \u00A9 Quelmar Software. Teaches kanji by writing."), this);
     m_site = new HyperlinkLabel(this);
-    m_site->setText(QString::fromLatin1(MakerSite));
+    m_site->SetLink(QString::fromLatin1(MakerSite));
     m_support = new HyperlinkLabel(this);
-    m_support->setText(tr("Support"));
-    m_support->SetTarget(QString::fromLatin1(SupportAddress));
+    m_support->SetLink(tr("Support"), QString::fromLatin1(SupportAddress));
     auto* credits = new QLabel(
         tr("Stroke data: KanjiVG, \u00A9 Ulrich Apel, CC BY-SA 3.0.\n"
            "Readings and meanings: KANJIDIC2, \u00A9 the Electronic Dictionary Research and Development Group, "

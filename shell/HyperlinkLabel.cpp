@@ -28,6 +28,12 @@ void HyperlinkLabel::SetOpener(std::function<bool(const QUrl&)> opener)
     Opener() = std::move(opener);
 }
 
+void HyperlinkLabel::SetLink(const QString& caption, const QString& target)
+{
+    setText(caption);
+    SetTarget(target);
+}
+
 void HyperlinkLabel::SetTarget(const QString& target)
 {
     m_target = target;

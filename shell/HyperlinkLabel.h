@@ -10,6 +10,8 @@ class HyperlinkLabel : public QLabel {
 public:
     explicit HyperlinkLabel(QWidget* parent = nullptr);
 
+    /// Sets the caption and the address opened on click (the caption when `target` is empty).
+    void SetLink(const QString& caption, const QString& target = QString());
     /// The address opened on click (the caption when none is set).
     void SetTarget(const QString& target);
     QString Target() const { return m_target.isEmpty() ? text() : m_target; }

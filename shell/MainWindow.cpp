@@ -18,6 +18,7 @@
 #include <QScreen>
 #include <QSettings>
 #include <QShortcut>
+#include <QWhatsThis>
 #include <QtEndian>
 
 using ZavorenCommon::ConfigException;
@@ -63,6 +64,8 @@ MainWindow::MainWindow(CharacterDatabase& database, ConfigStore& store, QWidget*
     }
     for (const QKeySequence& keys : IgnoredKeys)
         new QShortcut(keys, this, [] {}, Qt::WindowShortcut);
+    // Context help: Shift+F1, then a click on a control shows its help text, if it has one.
+    new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_F1), this, [] { QWhatsThis::enterWhatsThisMode(); });
 }
 
 MainWindow::~MainWindow() = default;
