@@ -1,0 +1,39 @@
+#!/usr/bin/env bash
+# Installs into a temporary prefix and starts Zavoren! through its launcher, as a user would.
+set -euo pipefail
+build=$1
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+prefix=$work/prefix
+cmake --install "$build" --prefix "$prefix" > "$work/install.log"
+
+for f in bin/zavoren bin/zavoren-db libexec/zavoren/zavoren share/zavoren/database share/zavoren/Zavoren.html \
+         share/applications/zavoren.desktop share/icons/hicolor/64x64/apps/zavoren.png; do
+    [ -e "$prefix/$f" ] || { echo "missing after install: $f"; exit 1; }
+done
+"$prefix/bin/zavoren-db" info "$prefix/share/zavoren/database" > /dev/null
+
+export XDG_DATA_HOME=$work/data XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work/runtime
+mkdir -m 700 -p "$XDG_RUNTIME_DIR"
+export QT_QPA_PLATFORM=offscreen ZAVOREN_INSTANCE_NAME="install test $work"
+
+# First use: the data folder is prepared.
+"$prefix/bin/zavoren" --prepare
+folder=$XDG_DATA_HOME/zavoren
+grep -q '<Users/>' "$folder/config.xml" || { echo "config.xml not prepared"; exit 1; }
+[ -L "$folder/database" ] && [ -L "$folder/Zavoren.html" ] || { echo "database or help not linked"; exit 1; }
+
+# An existing learner file is never overwritten.
+printf '<Zavoren><Users currentUser="Anna"><User name="Anna"/></Users></Zavoren>' > "$folder/config.xml"
+"$prefix/bin/zavoren" --prepare
+grep -q 'Anna' "$folder/config.xml" || { echo "config.xml overwritten"; exit 1; }
+
+# A start through the launcher, closed after the first paint: exit code 1 and Anna saved.
+set +e
+ZAVOREN_QUIT_AFTER_FIRST_PAINT=1 ZAVOREN_TEST_ANSWER=ok "$prefix/bin/zavoren" 2> "$work/run.log"
+code=$?
+set -e
+[ "$code" -eq 1 ] || { echo "launcher start ended with $code"; cat "$work/run.log"; exit 1; }
+grep -q 'home page painted' "$work/run.log" || { echo "home page not painted"; cat "$work/run.log"; exit 1; }
+grep -q 'categoryId="0"' "$folder/config.xml" || { echo "learner not saved"; exit 1; }
+echo "install test passed"
