@@ -8,6 +8,11 @@
 #include "ui_ReadingTestPage.h"
 
 
+namespace {
+/// Width a choice's caption may take before it is shortened.
+constexpr int ChoiceWidth = 190;
+} // namespace
+
 ReadingTestPage::ReadingTestPage(CharacterDatabase& database, QWidget* parent)
     : QuestionPage(parent), m_ui(std::make_unique<Ui::ReadingTestPage>()), m_database(database)
 {
@@ -74,7 +79,12 @@ void ReadingTestPage::SetCharacter(const Character* character)
             buttons[i]->setAutoExclusive(false);
             buttons[i]->setChecked(false);
             const bool has = i < texts.size();
-            buttons[i]->setText(has ? TextOrNotAvailable(texts[i].c_str()) : QString());
+            // Long readings are shortened on the button; the tooltip and the accessible name
+            // carry the whole text.
+            const QString full = has ? TextOrNotAvailable(texts[i].c_str()) : QString();
+            buttons[i]->setText(buttons[i]->fontMetrics().elidedText(full, Qt::ElideRight, ChoiceWidth));
+            buttons[i]->setToolTip(full);
+            buttons[i]->setAccessibleName(full);
             buttons[i]->setEnabled(has);
         }
         for (QRadioButton* b : buttons)
