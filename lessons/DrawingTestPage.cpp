@@ -2,6 +2,7 @@
 
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
+#include "GlyphLoading.h"
 #include "MessageBox.h"
 #include "DisplayCanvas.h"
 #include "InputCanvas.h"
@@ -37,13 +38,7 @@ void DrawingTestPage::SetCharacter(const Character* character)
     m_checker.reset();
     m_glyph.reset();
     if (character) {
-        try {
-            auto glyph = m_database.LoadElement(character->ElementId());
-            if (glyph->FormCount() > 0)
-                m_glyph = std::move(glyph);
-        } catch (const ZavorenCommon::DatabaseLoadException& e) {
-            ShowStoreError(this, "Zavoren Database Error", e.what());
-        }
+        m_glyph = LoadGlyphOrReport(m_database, character->ElementId(), this);
         if (m_glyph) {
             const QRect client = Input()->ClientRect();
             m_checker = std::make_unique<StrokeChecker>(

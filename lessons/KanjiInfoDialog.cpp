@@ -2,6 +2,7 @@
 
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
+#include "GlyphLoading.h"
 #include "MessageBox.h"
 #include "DisplayCanvas.h"
 #include "Page.h"
@@ -33,18 +34,12 @@ QPushButton* KanjiInfoDialog::CloseButton() const { return m_ui->closeButton; }
 
 bool KanjiInfoDialog::SetCode(std::uint16_t code)
 {
-    try {
-        auto character = m_database.LoadCharacter(code);
-        auto glyph = m_database.LoadElement(character->ElementId());
-        if (glyph->FormCount() == 0)
-            throw ZavorenCommon::DatabaseLoadException("Unable to load element");
-        m_character = std::move(character);
-        m_glyph = std::move(glyph);
-        return true;
-    } catch (const ZavorenCommon::DatabaseLoadException& e) {
-        ShowStoreError(parentWidget(), "Zavoren Database Error", e.what());
-    }
-    return false;
+    CharacterWithGlyph loaded = LoadCharacterOrReport(m_database, code, parentWidget());
+    if (!loaded.glyph)
+        return false;
+    m_character = std::move(loaded.character);
+    m_glyph = std::move(loaded.glyph);
+    return true;
 }
 
 void KanjiInfoDialog::showEvent(QShowEvent* event)

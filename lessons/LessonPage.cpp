@@ -2,6 +2,7 @@
 
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
+#include "GlyphLoading.h"
 #include "MessageBox.h"
 #include "DisplayCanvas.h"
 #include "InputCanvas.h"
@@ -104,20 +105,11 @@ void LessonPage::LoadCharacter()
         Input()->Clear();
         return;
     }
-    try {
-        auto character = m_database.LoadCharacter(*code);
-        auto glyph = m_database.LoadElement(character->ElementId());
-        if (glyph->FormCount() == 0)
-            throw ZavorenCommon::DatabaseLoadException("Unable to load element");
-        m_character = std::move(character);
-        m_glyph = std::move(glyph);
-    } catch (const ZavorenCommon::DatabaseLoadException& e) {
-        ReportDatabaseError(e.what());
+    CharacterWithGlyph loaded = LoadCharacterOrReport(m_database, *code, this);
+    if (!loaded.glyph)
         return;
-    } catch (const std::out_of_range&) {
-        ReportDatabaseError("Unable to load element");
-        return;
-    }
+    m_character = std::move(loaded.character);
+    m_glyph = std::move(loaded.glyph);
     const Form& form = m_glyph->GetForm(0);
     Display()->ShowGlyph(form);
     const QRect client = Input()->ClientRect();
@@ -129,11 +121,6 @@ void LessonPage::LoadCharacter()
     SetCaption(MeaningBox(), m_character->Meaning());
     Input()->Wipe();
     Input()->Clear();
-}
-
-void LessonPage::ReportDatabaseError(const char* message)
-{
-    ShowStoreError(this, "Zavoren Database Error", message);
 }
 
 void LessonPage::RefreshControls()

@@ -57,7 +57,6 @@ private:
     void OnStrokeEnded();
     void OnStrokeKept();
     void OnNext();
-    void ReportDatabaseError(const char* message);
 
     std::unique_ptr<Ui::LessonPage> m_ui;
     CharacterDatabase& m_database;

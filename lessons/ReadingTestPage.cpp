@@ -2,6 +2,7 @@
 
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
+#include "GlyphLoading.h"
 #include "MessageBox.h"
 #include "DisplayCanvas.h"
 #include "Page.h"
@@ -46,13 +47,7 @@ void ReadingTestPage::SetCharacter(const Character* character)
     m_perfect = true;
     Display()->StopAnimation();
     if (character) {
-        try {
-            auto glyph = m_database.LoadElement(character->ElementId());
-            if (glyph->FormCount() > 0)
-                m_glyph = std::move(glyph);
-        } catch (const ZavorenCommon::DatabaseLoadException& e) {
-            ShowStoreError(this, "Zavoren Database Error", e.what());
-        }
+        m_glyph = LoadGlyphOrReport(m_database, character->ElementId(), this);
         OnReadingLabel()->setText(QStringLiteral("?"));
         KunReadingLabel()->setText(QStringLiteral("?"));
         MeaningLabel()->setText(TextOrNotAvailable(character->Meaning()));

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "Character.h"
+#include "Element.h"
+
+#include <cstdint>
+#include <memory>
+
+class CharacterDatabase;
+class QWidget;
+
+/// A character's glyph element, with at least one form; null after the "Zavoren Database
+/// Error" box (owned by `parent`) when it cannot be read.
+std::unique_ptr<Element> LoadGlyphOrReport(CharacterDatabase& database, std::uint16_t elementId, QWidget* parent);
+
+/// A character and its glyph; both null after the error box when either cannot be read.
+struct CharacterWithGlyph {
+    std::unique_ptr<Character> character;
+    std::unique_ptr<Element> glyph;
+};
+CharacterWithGlyph LoadCharacterOrReport(CharacterDatabase& database, std::uint16_t code, QWidget* parent);
