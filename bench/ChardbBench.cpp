@@ -16,8 +16,8 @@ void OpenAndPreload(benchmark::State& state, const char* path)
         benchmark::DoNotOptimize(db.CharacterCount());
     }
     state.counters["records"] = static_cast<double>(records);
-    state.counters["records_per_second"] =
-        benchmark::Counter(static_cast<double>(records * state.iterations()), benchmark::Counter::kIsRate);
+    state.counters["records_per_second"]
+        = benchmark::Counter(static_cast<double>(records * state.iterations()), benchmark::Counter::kIsRate);
 }
 
 void BM_OpenAndPreloadStandard(benchmark::State& state)

@@ -32,7 +32,8 @@ struct Fixture {
             const auto category = database->LoadCategory(c);
             CategoryProgress& progress = user->GetProgress(c);
             for (std::size_t i = 0; i < category->CharacterCount(); ++i)
-                (i % 5 ? progress.AddLearned(category->CharacterAt(i)) : progress.AddUntested(category->CharacterAt(i)));
+                (i % 5 ? progress.AddLearned(category->CharacterAt(i))
+                       : progress.AddUntested(category->CharacterAt(i)));
         }
         store.SaveUser(*user);
         // A few ordinary learners with some progress.

@@ -37,7 +37,7 @@ void BM_LessonPageLoadCharacter(benchmark::State& state)
         id = static_cast<std::uint16_t>((id + 1) % db.CharacterCount());
     }
     state.SetLabel("input canvas " + std::to_string(page.Input()->ClientRect().width()) + " px, display "
-                   + std::to_string(page.Display()->ClientRect().width()) + " px, averaged over all characters");
+        + std::to_string(page.Display()->ClientRect().width()) + " px, averaged over all characters");
 }
 BENCHMARK(BM_LessonPageLoadCharacter)->Unit(benchmark::kMillisecond);
 
@@ -52,8 +52,8 @@ void BM_LoadCharacterAtSide(benchmark::State& state)
     for (auto _ : state) {
         const auto character = db.LoadCharacter(id);
         const auto glyph = db.LoadElement(character->ElementId());
-        StrokeChecker checker(glyph->GetForm(0), CanvasRect{0, 0, static_cast<std::uint16_t>(side),
-                                                             static_cast<std::uint16_t>(side)});
+        StrokeChecker checker(
+            glyph->GetForm(0), CanvasRect{0, 0, static_cast<std::uint16_t>(side), static_cast<std::uint16_t>(side)});
         display.fill(Qt::white);
         DrawFormSmooth(display, QRect(0, 0, side, side), glyph->GetForm(0), qRgb(0, 0, 0), 2);
         benchmark::DoNotOptimize(checker.StrokeCount());

@@ -12,7 +12,9 @@
 class ByteReader {
 public:
     ByteReader(const std::uint8_t* data, std::size_t size, const char* overrunMessage)
-        : m_data(data), m_size(size), m_overrunMessage(overrunMessage) {}
+        : m_data(data), m_size(size), m_overrunMessage(overrunMessage)
+    {
+    }
 
     std::uint8_t U8() { return *Take(1); }
     std::uint16_t U16()

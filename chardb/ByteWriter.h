@@ -8,7 +8,7 @@
 /// Appends little-endian values to a byte vector, in the database's encoding.
 class ByteWriter {
 public:
-    explicit ByteWriter(std::vector<std::uint8_t>& out) : m_out(out) {}
+    explicit ByteWriter(std::vector<std::uint8_t>& out) : m_out(out) { }
 
     void U8(std::uint8_t v) { m_out.push_back(v); }
     void U16(std::uint16_t v)

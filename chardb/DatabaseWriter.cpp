@@ -36,8 +36,8 @@ std::uint16_t DatabaseWriter::AddRawElement(std::vector<std::uint8_t> record)
     return id;
 }
 
-std::uint16_t DatabaseWriter::AddCharacter(std::uint16_t elementId, const std::string& on, const std::string& kun,
-                                           const std::string& meaning)
+std::uint16_t DatabaseWriter::AddCharacter(
+    std::uint16_t elementId, const std::string& on, const std::string& kun, const std::string& meaning)
 {
     CheckText(on);
     CheckText(kun);

@@ -15,8 +15,8 @@ public:
     /// Adds an element from already encoded form bytes (u8 form count then forms); returns its id.
     std::uint16_t AddRawElement(std::vector<std::uint8_t> record);
     /// Adds a character; texts longer than 255 bytes are a programming error. Returns its id.
-    std::uint16_t AddCharacter(std::uint16_t elementId, const std::string& on, const std::string& kun,
-                               const std::string& meaning);
+    std::uint16_t AddCharacter(
+        std::uint16_t elementId, const std::string& on, const std::string& kun, const std::string& meaning);
     /// Adds a category with its members in teaching order; returns its id.
     std::uint16_t AddCategory(const std::string& name, const std::vector<std::uint16_t>& members);
 

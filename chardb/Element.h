@@ -10,7 +10,7 @@ class Element {
 public:
     Element() = default;
     /// An element with no forms yet.
-    explicit Element(std::uint16_t id) : m_id(id) {}
+    explicit Element(std::uint16_t id) : m_id(id) { }
 
     /// The element's id in the database.
     std::uint16_t Id() const { return m_id; }

@@ -6,8 +6,7 @@ Point BezierPoint(Point p0, Point p1, Point p2, Point p3, float t)
     const float s3 = s * s * s;
     const float t3 = t * t * t;
     const float k = 3.0f * s * t;
-    return {p0.x * s3 + k * (p1.x * s + p2.x * t) + p3.x * t3,
-            p0.y * s3 + k * (p1.y * s + p2.y * t) + p3.y * t3};
+    return {p0.x * s3 + k * (p1.x * s + p2.x * t) + p3.x * t3, p0.y * s3 + k * (p1.y * s + p2.y * t) + p3.y * t3};
 }
 
 std::vector<Point> FlattenStroke(const Stroke& stroke, int samplesPerCurve)

@@ -10,7 +10,7 @@ class Form {
 public:
     Form() = default;
     /// An empty form with the given box.
-    Form(std::uint16_t width, std::uint16_t height) : m_width(width), m_height(height) {}
+    Form(std::uint16_t width, std::uint16_t height) : m_width(width), m_height(height) { }
 
     /// Width of the form's box in glyph units.
     std::uint16_t Width() const { return m_width; }

@@ -23,9 +23,7 @@ void ParseStrokes(ByteReader& reader, Form& form, std::uint8_t strokeCount)
             const std::uint8_t type = reader.U8();
             switch (type) {
             case 0:
-            case 2:
-                stroke.AppendSegment(Segment(static_cast<SegmentType>(type), ReadPoint(reader)));
-                break;
+            case 2: stroke.AppendSegment(Segment(static_cast<SegmentType>(type), ReadPoint(reader))); break;
             case 1: {
                 const Point p1 = ReadPoint(reader);
                 const Point p2 = ReadPoint(reader);
@@ -107,8 +105,8 @@ void ComposePlacement(Form& target, const Form& source, const Placement& placeme
         Stroke mapped(Map(stroke.Start(), sx, sy, ox, oy));
         for (const Segment& s : stroke.Segments()) {
             // All three points are mapped, used or not.
-            mapped.AppendSegment(Segment(s.Type(), Map(s.P1(), sx, sy, ox, oy), Map(s.P2(), sx, sy, ox, oy),
-                                         Map(s.P3(), sx, sy, ox, oy)));
+            mapped.AppendSegment(Segment(
+                s.Type(), Map(s.P1(), sx, sy, ox, oy), Map(s.P2(), sx, sy, ox, oy), Map(s.P3(), sx, sy, ox, oy)));
         }
         target.AppendStroke(mapped);
     }
@@ -144,8 +142,8 @@ void EncodeStrokeForm(const Form& form, std::vector<std::uint8_t>& out)
     }
 }
 
-void EncodeComposedForm(std::uint16_t width, std::uint16_t height, const Placement (&placements)[4],
-                        std::vector<std::uint8_t>& out)
+void EncodeComposedForm(
+    std::uint16_t width, std::uint16_t height, const Placement (&placements)[4], std::vector<std::uint8_t>& out)
 {
     ByteWriter w(out);
     w.U8(0);

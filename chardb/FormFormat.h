@@ -11,7 +11,7 @@
 /// Kind byte of a form record.
 enum class FormKind : std::uint8_t {
     Composed = 0, ///< up to four placed forms of other elements
-    Strokes = 1,  ///< a list of strokes
+    Strokes = 1, ///< a list of strokes
 };
 
 /// One of the four placements of a composed form.
@@ -43,5 +43,5 @@ void ComposePlacement(Form& target, const Form& source, const Placement& placeme
 void EncodeStrokeForm(const Form& form, std::vector<std::uint8_t>& out);
 
 /// Encodes a kind-0 form (composition) of the given box and placements.
-void EncodeComposedForm(std::uint16_t width, std::uint16_t height, const Placement (&placements)[4],
-                        std::vector<std::uint8_t>& out);
+void EncodeComposedForm(
+    std::uint16_t width, std::uint16_t height, const Placement (&placements)[4], std::vector<std::uint8_t>& out);

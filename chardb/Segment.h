@@ -6,9 +6,9 @@
 
 /// Kind of a stroke segment as stored in the database.
 enum class SegmentType : std::int32_t {
-    Line = 0,   ///< straight line to p1
+    Line = 0, ///< straight line to p1
     Bezier = 1, ///< cubic Bezier with controls p1, p2 and end p3
-    Move = 2,   ///< pen lifted, continue at p1
+    Move = 2, ///< pen lifted, continue at p1
 };
 
 /// One piece of a stroke; unused points stay at (0, 0).
@@ -16,8 +16,7 @@ class Segment {
 public:
     Segment() = default;
     /// A segment of the given type; a type byte outside the known values is kept as it is.
-    Segment(SegmentType type, Point p1, Point p2 = {}, Point p3 = {})
-        : m_type(type), m_p1(p1), m_p2(p2), m_p3(p3) {}
+    Segment(SegmentType type, Point p1, Point p2 = {}, Point p3 = {}) : m_type(type), m_p1(p1), m_p2(p2), m_p3(p3) { }
 
     /// The segment's type (may hold an unknown value read from a file).
     SegmentType Type() const { return m_type; }

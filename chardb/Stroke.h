@@ -10,7 +10,7 @@ class Stroke {
 public:
     Stroke() = default;
     /// An empty stroke starting at `start`.
-    explicit Stroke(Point start) : m_start(start) {}
+    explicit Stroke(Point start) : m_start(start) { }
 
     /// Where the pen goes down.
     Point Start() const { return m_start; }

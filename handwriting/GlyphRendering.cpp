@@ -55,11 +55,11 @@ QPointF MapGlyphPoint(Point p, const QRect& target, const Form& form)
     const float w = static_cast<float>(target.width());
     const float h = static_cast<float>(target.height());
     return QPointF(p.x * w / static_cast<float>(form.Width()) + static_cast<float>(target.left()),
-                   p.y * h / static_cast<float>(form.Height()) + static_cast<float>(target.top()));
+        p.y * h / static_cast<float>(form.Height()) + static_cast<float>(target.top()));
 }
 
 void DrawStroke(QPainter& painter, const QRect& target, const Form& form, std::uint16_t strokeIndex, int grid,
-                int offsetX, int offsetY)
+    int offsetX, int offsetY)
 {
     const Stroke& stroke = form.GetStroke(strokeIndex);
     auto place = [&](Point p) { return Snap(MapGlyphPoint(p, target, form), grid, offsetX, offsetY); };
@@ -67,15 +67,9 @@ void DrawStroke(QPainter& painter, const QRect& target, const Form& form, std::u
     path.moveTo(place(stroke.Start()));
     for (const Segment& s : stroke.Segments()) {
         switch (s.Type()) {
-        case SegmentType::Line:
-            path.lineTo(place(s.P1()));
-            break;
-        case SegmentType::Bezier:
-            path.cubicTo(place(s.P1()), place(s.P2()), place(s.P3()));
-            break;
-        case SegmentType::Move:
-            path.moveTo(place(s.P1()));
-            break;
+        case SegmentType::Line: path.lineTo(place(s.P1())); break;
+        case SegmentType::Bezier: path.cubicTo(place(s.P1()), place(s.P2()), place(s.P3())); break;
+        case SegmentType::Move: path.moveTo(place(s.P1())); break;
         }
     }
     painter.save();
@@ -130,8 +124,8 @@ void FilterEnlargedGlyph(const QImage& big, QImage& image, const QRect& target, 
             float coverage = 0.0f;
             for (int r = 0; r < 4; ++r) {
                 const QRgb* p = rows[r] + 4 * x;
-                const int mask = (qAlpha(p[0]) ? 1 : 0) | (qAlpha(p[1]) ? 2 : 0) | (qAlpha(p[2]) ? 4 : 0)
-                    | (qAlpha(p[3]) ? 8 : 0);
+                const int mask
+                    = (qAlpha(p[0]) ? 1 : 0) | (qAlpha(p[1]) ? 2 : 0) | (qAlpha(p[2]) ? 4 : 0) | (qAlpha(p[3]) ? 8 : 0);
                 coverage += weights.weight[r][mask];
             }
             if (coverage == 0.0f)
@@ -142,7 +136,7 @@ void FilterEnlargedGlyph(const QImage& big, QImage& image, const QRect& target, 
             }
             const QRgb background = out[x];
             out[x] = qRgba(Blend(qRed(background), inkR, coverage), Blend(qGreen(background), inkG, coverage),
-                           Blend(qBlue(background), inkB, coverage), qAlpha(background));
+                Blend(qBlue(background), inkB, coverage), qAlpha(background));
         }
     }
 }

@@ -17,7 +17,7 @@ QPointF MapGlyphPoint(Point p, const QRect& target, const Form& form);
 /// mapped onto `target`, snapped to multiples of `grid` (truncating towards zero) and moved by
 /// the offsets. A Move segment lifts the pen.
 void DrawStroke(QPainter& painter, const QRect& target, const Form& form, std::uint16_t strokeIndex, int grid,
-                int offsetX, int offsetY);
+    int offsetX, int offsetY);
 
 /// Draws every stroke anti-aliased onto a 32-bit image: the form is drawn four times larger with
 /// round pens of 4 x `penWidth`, and each 4 x 4 block is filtered down with a fixed kernel and

@@ -4,8 +4,8 @@
 
 #include <cmath>
 
-StrokePath StrokeChecker::MapStroke(const Stroke& stroke, std::uint16_t formWidth, std::uint16_t formHeight,
-                                    CanvasRect canvas)
+StrokePath StrokeChecker::MapStroke(
+    const Stroke& stroke, std::uint16_t formWidth, std::uint16_t formHeight, CanvasRect canvas)
 {
     const float kx = static_cast<float>(canvas.width) / static_cast<float>(formWidth);
     const float ky = static_cast<float>(canvas.height) / static_cast<float>(formHeight);
@@ -22,7 +22,8 @@ StrokePath StrokeChecker::MapStroke(const Stroke& stroke, std::uint16_t formWidt
         case SegmentType::Bezier: {
             const Point p1 = map(segment.P1()), p2 = map(segment.P2()), p3 = map(segment.P3());
             for (int i = 0; i < SamplesPerCurve; ++i)
-                path.Append(BezierPoint(current, p1, p2, p3, static_cast<float>(i) / static_cast<float>(SamplesPerCurve)));
+                path.Append(
+                    BezierPoint(current, p1, p2, p3, static_cast<float>(i) / static_cast<float>(SamplesPerCurve)));
             current = p3;
             break;
         }

@@ -54,8 +54,8 @@ public:
 
     /// The stroke mapped onto `canvas` and flattened with 32 samples per curve, with a break
     /// before every segment; the path the templates are resampled from.
-    static StrokePath MapStroke(const Stroke& stroke, std::uint16_t formWidth, std::uint16_t formHeight,
-                                CanvasRect canvas);
+    static StrokePath MapStroke(
+        const Stroke& stroke, std::uint16_t formWidth, std::uint16_t formHeight, CanvasRect canvas);
 
 private:
     std::vector<StrokePath> m_templates;

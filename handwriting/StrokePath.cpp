@@ -92,11 +92,11 @@ void StrokePath::Walk(std::uint32_t n, StrokePath& out, bool recordBreaks) const
     }
     const float step = length / static_cast<float>(n - 1);
     out.Append(m_points[0]);
-    std::size_t i = 0;     // the current span runs from point i - 1 to point i
-    float spanEnd = 0.0f;  // D: distance walked to the end of the current span
+    std::size_t i = 0; // the current span runs from point i - 1 to point i
+    float spanEnd = 0.0f; // D: distance walked to the end of the current span
     float spanStart = 0.0f; // D0: distance walked to its start
     float spanLength = 0.0f;
-    float emitted = 0.0f;  // E: distance at which the last point was emitted
+    float emitted = 0.0f; // E: distance at which the last point was emitted
     bool breakSinceEmit = false;
     for (;;) {
         while (spanEnd - emitted < step) {

@@ -12,7 +12,7 @@ class StrokePath {
 public:
     StrokePath() = default;
     /// A path through the given points, without breaks.
-    explicit StrokePath(std::vector<Point> points) : m_points(std::move(points)) {}
+    explicit StrokePath(std::vector<Point> points) : m_points(std::move(points)) { }
 
     /// Appends a point.
     void Append(Point p) { m_points.push_back(p); }

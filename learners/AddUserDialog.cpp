@@ -17,9 +17,18 @@ AddUserDialog::AddUserDialog(QWidget* parent) : QDialog(parent), m_ui(std::make_
 
 AddUserDialog::~AddUserDialog() = default;
 
-QLineEdit* AddUserDialog::NameEdit() const { return m_ui->nameEdit; }
-QPushButton* AddUserDialog::OkButton() const { return m_ui->okButton; }
-QPushButton* AddUserDialog::CancelButton() const { return m_ui->cancelButton; }
+QLineEdit* AddUserDialog::NameEdit() const
+{
+    return m_ui->nameEdit;
+}
+QPushButton* AddUserDialog::OkButton() const
+{
+    return m_ui->okButton;
+}
+QPushButton* AddUserDialog::CancelButton() const
+{
+    return m_ui->cancelButton;
+}
 
 void AddUserDialog::showEvent(QShowEvent* event)
 {

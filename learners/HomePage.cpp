@@ -31,9 +31,18 @@ HomePage::HomePage(CharacterDatabase& database, QWidget* parent)
 
 HomePage::~HomePage() = default;
 
-QLabel* HomePage::UserNameLabel() const { return m_ui->userName; }
-QTreeWidget* HomePage::CategoryList() const { return m_ui->categoryList; }
-QPushButton* HomePage::OpenButton() const { return m_ui->openButton; }
+QLabel* HomePage::UserNameLabel() const
+{
+    return m_ui->userName;
+}
+QTreeWidget* HomePage::CategoryList() const
+{
+    return m_ui->categoryList;
+}
+QPushButton* HomePage::OpenButton() const
+{
+    return m_ui->openButton;
+}
 
 QString HomePage::CategoryText(const char* name, std::size_t learned, std::size_t total)
 {
@@ -48,8 +57,9 @@ void HomePage::FillItem(QTreeWidgetItem* item, std::uint16_t categoryId)
     const auto category = m_database.LoadCategory(categoryId);
     const std::size_t learned = m_user->GetProgress(category->Id()).LearnedCount();
     item->setText(0, CategoryText(category->Name(), learned, category->CharacterCount()));
-    item->setIcon(0, QIcon(learned > 0 ? QStringLiteral(":/images/category-progress.png")
-                                       : QStringLiteral(":/images/category-new.png")));
+    item->setIcon(0,
+        QIcon(learned > 0 ? QStringLiteral(":/images/category-progress.png")
+                          : QStringLiteral(":/images/category-new.png")));
     item->setData(0, Qt::UserRole, categoryId);
     item->setData(0, Qt::UserRole + 1, learned > 0 ? 1 : 0); // the picture shown: 1 with progress
 }

@@ -9,8 +9,7 @@
 
 #include <QTimer>
 
-UserManagerDialog::UserManagerDialog(QWidget* parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::UserManagerDialog>())
+UserManagerDialog::UserManagerDialog(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::UserManagerDialog>())
 {
     m_ui->setupUi(this);
     UserList()->setAccessibleName(tr("Users"));
@@ -40,11 +39,26 @@ UserManagerDialog::UserManagerDialog(QWidget* parent)
 
 UserManagerDialog::~UserManagerDialog() = default;
 
-QListWidget* UserManagerDialog::UserList() const { return m_ui->userList; }
-QPushButton* UserManagerDialog::OpenButton() const { return m_ui->openButton; }
-QPushButton* UserManagerDialog::AddButton() const { return m_ui->addButton; }
-QPushButton* UserManagerDialog::DeleteButton() const { return m_ui->deleteButton; }
-QPushButton* UserManagerDialog::CloseButton() const { return m_ui->closeButton; }
+QListWidget* UserManagerDialog::UserList() const
+{
+    return m_ui->userList;
+}
+QPushButton* UserManagerDialog::OpenButton() const
+{
+    return m_ui->openButton;
+}
+QPushButton* UserManagerDialog::AddButton() const
+{
+    return m_ui->addButton;
+}
+QPushButton* UserManagerDialog::DeleteButton() const
+{
+    return m_ui->deleteButton;
+}
+QPushButton* UserManagerDialog::CloseButton() const
+{
+    return m_ui->closeButton;
+}
 
 QPushButton* UserManagerDialog::DefaultButton() const
 {
@@ -119,7 +133,7 @@ void UserManagerDialog::OnAdd()
         }
         if (!added) {
             ShowMessage(this, QMessageBox::NoIcon, QStringLiteral("Can't create user"),
-                        QStringLiteral("User already exists. Try another user name"));
+                QStringLiteral("User already exists. Try another user name"));
             continue;
         }
         UserList()->addItem(new QListWidgetItem(QIcon(QStringLiteral(":/images/user.png")), dialog.Name()));
@@ -135,8 +149,8 @@ void UserManagerDialog::OnDelete()
         return;
     const bool current = EqualsIgnoringAsciiCase(m_selectedUserName, m_store->CurrentUserName());
     const auto answer = ShowMessage(this, QMessageBox::Question, QStringLiteral("Delete User"),
-                                    current ? QStringLiteral("Delete current user?") : QStringLiteral("Delete user?"),
-                                    QMessageBox::Yes | QMessageBox::No);
+        current ? QStringLiteral("Delete current user?") : QStringLiteral("Delete user?"),
+        QMessageBox::Yes | QMessageBox::No);
     if (answer != QMessageBox::Yes)
         return;
     const auto selected = UserList()->selectedItems();

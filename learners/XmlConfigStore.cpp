@@ -53,7 +53,7 @@ bool WriteAll(int fd, const std::string& text)
 
 XmlConfigStore::XmlConfigStore(std::string path, CharacterDatabase* database) : m_path(std::move(path))
 {
-    struct stat info {};
+    struct stat info { };
     if (::stat(m_path.c_str(), &info) != 0)
         throw ConfigException("Config file does not exist. Try to reinstall Zavoren.");
     // Read-only: no write permission on the file at all, or none for this user.
@@ -83,7 +83,7 @@ pugi::xml_node XmlConfigStore::FindUser(const char* format, const std::string& n
     if (name.find('\'') != std::string::npos)
         return {};
     const std::string query = std::strcmp(format, "User[@%s='%s']") == 0 ? Format(format, "name", name.c_str())
-                                                                          : Format(format, "User", "name", name.c_str());
+                                                                         : Format(format, "User", "name", name.c_str());
     try {
         return UsersNode().select_node(query.c_str()).node();
     } catch (const pugi::xpath_exception&) {
@@ -224,7 +224,7 @@ bool XmlConfigStore::SaveFile()
     const int fd = ::mkstemp(temporary.data());
     if (fd < 0)
         throw ConfigException(SaveFailed);
-    struct stat info {};
+    struct stat info { };
     if (::stat(m_path.c_str(), &info) == 0)
         ::fchmod(fd, info.st_mode & 07777);
     const bool written = WriteAll(fd, writer.text) && ::fsync(fd) == 0;

@@ -25,7 +25,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     /// Paints what only the screen shows, on top of the buffer (live ink).
-    virtual void PaintOverlay(QPainter&) {}
+    virtual void PaintOverlay(QPainter&) { }
     /// Makes sure the back buffer has the client size (contents kept); false when there is none.
     bool EnsureBuffer();
     /// Widget position to client coordinates.

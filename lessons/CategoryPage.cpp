@@ -4,16 +4,16 @@
 #include "CharacterDatabase.h"
 #include "CharacterGrid.h"
 #include "DatabaseLoadException.h"
-#include "MessageBox.h"
 #include "KanjiInfoDialog.h"
+#include "MessageBox.h"
 #include "ui_CategoryPage.h"
 
 #include <QMenu>
 
 namespace {
 /// String 223: shown in the empty strip while a lesson is possible.
-const char* const LessonHint =
-    "To learn characters press 'Lesson' button and then test learned characters by pressing 'Test' button.";
+const char* const LessonHint
+    = "To learn characters press 'Lesson' button and then test learned characters by pressing 'Test' button.";
 /// String 225: shown in the empty strip when no lesson is possible.
 const char* const CategoryComplete = "Category complete";
 } // namespace
@@ -28,7 +28,7 @@ CategoryPage::CategoryPage(CharacterDatabase& database, QWidget* parent)
         grid->SetGlyphSource([this](std::uint16_t code) { return GlyphOf(code); });
         connect(grid, &CharacterGrid::selectionChanged, this, &CategoryPage::RefreshButtons);
         connect(grid, &CharacterGrid::contextMenuRequested, this,
-                [this, grid](int cell, const QPoint& at) { OnContextMenu(grid, cell, at); });
+            [this, grid](int cell, const QPoint& at) { OnContextMenu(grid, cell, at); });
     }
     // Context menus; each one's first item is its default.
     m_learnedMenu = new QMenu(tr("Learned"), this);
@@ -54,13 +54,34 @@ CategoryPage::CategoryPage(CharacterDatabase& database, QWidget* parent)
 
 CategoryPage::~CategoryPage() = default;
 
-CharacterGrid* CategoryPage::Grid() const { return m_ui->characterGrid; }
-CharacterGrid* CategoryPage::Strip() const { return m_ui->untestedStrip; }
-QPushButton* CategoryPage::LessonButton() const { return m_ui->lessonButton; }
-QPushButton* CategoryPage::TestButton() const { return m_ui->testButton; }
-QPushButton* CategoryPage::RetestButton() const { return m_ui->retestButton; }
-QPushButton* CategoryPage::ForgetButton() const { return m_ui->forgetButton; }
-QPushButton* CategoryPage::BackButton() const { return m_ui->backButton; }
+CharacterGrid* CategoryPage::Grid() const
+{
+    return m_ui->characterGrid;
+}
+CharacterGrid* CategoryPage::Strip() const
+{
+    return m_ui->untestedStrip;
+}
+QPushButton* CategoryPage::LessonButton() const
+{
+    return m_ui->lessonButton;
+}
+QPushButton* CategoryPage::TestButton() const
+{
+    return m_ui->testButton;
+}
+QPushButton* CategoryPage::RetestButton() const
+{
+    return m_ui->retestButton;
+}
+QPushButton* CategoryPage::ForgetButton() const
+{
+    return m_ui->forgetButton;
+}
+QPushButton* CategoryPage::BackButton() const
+{
+    return m_ui->backButton;
+}
 
 const Form* CategoryPage::GlyphOf(std::uint16_t code)
 {

@@ -1,7 +1,7 @@
 #include "CategoryRules.h"
 
-CategoryControlState DecideCategoryControls(std::size_t categorySize, const CategoryProgress& progress,
-                                            bool firstSelectedIsLearned)
+CategoryControlState DecideCategoryControls(
+    std::size_t categorySize, const CategoryProgress& progress, bool firstSelectedIsLearned)
 {
     CategoryControlState s;
     const std::size_t untested = progress.UntestedCount();
@@ -17,8 +17,7 @@ CategoryControlState DecideCategoryControls(std::size_t categorySize, const Cate
 }
 
 std::vector<std::uint16_t> PickLessonCharacters(const std::vector<std::uint16_t>& categoryCodes,
-                                                const CategoryProgress& progress, std::size_t stripCount,
-                                                std::size_t max)
+    const CategoryProgress& progress, std::size_t stripCount, std::size_t max)
 {
     std::vector<std::uint16_t> taken;
     for (std::uint16_t code : categoryCodes) {

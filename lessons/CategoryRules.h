@@ -23,14 +23,13 @@ struct CategoryControlState {
 };
 
 /// `firstSelectedIsLearned`: the grid has a selection whose first cell is in "Learned Kanji".
-CategoryControlState DecideCategoryControls(std::size_t categorySize, const CategoryProgress& progress,
-                                            bool firstSelectedIsLearned);
+CategoryControlState DecideCategoryControls(
+    std::size_t categorySize, const CategoryProgress& progress, bool firstSelectedIsLearned);
 
 /// The characters of a lesson: the category's codes in order, skipping learned and untested
 /// ones, stopping at `max` or when the strip's count plus those taken reaches 10.
 std::vector<std::uint16_t> PickLessonCharacters(const std::vector<std::uint16_t>& categoryCodes,
-                                                const CategoryProgress& progress, std::size_t stripCount,
-                                                std::size_t max);
+    const CategoryProgress& progress, std::size_t stripCount, std::size_t max);
 
 /// Sends five random learned characters back to the untested list (each draw over the list as
 /// it stands after the previous moves).

@@ -219,7 +219,7 @@ void CharacterGrid::paintEvent(QPaintEvent* event)
         painter.setFont(m_itemFont);
         painter.setPen(pal.color(QPalette::PlaceholderText));
         painter.drawText(viewport()->rect().adjusted(Margin, Margin, -Margin, -Margin),
-                         Qt::AlignCenter | Qt::TextWordWrap, m_emptyMessage);
+            Qt::AlignCenter | Qt::TextWordWrap, m_emptyMessage);
         return;
     }
     const int scroll = verticalScrollBar()->value();
@@ -313,9 +313,7 @@ void CharacterGrid::keyPressEvent(QKeyEvent* event)
         if (m_focus >= 0)
             SelectCell(m_focus);
         return;
-    default:
-        QAbstractScrollArea::keyPressEvent(event);
-        return;
+    default: QAbstractScrollArea::keyPressEvent(event); return;
     }
     if (m_cellCount == 0)
         return;

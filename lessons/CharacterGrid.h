@@ -71,7 +71,7 @@ private:
         int group;
         bool header;
         int firstCell; ///< for cell rows
-        int top;       ///< in content coordinates
+        int top; ///< in content coordinates
         int height;
     };
     void Relayout();

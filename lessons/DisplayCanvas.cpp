@@ -69,8 +69,11 @@ void DisplayCanvas::Tick()
             const QPointF a(points[from].x, points[from].y), b(points[shown].x, points[shown].y);
             painter.drawLine(a, b);
             const int margin = GlyphPenWidth + 2;
-            update(QRectF(a, b).normalized().toAlignedRect().adjusted(-margin, -margin, margin, margin).translated(
-                contentsRect().topLeft()));
+            update(QRectF(a, b)
+                       .normalized()
+                       .toAlignedRect()
+                       .adjusted(-margin, -margin, margin, margin)
+                       .translated(contentsRect().topLeft()));
         }
     } else {
         m_timer.stop();

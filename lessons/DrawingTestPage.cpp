@@ -2,14 +2,13 @@
 
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
-#include "GlyphLoading.h"
-#include "MessageBox.h"
 #include "DisplayCanvas.h"
+#include "GlyphLoading.h"
 #include "InputCanvas.h"
+#include "MessageBox.h"
 #include "Page.h"
 #include "WritingCursor.h"
 #include "ui_DrawingTestPage.h"
-
 
 DrawingTestPage::DrawingTestPage(CharacterDatabase& database, QWidget* parent)
     : QuestionPage(parent), m_ui(std::make_unique<Ui::DrawingTestPage>()), m_database(database)
@@ -25,11 +24,26 @@ DrawingTestPage::DrawingTestPage(CharacterDatabase& database, QWidget* parent)
 
 DrawingTestPage::~DrawingTestPage() = default;
 
-DisplayCanvas* DrawingTestPage::Display() const { return m_ui->displayCanvas; }
-InputCanvas* DrawingTestPage::Input() const { return m_ui->inputCanvas; }
-QLabel* DrawingTestPage::OnReadingLabel() const { return m_ui->onReading; }
-QLabel* DrawingTestPage::KunReadingLabel() const { return m_ui->kunReading; }
-QLabel* DrawingTestPage::MeaningLabel() const { return m_ui->meaning; }
+DisplayCanvas* DrawingTestPage::Display() const
+{
+    return m_ui->displayCanvas;
+}
+InputCanvas* DrawingTestPage::Input() const
+{
+    return m_ui->inputCanvas;
+}
+QLabel* DrawingTestPage::OnReadingLabel() const
+{
+    return m_ui->onReading;
+}
+QLabel* DrawingTestPage::KunReadingLabel() const
+{
+    return m_ui->kunReading;
+}
+QLabel* DrawingTestPage::MeaningLabel() const
+{
+    return m_ui->meaning;
+}
 
 void DrawingTestPage::SetCharacter(const Character* character)
 {
@@ -41,9 +55,9 @@ void DrawingTestPage::SetCharacter(const Character* character)
         m_glyph = LoadGlyphOrReport(m_database, character->ElementId(), this);
         if (m_glyph) {
             const QRect client = Input()->ClientRect();
-            m_checker = std::make_unique<StrokeChecker>(
-                m_glyph->GetForm(0),
-                CanvasRect{0, 0, static_cast<std::uint16_t>(client.width()), static_cast<std::uint16_t>(client.height())},
+            m_checker = std::make_unique<StrokeChecker>(m_glyph->GetForm(0),
+                CanvasRect{
+                    0, 0, static_cast<std::uint16_t>(client.width()), static_cast<std::uint16_t>(client.height())},
                 StrokeChecker::PageSampleCount);
         }
     }
@@ -66,7 +80,8 @@ void DrawingTestPage::OnStrokeEnded()
 {
     // A stroke beyond the glyph's last one is scored at that index too, which refuses it.
     const int index = Input()->StrokeCount() - 1;
-    const float score = m_checker ? m_checker->Score(Input()->CurrentStroke(), static_cast<std::uint16_t>(index)) : -1.0f;
+    const float score
+        = m_checker ? m_checker->Score(Input()->CurrentStroke(), static_cast<std::uint16_t>(index)) : -1.0f;
     if (score < 1.0f)
         Input()->Undo();
 }

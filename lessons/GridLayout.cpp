@@ -44,12 +44,9 @@ std::size_t GridLayout::Move(std::size_t cell, Key key) const
         return std::min(first + column, last);
     };
     switch (key) {
-    case Key::Home:
-        return 0;
-    case Key::End:
-        return m_total - 1;
-    case Key::Left:
-        return p.column == 0 ? cell : cell - 1;
+    case Key::Home: return 0;
+    case Key::End: return m_total - 1;
+    case Key::Left: return p.column == 0 ? cell : cell - 1;
     case Key::Right:
         if (cell + 1 == m_starts[p.group] + m_sizes[p.group] || p.column + 1 == m_columns)
             return cell;

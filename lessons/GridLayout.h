@@ -9,7 +9,7 @@ class GridLayout {
 public:
     struct Position {
         std::size_t group = 0;
-        std::size_t row = 0;    ///< row inside the group
+        std::size_t row = 0; ///< row inside the group
         std::size_t column = 0;
     };
 

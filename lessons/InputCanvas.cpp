@@ -106,7 +106,7 @@ void InputCanvas::AddPoint(const QPointF& widgetPosition)
     m_current.push_back(p);
     const int margin = static_cast<int>(m_pen.widthF()) + 2;
     const QRect changed = QRect(QPoint(static_cast<int>(from.x), static_cast<int>(from.y)),
-                                QPoint(static_cast<int>(p.x), static_cast<int>(p.y)))
+        QPoint(static_cast<int>(p.x), static_cast<int>(p.y)))
                               .normalized()
                               .adjusted(-margin, -margin, margin, margin)
                               .translated(contentsRect().topLeft());

@@ -2,12 +2,11 @@
 
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
+#include "DisplayCanvas.h"
 #include "GlyphLoading.h"
 #include "MessageBox.h"
-#include "DisplayCanvas.h"
 #include "Page.h"
 #include "ui_KanjiInfoDialog.h"
-
 
 KanjiInfoDialog::KanjiInfoDialog(CharacterDatabase& database, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::KanjiInfoDialog>()), m_database(database)
@@ -26,11 +25,26 @@ KanjiInfoDialog::KanjiInfoDialog(CharacterDatabase& database, QWidget* parent)
 
 KanjiInfoDialog::~KanjiInfoDialog() = default;
 
-DisplayCanvas* KanjiInfoDialog::Display() const { return m_ui->displayCanvas; }
-QLabel* KanjiInfoDialog::OnReadingLabel() const { return m_ui->onReading; }
-QLabel* KanjiInfoDialog::KunReadingLabel() const { return m_ui->kunReading; }
-QLabel* KanjiInfoDialog::MeaningLabel() const { return m_ui->meaning; }
-QPushButton* KanjiInfoDialog::CloseButton() const { return m_ui->closeButton; }
+DisplayCanvas* KanjiInfoDialog::Display() const
+{
+    return m_ui->displayCanvas;
+}
+QLabel* KanjiInfoDialog::OnReadingLabel() const
+{
+    return m_ui->onReading;
+}
+QLabel* KanjiInfoDialog::KunReadingLabel() const
+{
+    return m_ui->kunReading;
+}
+QLabel* KanjiInfoDialog::MeaningLabel() const
+{
+    return m_ui->meaning;
+}
+QPushButton* KanjiInfoDialog::CloseButton() const
+{
+    return m_ui->closeButton;
+}
 
 bool KanjiInfoDialog::SetCode(std::uint16_t code)
 {

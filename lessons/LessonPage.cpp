@@ -2,13 +2,12 @@
 
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
-#include "GlyphLoading.h"
-#include "MessageBox.h"
 #include "DisplayCanvas.h"
+#include "GlyphLoading.h"
 #include "InputCanvas.h"
+#include "MessageBox.h"
 #include "WritingCursor.h"
 #include "ui_LessonPage.h"
-
 
 namespace {
 
@@ -64,16 +63,46 @@ LessonPage::LessonPage(CharacterDatabase& database, QWidget* parent)
 
 LessonPage::~LessonPage() = default;
 
-DisplayCanvas* LessonPage::Display() const { return m_ui->displayCanvas; }
-InputCanvas* LessonPage::Input() const { return m_ui->inputCanvas; }
-QCheckBox* LessonPage::OnReadingBox() const { return m_ui->onReading; }
-QCheckBox* LessonPage::KunReadingBox() const { return m_ui->kunReading; }
-QCheckBox* LessonPage::MeaningBox() const { return m_ui->meaning; }
-QPushButton* LessonPage::ClearButton() const { return m_ui->clearButton; }
-QPushButton* LessonPage::UndoButton() const { return m_ui->undoButton; }
-QPushButton* LessonPage::HintButton() const { return m_ui->hintButton; }
-QPushButton* LessonPage::AbortButton() const { return m_ui->abortButton; }
-QPushButton* LessonPage::NextButton() const { return m_ui->nextButton; }
+DisplayCanvas* LessonPage::Display() const
+{
+    return m_ui->displayCanvas;
+}
+InputCanvas* LessonPage::Input() const
+{
+    return m_ui->inputCanvas;
+}
+QCheckBox* LessonPage::OnReadingBox() const
+{
+    return m_ui->onReading;
+}
+QCheckBox* LessonPage::KunReadingBox() const
+{
+    return m_ui->kunReading;
+}
+QCheckBox* LessonPage::MeaningBox() const
+{
+    return m_ui->meaning;
+}
+QPushButton* LessonPage::ClearButton() const
+{
+    return m_ui->clearButton;
+}
+QPushButton* LessonPage::UndoButton() const
+{
+    return m_ui->undoButton;
+}
+QPushButton* LessonPage::HintButton() const
+{
+    return m_ui->hintButton;
+}
+QPushButton* LessonPage::AbortButton() const
+{
+    return m_ui->abortButton;
+}
+QPushButton* LessonPage::NextButton() const
+{
+    return m_ui->nextButton;
+}
 
 const Form* LessonPage::Glyph() const
 {
@@ -113,8 +142,8 @@ void LessonPage::LoadCharacter()
     const Form& form = m_glyph->GetForm(0);
     Display()->ShowGlyph(form);
     const QRect client = Input()->ClientRect();
-    m_checker = std::make_unique<StrokeChecker>(
-        form, CanvasRect{0, 0, static_cast<std::uint16_t>(client.width()), static_cast<std::uint16_t>(client.height())},
+    m_checker = std::make_unique<StrokeChecker>(form,
+        CanvasRect{0, 0, static_cast<std::uint16_t>(client.width()), static_cast<std::uint16_t>(client.height())},
         StrokeChecker::PageSampleCount);
     SetCaption(OnReadingBox(), m_character->OnReading());
     SetCaption(KunReadingBox(), m_character->KunReading());
@@ -127,8 +156,8 @@ void LessonPage::RefreshControls()
 {
     const int strokes = m_glyph ? m_glyph->GetForm(0).StrokeCount() : 0;
     const bool ticked = OnReadingBox()->isChecked() && KunReadingBox()->isChecked() && MeaningBox()->isChecked();
-    const LessonControlState s =
-        DecideLessonControls(m_glyph != nullptr, strokes, Input()->StrokeCount(), ticked, m_hintShown);
+    const LessonControlState s
+        = DecideLessonControls(m_glyph != nullptr, strokes, Input()->StrokeCount(), ticked, m_hintShown);
     Input()->setEnabled(s.inputEnabled);
     NextButton()->setEnabled(s.nextEnabled);
     SetDefaultButton(s.nextIsDefault ? NextButton() : AbortButton());
@@ -140,8 +169,8 @@ void LessonPage::RefreshControls()
 void LessonPage::OnStrokeEnded()
 {
     const int index = Input()->StrokeCount() - 1;
-    const float score =
-        m_checker ? m_checker->Score(Input()->CurrentStroke(), static_cast<std::uint16_t>(index)) : -1.0f;
+    const float score
+        = m_checker ? m_checker->Score(Input()->CurrentStroke(), static_cast<std::uint16_t>(index)) : -1.0f;
     if (score < 1.0f)
         Input()->Undo();
     RefreshControls();

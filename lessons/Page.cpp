@@ -3,7 +3,7 @@
 #include <QKeyEvent>
 #include <QPushButton>
 
-Page::Page(QWidget* parent) : QWidget(parent) {}
+Page::Page(QWidget* parent) : QWidget(parent) { }
 
 void Page::SetDefaultButton(QPushButton* button)
 {
@@ -24,11 +24,8 @@ void Page::keyPressEvent(QKeyEvent* event)
         if (m_defaultButton && m_defaultButton->isEnabled() && m_defaultButton->isVisible())
             m_defaultButton->click();
         return;
-    case Qt::Key_Escape:
-        Cancel();
-        return;
-    default:
-        QWidget::keyPressEvent(event);
+    case Qt::Key_Escape: Cancel(); return;
+    default: QWidget::keyPressEvent(event);
     }
 }
 

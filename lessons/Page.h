@@ -22,7 +22,7 @@ protected:
     /// Makes `button` the one Enter presses (and shows it as the default).
     void SetDefaultButton(QPushButton* button);
     /// The cancel command (Esc); pages that have one override this.
-    virtual void Cancel() {}
+    virtual void Cancel() { }
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

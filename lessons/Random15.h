@@ -9,7 +9,7 @@ class Random15 {
 public:
     static constexpr int Max = 32767;
 
-    explicit Random15(std::uint32_t seed = 1) : m_state(seed) {}
+    explicit Random15(std::uint32_t seed = 1) : m_state(seed) { }
     /// Restarts the sequence.
     void Seed(std::uint32_t seed) { m_state = seed; }
     /// Seeds with the current time in seconds.
@@ -21,7 +21,10 @@ public:
         return static_cast<int>((m_state >> 16) & 0x7FFF);
     }
     /// A uniform integer in [lo, hi]: lo + floor(r * (hi - lo + 1) / 32768).
-    int Uniform(int lo, int hi) { return lo + static_cast<int>(static_cast<std::int64_t>(Next()) * (hi - lo + 1) / 32768); }
+    int Uniform(int lo, int hi)
+    {
+        return lo + static_cast<int>(static_cast<std::int64_t>(Next()) * (hi - lo + 1) / 32768);
+    }
 
 private:
     std::uint32_t m_state;

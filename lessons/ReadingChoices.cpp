@@ -12,7 +12,7 @@ std::string TextOf(const char* text)
 }
 
 void Fill(std::vector<std::string>& list, const std::string& right, CharacterDatabase& database, Random15& random,
-          std::size_t buttons, int maxDraws, const char* (Character::*reading)() const)
+    std::size_t buttons, int maxDraws, const char* (Character::*reading)() const)
 {
     list.clear();
     list.push_back(right);
@@ -34,8 +34,8 @@ void Fill(std::vector<std::string>& list, const std::string& right, CharacterDat
 
 } // namespace
 
-ReadingChoices ReadingChoices::Build(CharacterDatabase& database, const Character& character, Random15& random,
-                                     std::size_t buttons, int maxDraws)
+ReadingChoices ReadingChoices::Build(
+    CharacterDatabase& database, const Character& character, Random15& random, std::size_t buttons, int maxDraws)
 {
     ReadingChoices choices;
     Fill(choices.on, TextOf(character.OnReading()), database, random, buttons, maxDraws, &Character::OnReading);

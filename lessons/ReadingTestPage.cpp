@@ -2,12 +2,11 @@
 
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
+#include "DisplayCanvas.h"
 #include "GlyphLoading.h"
 #include "MessageBox.h"
-#include "DisplayCanvas.h"
 #include "Page.h"
 #include "ui_ReadingTestPage.h"
-
 
 namespace {
 /// Width a choice's caption may take before it is shortened.
@@ -33,10 +32,22 @@ ReadingTestPage::ReadingTestPage(CharacterDatabase& database, QWidget* parent)
 
 ReadingTestPage::~ReadingTestPage() = default;
 
-QLabel* ReadingTestPage::OnReadingLabel() const { return m_ui->onReading; }
-QLabel* ReadingTestPage::KunReadingLabel() const { return m_ui->kunReading; }
-QLabel* ReadingTestPage::MeaningLabel() const { return m_ui->meaning; }
-DisplayCanvas* ReadingTestPage::Display() const { return m_ui->displayCanvas; }
+QLabel* ReadingTestPage::OnReadingLabel() const
+{
+    return m_ui->onReading;
+}
+QLabel* ReadingTestPage::KunReadingLabel() const
+{
+    return m_ui->kunReading;
+}
+QLabel* ReadingTestPage::MeaningLabel() const
+{
+    return m_ui->meaning;
+}
+DisplayCanvas* ReadingTestPage::Display() const
+{
+    return m_ui->displayCanvas;
+}
 
 void ReadingTestPage::SetCharacter(const Character* character)
 {

@@ -2,11 +2,10 @@
 
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
-#include "MessageBox.h"
 #include "DrawingTestPage.h"
+#include "MessageBox.h"
 #include "ReadingTestPage.h"
 #include "ui_TestContainer.h"
-
 
 TestContainer::TestContainer(CharacterDatabase& database, QWidget* parent)
     : Page(parent), m_ui(std::make_unique<Ui::TestContainer>()), m_database(database)
@@ -27,8 +26,14 @@ TestContainer::TestContainer(CharacterDatabase& database, QWidget* parent)
 
 TestContainer::~TestContainer() = default;
 
-QPushButton* TestContainer::NextButton() const { return m_ui->nextButton; }
-QPushButton* TestContainer::AbortButton() const { return m_ui->abortButton; }
+QPushButton* TestContainer::NextButton() const
+{
+    return m_ui->nextButton;
+}
+QPushButton* TestContainer::AbortButton() const
+{
+    return m_ui->abortButton;
+}
 
 QuestionPage* TestContainer::ShownPage() const
 {
@@ -66,7 +71,8 @@ void TestContainer::AskQuestion()
     QuestionPage* page = m_schedule.CurrentPage() == Reading ? static_cast<QuestionPage*>(m_reading)
                                                              : static_cast<QuestionPage*>(m_drawing);
     // The page not asked lets go of the character record it was given before.
-    QuestionPage* other = page == m_reading ? static_cast<QuestionPage*>(m_drawing) : static_cast<QuestionPage*>(m_reading);
+    QuestionPage* other
+        = page == m_reading ? static_cast<QuestionPage*>(m_drawing) : static_cast<QuestionPage*>(m_reading);
     other->SetCharacter(nullptr);
     page->SetCharacter(m_character.get());
     m_ui->questions->setCurrentWidget(page);

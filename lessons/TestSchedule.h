@@ -17,7 +17,7 @@ public:
         std::uint16_t Attempts() const { return static_cast<std::uint16_t>(clean + mistakes); }
     };
 
-    explicit TestSchedule(std::uint16_t pageCount = 2) : m_pageCount(pageCount) {}
+    explicit TestSchedule(std::uint16_t pageCount = 2) : m_pageCount(pageCount) { }
 
     /// Starts a test of these codes and chooses the first question (none for an empty list).
     void Start(std::vector<std::uint16_t> codes);

@@ -38,7 +38,7 @@ AboutDialog::AboutDialog(QWidget* owner) : QDialog(owner)
 
     auto* texts = new QVBoxLayout;
     for (QWidget* w : {static_cast<QWidget*>(product), static_cast<QWidget*>(m_version), static_cast<QWidget*>(notice),
-                       static_cast<QWidget*>(m_site), static_cast<QWidget*>(m_support), static_cast<QWidget*>(credits)})
+             static_cast<QWidget*>(m_site), static_cast<QWidget*>(m_support), static_cast<QWidget*>(credits)})
         texts->addWidget(w);
     auto* grid = new QGridLayout(this);
     grid->addWidget(icon, 0, 0, Qt::AlignTop);

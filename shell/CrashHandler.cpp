@@ -197,7 +197,8 @@ void OnFatalSignal(int signal, siginfo_t* info, void*)
         pid_t helper = 0;
         const int fd = StartHelper(helper);
         if (fd >= 0) {
-            const std::string head = "Zavoren! crash report\n\nWhat happened: uncaught exception " + typeName + ": " + what + "\n";
+            const std::string head
+                = "Zavoren! crash report\n\nWhat happened: uncaught exception " + typeName + ": " + what + "\n";
             WriteText(fd, head.c_str());
             FinishReport(fd, helper);
         }
@@ -224,7 +225,7 @@ void InstallCrashHandler(const char* programPath)
     alternate.ss_sp = g_alternateStack;
     alternate.ss_size = sizeof g_alternateStack;
     ::sigaltstack(&alternate, nullptr); // so that a stack overflow can still be reported
-    struct sigaction action {};
+    struct sigaction action { };
     action.sa_sigaction = OnFatalSignal;
     action.sa_flags = SA_SIGINFO | SA_ONSTACK | SA_RESETHAND;
     sigemptyset(&action.sa_mask);
@@ -283,19 +284,20 @@ int RunCrashReportHelper()
     if (input.open(stdin, QIODevice::ReadOnly))
         report = DemangleStackTrace(input.readAll());
     const QDateTime now = QDateTime::currentDateTime();
-    const QString question =
-        QStringLiteral("Oops...\r\nFatal error in Zavoren.\r\n\r\nDo you want to get minidump for it?");
+    const QString question
+        = QStringLiteral("Oops...\r\nFatal error in Zavoren.\r\n\r\nDo you want to get minidump for it?");
     // The box shows the line breaks as line breaks.
     QString shown = question;
     shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     const auto answer = ShowMessage(nullptr, QMessageBox::Critical, QStringLiteral("Unhandled Exception"), shown,
-                                    QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
+        QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
     if (answer != QMessageBox::Yes)
         return 0;
     if (!report.isEmpty() && WriteCrashReport(CrashReportFolder(), now, report))
         ShowMessage(nullptr, QMessageBox::Information, QStringLiteral("MiniDump"),
-                    QStringLiteral("Minidump successfuly created in application folder."));
+            QStringLiteral("Minidump successfuly created in application folder."));
     else
-        ShowMessage(nullptr, QMessageBox::Critical, QStringLiteral("Error"), QStringLiteral("Unable to generate minidump."));
+        ShowMessage(
+            nullptr, QMessageBox::Critical, QStringLiteral("Error"), QStringLiteral("Unable to generate minidump."));
     return 0;
 }

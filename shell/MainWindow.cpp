@@ -29,13 +29,20 @@ const char* const ConfigErrorTitle = "Zavoren Configuration Error";
 
 /// Keys the window takes and ignores, so that the pages never see them.
 const QKeySequence IgnoredKeys[] = {
-    QKeySequence(Qt::CTRL | Qt::Key_C),      QKeySequence(Qt::CTRL | Qt::Key_Insert),
-    QKeySequence(Qt::SHIFT | Qt::Key_Delete), QKeySequence(Qt::CTRL | Qt::Key_X),
-    QKeySequence(Qt::CTRL | Qt::Key_V),      QKeySequence(Qt::SHIFT | Qt::Key_Insert),
-    QKeySequence(Qt::ALT | Qt::Key_Backspace), QKeySequence(Qt::CTRL | Qt::Key_Z),
-    QKeySequence(Qt::CTRL | Qt::Key_N),      QKeySequence(Qt::CTRL | Qt::Key_O),
-    QKeySequence(Qt::CTRL | Qt::Key_P),      QKeySequence(Qt::CTRL | Qt::Key_S),
-    QKeySequence(Qt::Key_F6),                QKeySequence(Qt::SHIFT | Qt::Key_F6),
+    QKeySequence(Qt::CTRL | Qt::Key_C),
+    QKeySequence(Qt::CTRL | Qt::Key_Insert),
+    QKeySequence(Qt::SHIFT | Qt::Key_Delete),
+    QKeySequence(Qt::CTRL | Qt::Key_X),
+    QKeySequence(Qt::CTRL | Qt::Key_V),
+    QKeySequence(Qt::SHIFT | Qt::Key_Insert),
+    QKeySequence(Qt::ALT | Qt::Key_Backspace),
+    QKeySequence(Qt::CTRL | Qt::Key_Z),
+    QKeySequence(Qt::CTRL | Qt::Key_N),
+    QKeySequence(Qt::CTRL | Qt::Key_O),
+    QKeySequence(Qt::CTRL | Qt::Key_P),
+    QKeySequence(Qt::CTRL | Qt::Key_S),
+    QKeySequence(Qt::Key_F6),
+    QKeySequence(Qt::SHIFT | Qt::Key_F6),
 };
 
 } // namespace
@@ -54,16 +61,17 @@ MainWindow::MainWindow(CharacterDatabase& database, ConfigStore& store, QWidget*
     m_test = new TestContainer(database, m_pageArea);
     m_category = new CategoryPage(database, m_pageArea);
     for (Page* page : {static_cast<Page*>(m_home), static_cast<Page*>(m_lesson), static_cast<Page*>(m_test),
-                       static_cast<Page*>(m_category)}) {
+             static_cast<Page*>(m_category)}) {
         page->adjustSize();
         page->setFixedSize(page->size());
         page->hide();
-        connect(page, &Page::pageEvent, this,
-                [this, page](quint16 code, quint16 argument) { OnPageEvent(page, code, argument); },
-                Qt::DirectConnection);
+        connect(
+            page, &Page::pageEvent, this,
+            [this, page](quint16 code, quint16 argument) { OnPageEvent(page, code, argument); }, Qt::DirectConnection);
     }
     for (const QKeySequence& keys : IgnoredKeys)
-        new QShortcut(keys, this, [] {}, Qt::WindowShortcut);
+        new QShortcut(
+            keys, this, [] {}, Qt::WindowShortcut);
     // Context help: Shift+F1, then a click on a control shows its help text, if it has one.
     new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_F1), this, [] { QWhatsThis::enterWhatsThisMode(); });
 }
@@ -105,7 +113,7 @@ int MainWindow::RunUserManager()
     UserManagerDialog manager(owner && owner->isVisible() ? owner : (isVisible() ? this : nullptr));
     connect(&manager, &UserManagerDialog::currentUserDeleted, this, [this] { SetLearner(nullptr); });
     connect(&manager, &UserManagerDialog::storeFailed, this,
-            [this](const QString& message) { ReportStoreError(message.toUtf8().constData()); });
+        [this](const QString& message) { ReportStoreError(message.toUtf8().constData()); });
     if (m_managerHook)
         m_managerHook(manager);
     const int result = manager.exec();

@@ -15,8 +15,8 @@ namespace {
 /// A name safe for files and sockets, derived from the program's name and the user.
 QString KeyFor(const QString& name)
 {
-    const QByteArray hash =
-        QCryptographicHash::hash((name + QString::number(getuid())).toUtf8(), QCryptographicHash::Sha1).toHex();
+    const QByteArray hash
+        = QCryptographicHash::hash((name + QString::number(getuid())).toUtf8(), QCryptographicHash::Sha1).toHex();
     return QStringLiteral("zavoren-") + QString::fromLatin1(hash.left(16));
 }
 
@@ -30,7 +30,7 @@ QString LockDirectory()
 
 } // namespace
 
-SingleInstance::SingleInstance(QString name, QObject* parent) : QObject(parent), m_name(std::move(name)) {}
+SingleInstance::SingleInstance(QString name, QObject* parent) : QObject(parent), m_name(std::move(name)) { }
 
 SingleInstance::~SingleInstance() = default;
 

@@ -15,8 +15,8 @@ class SingleInstance : public QObject {
     Q_OBJECT
 public:
     /// `name` identifies the program (tests pass their own).
-    explicit SingleInstance(QString name = QStringLiteral("Quelmar Zavoren! Kanji Learning Program"),
-                            QObject* parent = nullptr);
+    explicit SingleInstance(
+        QString name = QStringLiteral("Quelmar Zavoren! Kanji Learning Program"), QObject* parent = nullptr);
     ~SingleInstance() override;
 
     /// True when this is the first copy (it now owns the lock and listens); false when another

@@ -31,7 +31,7 @@ public:
         if (event->type() == QEvent::Paint && !m_done) {
             m_done = true;
             std::fprintf(stderr, "home page painted %lld ms after the window was built\n",
-                         static_cast<long long>(m_clock.elapsed()));
+                static_cast<long long>(m_clock.elapsed()));
             QTimer::singleShot(0, m_window, &QWidget::close);
         }
         return QObject::eventFilter(object, event);

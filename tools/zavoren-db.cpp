@@ -7,27 +7,26 @@
 #include "InkFile.h"
 #include "StrokeChecker.h"
 
-
 #include <algorithm>
 #include <cerrno>
-#include <cstdlib>
-#include <sstream>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <map>
+#include <sstream>
 #include <string>
 #include <vector>
 
 namespace {
 
-const char* const Usage =
-    "usage:\n"
-    "  zavoren-db build --kanjivg DIR --kanjidic FILE --out PATH [--lang en|fr|es|pt] [--set standard|all]\n"
-    "  zavoren-db dump [--json] PATH\n"
-    "  zavoren-db info PATH\n"
-    "  zavoren-db score --db PATH --char ID --canvas X,Y,W,H --stroke K --ink FILE\n";
+const char* const Usage
+    = "usage:\n"
+      "  zavoren-db build --kanjivg DIR --kanjidic FILE --out PATH [--lang en|fr|es|pt] [--set standard|all]\n"
+      "  zavoren-db dump [--json] PATH\n"
+      "  zavoren-db info PATH\n"
+      "  zavoren-db score --db PATH --char ID --canvas X,Y,W,H --stroke K --ink FILE\n";
 
 int Fail(const std::string& message)
 {
@@ -37,7 +36,7 @@ int Fail(const std::string& message)
 
 /// Splits "--name value" pairs; a flag without a value maps to "".
 bool ParseOptions(const std::vector<std::string>& args, const std::vector<std::string>& withValue,
-                  std::map<std::string, std::string>& options, std::vector<std::string>& positional, std::string& error)
+    std::map<std::string, std::string>& options, std::vector<std::string>& positional, std::string& error)
 {
     for (std::size_t i = 0; i < args.size(); ++i) {
         const std::string& arg = args[i];
@@ -77,7 +76,8 @@ int Build(const std::vector<std::string>& args)
     options.kanjidicPath = o["--kanjidic"];
     if (o.count("--lang")) {
         options.language = o["--lang"];
-        if (options.language != "en" && options.language != "fr" && options.language != "es" && options.language != "pt")
+        if (options.language != "en" && options.language != "fr" && options.language != "es"
+            && options.language != "pt")
             return Fail("--lang must be en, fr, es or pt");
     }
     if (o.count("--set")) {
@@ -238,7 +238,7 @@ int Score(const std::vector<std::string>& args)
         const auto character = database.LoadCharacter(static_cast<std::uint16_t>(id));
         const auto element = database.LoadElement(character->ElementId());
         const CanvasRect canvas{static_cast<std::uint16_t>(rect[0]), static_cast<std::uint16_t>(rect[1]),
-                                static_cast<std::uint16_t>(rect[2]), static_cast<std::uint16_t>(rect[3])};
+            static_cast<std::uint16_t>(rect[2]), static_cast<std::uint16_t>(rect[3])};
         const StrokeChecker checker(element->GetForm(0), canvas, StrokeChecker::PageSampleCount);
         std::cout << checker.Score(ink, static_cast<std::uint16_t>(stroke)) << '\n';
     } catch (const ZavorenCommon::DatabaseLoadException& e) {

@@ -1,5 +1,5 @@
-#include "DatabaseLoadException.h"
 #include "FileCharacterDatabase.h"
+#include "DatabaseLoadException.h"
 #include "RawDatabaseFile.h"
 
 #include <gtest/gtest.h>
@@ -53,10 +53,7 @@ protected:
 class RecordingProgress : public DatabaseProgress {
 public:
     void SetPosition(std::uint32_t position) override { positions.push_back(position); }
-    void SetRange(std::uint32_t lowest, std::uint32_t highest) override
-    {
-        ranges.emplace_back(lowest, highest);
-    }
+    void SetRange(std::uint32_t lowest, std::uint32_t highest) override { ranges.emplace_back(lowest, highest); }
     std::vector<std::uint32_t> positions;
     std::vector<std::pair<std::uint32_t, std::uint32_t>> ranges;
 };
@@ -78,8 +75,8 @@ TEST_F(DatabaseFileTest, MissingFileCannotBeOpened)
 
 TEST_F(DatabaseFileTest, HeaderShorterThanTwelveBytes)
 {
-    EXPECT_LOAD_ERROR(FileCharacterDatabase(Write(Bytes{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11})),
-                      "Unable to read database header");
+    EXPECT_LOAD_ERROR(
+        FileCharacterDatabase(Write(Bytes{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11})), "Unable to read database header");
     EXPECT_LOAD_ERROR(FileCharacterDatabase(Write(Bytes{})), "Unable to read database header");
 }
 
@@ -300,7 +297,8 @@ TEST_F(DatabaseFileTest, ComposedElementsAreResolvedThroughTheReader)
     f.elements.push_back({OneLineElement()}); // 0: can never be placed
     f.elements.push_back({ElementRecord({StrokeFormBytes(10, 10).Stroke(0, 0).Line(10, 0).Build()})});
     // 2: places element 1 twice; 3: places 2, nested composition.
-    f.elements.push_back({ElementRecord({ComposedFormBytes(100, 100, {{1, 1, 0, 0, 50, 50}, {1, 1, 50, 50, 50, 50}})})});
+    f.elements.push_back(
+        {ElementRecord({ComposedFormBytes(100, 100, {{1, 1, 0, 0, 50, 50}, {1, 1, 50, 50, 50, 50}})})});
     f.elements.push_back({ElementRecord({ComposedFormBytes(200, 200, {{2, 1, 10, 20, 200, 200}})})});
     f.characters.push_back({CharacterRecord(3, "", "", "")});
     FileCharacterDatabase db(Write(f));
@@ -339,8 +337,8 @@ TEST_F(DatabaseFileTest, CompositionDepthIsLimited)
         f.elements.push_back({OneLineElement()});
         f.elements.push_back({ElementRecord({StrokeFormBytes(10, 10).Stroke(0, 0).Line(10, 0).Build()})});
         for (int k = 1; k <= levels; ++k)
-            f.elements.push_back({ElementRecord(
-                {ComposedFormBytes(10, 10, {{static_cast<std::uint16_t>(k), 1, 0, 0, 10, 10}})})});
+            f.elements.push_back(
+                {ElementRecord({ComposedFormBytes(10, 10, {{static_cast<std::uint16_t>(k), 1, 0, 0, 10, 10}})})});
         return f;
     };
     const int limit = static_cast<int>(FileCharacterDatabase::MaxCompositionDepth);

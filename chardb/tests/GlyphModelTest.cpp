@@ -77,13 +77,10 @@ TEST_F(ElementFixture, StrokeFormWithoutStrokesIsSixBytes)
 
 TEST_F(ElementFixture, SegmentsOfEveryType)
 {
-    auto e = Load({ElementRecord({StrokeFormBytes(109, 109)
-                                      .Stroke(1, 2)
-                                      .Line(3, 4)
-                                      .Bezier(5, 6, 7, 8, 9, 10)
-                                      .Move(11, 12)
-                                      .Build()})},
-                  0);
+    auto e
+        = Load({ElementRecord(
+                   {StrokeFormBytes(109, 109).Stroke(1, 2).Line(3, 4).Bezier(5, 6, 7, 8, 9, 10).Move(11, 12).Build()})},
+            0);
     const Stroke& s = e->GetForm(0).GetStroke(0);
     ASSERT_EQ(s.SegmentCount(), 3);
     EXPECT_EQ(s.GetSegment(0).Type(), SegmentType::Line);
@@ -143,15 +140,15 @@ TEST_F(ElementFixture, PlacementWithFormNumberZeroIsOutOfRange)
 {
     const Bytes source = ElementRecord({StrokeFormBytes(10, 10).Stroke(1, 1).Build()});
     EXPECT_THROW(Load({Placeholder(), source, ElementRecord({ComposedFormBytes(10, 10, {{1, 0, 0, 0, 10, 10}})})}, 2),
-                 std::out_of_range);
+        std::out_of_range);
     EXPECT_THROW(Load({Placeholder(), source, ElementRecord({ComposedFormBytes(10, 10, {{1, 2, 0, 0, 10, 10}})})}, 2),
-                 std::out_of_range);
+        std::out_of_range);
 }
 
 TEST_F(ElementFixture, DoubleWidthPlacementDoublesEveryX)
 {
-    const Bytes source =
-        ElementRecord({StrokeFormBytes(10, 10).Stroke(1, 2).Line(3, 4).Move(5, 6).Bezier(1, 2, 3, 4, 5, 6).Build()});
+    const Bytes source
+        = ElementRecord({StrokeFormBytes(10, 10).Stroke(1, 2).Line(3, 4).Move(5, 6).Bezier(1, 2, 3, 4, 5, 6).Build()});
     auto e = Load({Placeholder(), source, ElementRecord({ComposedFormBytes(20, 10, {{1, 1, 0, 0, 20, 10}})})}, 2);
     const Stroke& s = e->GetForm(0).GetStroke(0);
     EXPECT_EQ(s.Start(), (Point{2, 2}));

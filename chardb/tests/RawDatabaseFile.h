@@ -4,8 +4,8 @@
 // builder never would: holes, short records, odd dictionaries, truncated files.
 
 #include <bit>
-#include <cstdlib>
 #include <cstdint>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -25,7 +25,10 @@ inline void Put32(Bytes& b, std::uint32_t v)
     for (int s = 0; s < 32; s += 8)
         b.push_back(static_cast<std::uint8_t>(v >> s));
 }
-inline void PutF(Bytes& b, float v) { Put32(b, std::bit_cast<std::uint32_t>(v)); }
+inline void PutF(Bytes& b, float v)
+{
+    Put32(b, std::bit_cast<std::uint32_t>(v));
+}
 inline void PutString(Bytes& b, const std::string& s)
 {
     b.push_back(static_cast<std::uint8_t>(s.size()));
@@ -33,8 +36,8 @@ inline void PutString(Bytes& b, const std::string& s)
 }
 
 /// A character record.
-inline Bytes CharacterRecord(std::uint16_t element, const std::string& on, const std::string& kun,
-                             const std::string& meaning)
+inline Bytes CharacterRecord(
+    std::uint16_t element, const std::string& on, const std::string& kun, const std::string& meaning)
 {
     Bytes b;
     Put16(b, element);
@@ -58,7 +61,7 @@ inline Bytes CategoryRecord(const std::string& name, const std::vector<std::uint
 /// Builder of a kind-1 form record (strokes).
 class StrokeFormBytes {
 public:
-    StrokeFormBytes(std::uint16_t width, std::uint16_t height) : m_width(width), m_height(height) {}
+    StrokeFormBytes(std::uint16_t width, std::uint16_t height) : m_width(width), m_height(height) { }
     StrokeFormBytes& Stroke(float x, float y)
     {
         ++m_strokes;

@@ -127,7 +127,8 @@ TEST(GlyphRendering, MarkerIsAnEightPixelDiscAtTheStrokeStart)
     EXPECT_EQ(image.pixel(45, 60), qRgb(255, 255, 255));
     EXPECT_EQ(image.pixel(40, 65), qRgb(255, 255, 255));
     const QPalette palette = QGuiApplication::palette();
-    EXPECT_EQ(StrokeMarkerColour().red(), (palette.color(QPalette::Window).red() + palette.color(QPalette::WindowText).red()) / 2);
+    EXPECT_EQ(StrokeMarkerColour().red(),
+        (palette.color(QPalette::Window).red() + palette.color(QPalette::WindowText).red()) / 2);
 }
 
 TEST(GlyphRendering, DrawStrokeSnapsToTheGrid)

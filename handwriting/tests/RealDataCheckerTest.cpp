@@ -89,7 +89,8 @@ TEST(RealDataChecker, EveryStrokeOfEveryCharacter)
     }
     std::cout << "characters " << characters << ", strokes " << strokes << ", accepted at their index " << accepted
               << ", refused in some direction when moved " << refusedWhenMoved << " (moves refused " << movedRefused
-              << ", moves within tolerance " << movedAccepted << ")" << ", accepted backwards " << passBackwards
+              << ", moves within tolerance " << movedAccepted << ")"
+              << ", accepted backwards " << passBackwards
               << (backwardsList.empty() ? "" : " (character/stroke:" + backwardsList + ")") << '\n';
     RecordProperty("strokes", static_cast<int>(strokes));
     RecordProperty("accepted_backwards", static_cast<int>(passBackwards));

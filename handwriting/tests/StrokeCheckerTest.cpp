@@ -56,7 +56,7 @@ TEST(StrokeChecker, TemplatesAreCentredWhereverTheStrokeLies)
 {
     const StrokeChecker checker(
         MakeForm({LineStroke({5, 5}, {95, 5}), CurveStroke({10, 80}, {30, 20}, {70, 20}, {90, 80}),
-                  LineStroke({80, 10}, {80, 90})}),
+            LineStroke({80, 10}, {80, 90})}),
         CanvasRect{17, 23, 300, 300});
     for (std::uint16_t i = 0; i < checker.StrokeCount(); ++i) {
         const StrokePath& t = checker.Template(i);
@@ -106,7 +106,7 @@ TEST(StrokeChecker, SizeTest)
     const StrokeChecker checker(MakeForm({LineStroke({10, 50}, {90, 50})}), Canvas);
     EXPECT_EQ(checker.Score(Ink({90, 150}, {210, 150}), 0), -1.0f); // ratio 0.5
     EXPECT_EQ(checker.Score(Ink({77.9f, 150}, {222.1f, 150}), 0), 1.0f); // ratio 0.6 and a hair
-    EXPECT_EQ(checker.Score(Ink({79, 150}, {221, 150}), 0), -1.0f);       // ratio 0.59
+    EXPECT_EQ(checker.Score(Ink({79, 150}, {221, 150}), 0), -1.0f); // ratio 0.59
     EXPECT_EQ(checker.Score(Ink({-50, 150}, {350, 150}), 0), -1.0f);
 }
 

@@ -35,7 +35,7 @@ TEST(StrokePath, BoundsRoundToNearest)
     const CanvasRect b = path.Bounds();
     EXPECT_EQ(b.x, 10);
     EXPECT_EQ(b.y, 5);
-    EXPECT_EQ(b.width, 20);  // 20.1
+    EXPECT_EQ(b.width, 20); // 20.1
     EXPECT_EQ(b.height, 15); // 15.4
     EXPECT_EQ(StrokePath({{7, 9}}).Bounds(), (CanvasRect{7, 9, 0, 0}));
     EXPECT_EQ(StrokePath().Bounds(), CanvasRect{});

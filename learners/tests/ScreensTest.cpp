@@ -81,7 +81,8 @@ private slots:
 
     void listShowsLearnersInFileOrderWithTheCurrentSelected()
     {
-        WriteConfig(R"(<Z><Users currentUser="ben"><User name="Chiyo"/><User name="Ben"/><User name="Anna"/></Users></Z>)");
+        WriteConfig(
+            R"(<Z><Users currentUser="ben"><User name="Chiyo"/><User name="Ben"/><User name="Anna"/></Users></Z>)");
         UserManagerDialog manager;
         manager.show();
         QCOMPARE(Items(manager.UserList()), (QStringList{"Chiyo", "Ben", "Anna"}));
@@ -208,8 +209,7 @@ private slots:
         home.SetUser(&user);
         QCOMPARE(home.UserNameLabel()->text(), QStringLiteral("Anna"));
         QCOMPARE(home.CategoryList()->topLevelItemCount(), int(db.CategoryCount()));
-        QCOMPARE(home.CategoryList()->topLevelItem(0)->text(0),
-                 QStringLiteral("Grade 1 (3 of %1)").arg(grade1.size()));
+        QCOMPARE(home.CategoryList()->topLevelItem(0)->text(0), QStringLiteral("Grade 1 (3 of %1)").arg(grade1.size()));
         QCOMPARE(home.CategoryList()->topLevelItem(0)->data(0, Qt::UserRole + 1).toInt(), 1);
         QCOMPARE(home.CategoryList()->topLevelItem(1)->text(0), QStringLiteral("Grade 2"));
         QCOMPARE(home.CategoryList()->topLevelItem(1)->data(0, Qt::UserRole + 1).toInt(), 0);
@@ -228,7 +228,7 @@ private slots:
         user.GetProgress(1).AddLearned(db.LoadCategory(1)->CharacterAt(0));
         home.RefreshSelectedCategory();
         QCOMPARE(home.CategoryList()->topLevelItem(1)->text(0),
-                 QStringLiteral("Grade 2 (1 of %1)").arg(db.LoadCategory(1)->CharacterCount()));
+            QStringLiteral("Grade 2 (1 of %1)").arg(db.LoadCategory(1)->CharacterCount()));
         // The learner closed: N/A, page disabled, items left as they were.
         home.SetUser(nullptr);
         QCOMPARE(home.UserNameLabel()->text(), QStringLiteral("N/A"));

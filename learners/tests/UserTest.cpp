@@ -1,5 +1,5 @@
-#include "TextRules.h"
 #include "User.h"
+#include "TextRules.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
+#include "XmlConfigStore.h"
 #include "ConfigException.h"
 #include "DatabaseWriter.h"
 #include "FileCharacterDatabase.h"
-#include "XmlConfigStore.h"
 
 #include <gtest/gtest.h>
 
@@ -67,7 +67,10 @@ protected:
         fs::remove_all(m_dir, ec);
     }
     fs::path Config() const { return m_dir / "config.xml"; }
-    std::unique_ptr<XmlConfigStore> Open() { return std::make_unique<XmlConfigStore>(Config().string(), m_database.get()); }
+    std::unique_ptr<XmlConfigStore> Open()
+    {
+        return std::make_unique<XmlConfigStore>(Config().string(), m_database.get());
+    }
 
     fs::path m_dir;
     std::unique_ptr<FileCharacterDatabase> m_database;
@@ -259,10 +262,11 @@ TEST_F(StoreTest, SavingAnUnknownLearnerAddsAnElementButNotAName)
 
 TEST_F(StoreTest, IdsAreReadByTheRuntimeRules)
 {
-    WriteText(Config(), R"(<Z><Users currentUser="Anna"><User name="Anna"><Progress categoryId=" 2x">)"
-                        R"(<Learned><Character id="70000"/><Character id="-1"/><Character id="abc"/></Learned>)"
-                        R"(<Untested><Character id="7"/><Character id="7"/></Untested></Progress>)"
-                        R"(<Progress categoryId="3"/></User></Users></Z>)");
+    WriteText(Config(),
+        R"(<Z><Users currentUser="Anna"><User name="Anna"><Progress categoryId=" 2x">)"
+        R"(<Learned><Character id="70000"/><Character id="-1"/><Character id="abc"/></Learned>)"
+        R"(<Untested><Character id="7"/><Character id="7"/></Untested></Progress>)"
+        R"(<Progress categoryId="3"/></User></Users></Z>)");
     auto store = Open();
     EXPECT_EQ(store->CurrentUserName(), "Anna");
     auto anna = store->LoadUser("Anna");
@@ -277,9 +281,10 @@ TEST_F(StoreTest, IdsAreReadByTheRuntimeRules)
 
 TEST_F(StoreTest, FilesFromOtherToolsLoadTheSame)
 {
-    const std::string body = "<Zavoren>\n  <!-- learners -->\n  <Users currentUser=\"Ben\">\n    <User name=\"Anna\">\n"
-                             "      <Progress categoryId=\"0\"><Learned><Character id=\"3\"/></Learned><Untested/></Progress>\n"
-                             "    </User>\n    <!-- a comment between learners -->\n    <User name=\"Ben\"/>\n  </Users>\n</Zavoren>\n";
+    const std::string body
+        = "<Zavoren>\n  <!-- learners -->\n  <Users currentUser=\"Ben\">\n    <User name=\"Anna\">\n"
+          "      <Progress categoryId=\"0\"><Learned><Character id=\"3\"/></Learned><Untested/></Progress>\n"
+          "    </User>\n    <!-- a comment between learners -->\n    <User name=\"Ben\"/>\n  </Users>\n</Zavoren>\n";
     auto crlf = [](std::string text) {
         std::string out;
         for (char c : text) {
@@ -349,7 +354,7 @@ TEST_F(StoreTest, SaveKeepsTheFilePermissions)
     auto store = Open();
     store->AddUser("Anna");
     EXPECT_EQ(fs::status(Config()).permissions() & fs::perms::all,
-              fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+        fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
 }
 
 TEST_F(StoreTest, SingletonOpensConfigXmlInTheCurrentFolder)

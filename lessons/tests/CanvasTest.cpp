@@ -77,14 +77,14 @@ private slots:
         // The second press of a double click arrives as a double-click event.
         const QPoint second = at + QPoint(10, 10);
         QMouseEvent doubleClick(QEvent::MouseButtonDblClick, second, m_input->mapToGlobal(second), Qt::LeftButton,
-                                Qt::LeftButton, Qt::NoModifier);
+            Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(m_input.get(), &doubleClick);
         const QPoint moved = second + QPoint(5, 0);
-        QMouseEvent move(QEvent::MouseMove, moved, m_input->mapToGlobal(moved), Qt::NoButton, Qt::LeftButton,
-                         Qt::NoModifier);
+        QMouseEvent move(
+            QEvent::MouseMove, moved, m_input->mapToGlobal(moved), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(m_input.get(), &move);
         QMouseEvent release(QEvent::MouseButtonRelease, moved, m_input->mapToGlobal(moved), Qt::LeftButton,
-                            Qt::NoButton, Qt::NoModifier);
+            Qt::NoButton, Qt::NoModifier);
         QApplication::sendEvent(m_input.get(), &release);
         QCOMPARE(ended.count(), 1);
         QCOMPARE(m_input->StrokeCount(), 2);
@@ -98,8 +98,8 @@ private slots:
         const QImage before = m_input->BackBuffer();
         QSignalSpy kept(m_input.get(), &InputCanvas::strokeKept);
         // The page rejects the next stroke from inside the notification.
-        const auto connection =
-            connect(m_input.get(), &InputCanvas::strokeEnded, m_input.get(), [this] { m_input->Undo(); });
+        const auto connection
+            = connect(m_input.get(), &InputCanvas::strokeEnded, m_input.get(), [this] { m_input->Undo(); });
         DrawInk(m_input.get(), {{20, 150}, {150, 150}});
         disconnect(connection);
         QCOMPARE(kept.count(), 0);
@@ -145,7 +145,7 @@ private slots:
         const Form glyph = SmallDatabase::Lines({{10, 10, 90, 10}, {50, 60, 50, 100}});
         m_input->ShowHint(glyph, 1);
         const QPoint marker(static_cast<int>(50 * m_input->ClientRect().width() / 109.0f),
-                            static_cast<int>(60 * m_input->ClientRect().height() / 109.0f));
+            static_cast<int>(60 * m_input->ClientRect().height() / 109.0f));
         QCOMPARE(m_input->BackBuffer().pixel(marker), StrokeMarkerColour().rgb());
         DrawInk(m_input.get(), {{20, 180}, {150, 180}});
         QCOMPARE(m_input->BackBuffer().pixel(marker), White);

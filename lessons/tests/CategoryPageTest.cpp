@@ -88,7 +88,8 @@ private slots:
         m_progress = CategoryProgress();
         m_page->Refresh();
         QCOMPARE(m_page->Strip()->EmptyMessage(),
-                 QStringLiteral("To learn characters press 'Lesson' button and then test learned characters by pressing 'Test' button."));
+            QStringLiteral("To learn characters press 'Lesson' button and then test learned characters by pressing "
+                           "'Test' button."));
     }
 
     void retestWithFiveLearnedAndFourUntested()

@@ -1,5 +1,5 @@
-#include "DisplayCanvas.h"
 #include "KanjiInfoDialog.h"
+#include "DisplayCanvas.h"
 #include "TestSupport.h"
 
 #include <QLabel>
@@ -15,8 +15,9 @@ class KanjiInfoDialogTest : public QObject {
 private slots:
     void initTestCase()
     {
-        m_small.writer.AddCharacter(m_small.writer.AddStrokeElement(SmallDatabase::Lines({{10, 30, 99, 30}, {54, 10, 54, 99}})),
-                                    "ジュウ", "", "ten");
+        m_small.writer.AddCharacter(
+            m_small.writer.AddStrokeElement(SmallDatabase::Lines({{10, 30, 99, 30}, {54, 10, 54, 99}})), "ジュウ", "",
+            "ten");
         m_small.writer.AddCategory("Test", {0});
         m_db = m_small.Open();
     }

@@ -73,8 +73,8 @@ TEST(StrokeAnimation, OnePointPerPixelAndAPauseAfterEachStroke)
     StrokeAnimation anim(form, 200, 200);
     ASSERT_EQ(anim.Strokes().size(), 3u);
     EXPECT_EQ(anim.Strokes()[0].size(), 200u); // 200 px long
-    EXPECT_EQ(anim.Strokes()[1].size(), 2u);   // exactly 2 px: resampled to 2 points
-    EXPECT_EQ(anim.Strokes()[2].size(), 1u);   // shorter than 2 px keeps its points
+    EXPECT_EQ(anim.Strokes()[1].size(), 2u); // exactly 2 px: resampled to 2 points
+    EXPECT_EQ(anim.Strokes()[2].size(), 1u); // shorter than 2 px keeps its points
     int ticks = 0;
     while (anim.CurrentStroke() == 0) {
         EXPECT_TRUE(anim.Step());

@@ -1,6 +1,6 @@
+#include "LessonPage.h"
 #include "DisplayCanvas.h"
 #include "InputCanvas.h"
-#include "LessonPage.h"
 #include "TestSupport.h"
 
 #include <QCheckBox>
@@ -17,10 +17,11 @@ private slots:
     void initTestCase()
     {
         // Character 0: two strokes, no ON reading. Character 1: one stroke, all texts.
-        m_small.writer.AddCharacter(m_small.writer.AddStrokeElement(SmallDatabase::Lines({{10, 30, 99, 30}, {54, 10, 54, 99}})),
-                                    "", "kun", "ten");
-        m_small.writer.AddCharacter(m_small.writer.AddStrokeElement(SmallDatabase::Lines({{10, 54, 99, 54}})), "イチ",
-                                    "ひと", "one");
+        m_small.writer.AddCharacter(
+            m_small.writer.AddStrokeElement(SmallDatabase::Lines({{10, 30, 99, 30}, {54, 10, 54, 99}})), "", "kun",
+            "ten");
+        m_small.writer.AddCharacter(
+            m_small.writer.AddStrokeElement(SmallDatabase::Lines({{10, 54, 99, 54}})), "イチ", "ひと", "one");
         m_small.writer.AddCategory("Test", {0, 1});
         m_db = m_small.Open();
         m_standard = std::make_unique<FileCharacterDatabase>(ZAVOREN_STANDARD_DATABASE);
@@ -127,7 +128,7 @@ private slots:
         // The marker sat at the first stroke's start, which the stroke now covers in black;
         // no marker-coloured pixel is left anywhere.
         const QRgb marker = withHint.pixel(static_cast<int>(10 * m_page->Input()->ClientRect().width() / 109.0f),
-                                           static_cast<int>(30 * m_page->Input()->ClientRect().width() / 109.0f));
+            static_cast<int>(30 * m_page->Input()->ClientRect().width() / 109.0f));
         const QImage after = m_page->Input()->BackBuffer();
         int markerPixels = 0;
         for (int y = 0; y < after.height(); ++y)
@@ -193,7 +194,8 @@ private slots:
         std::vector<std::uint16_t> codes;
         for (int wanted : {1, 4, 10}) {
             for (std::uint16_t id = 0; id < m_standard->CharacterCount(); ++id) {
-                const int strokes = m_standard->LoadElement(m_standard->LoadCharacter(id)->ElementId())->GetForm(0).StrokeCount();
+                const int strokes
+                    = m_standard->LoadElement(m_standard->LoadCharacter(id)->ElementId())->GetForm(0).StrokeCount();
                 if (wanted == 10 ? strokes >= 10 : strokes == wanted) {
                     codes.push_back(id);
                     break;

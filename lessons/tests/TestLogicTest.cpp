@@ -146,7 +146,8 @@ std::unique_ptr<FileCharacterDatabase> Readings(const std::vector<std::pair<std:
     writer.AddCategory("All", {});
     const auto path = std::filesystem::temp_directory_path() / ("zavoren-readings-" + std::to_string(getpid()));
     const auto bytes = writer.Serialize();
-    std::ofstream(path, std::ios::binary).write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    std::ofstream(path, std::ios::binary)
+        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
     auto db = std::make_unique<FileCharacterDatabase>(path.string());
     std::filesystem::remove(path);
     return db;
@@ -183,8 +184,8 @@ TEST(ReadingChoices, FiveDifferentTextsWithTheRightOneAtARandomPlace)
 
 TEST(ReadingChoices, MissingReadingIsTheEmptyTextAndNeverRepeated)
 {
-    std::vector<std::pair<std::string, std::string>> texts{{"", "a"}, {"", "b"}, {"X", "c"}, {"Y", "d"},
-                                                          {"Z", "e"}, {"W", "f"}, {"", "g"}};
+    std::vector<std::pair<std::string, std::string>> texts{
+        {"", "a"}, {"", "b"}, {"X", "c"}, {"Y", "d"}, {"Z", "e"}, {"W", "f"}, {"", "g"}};
     auto db = Readings(texts);
     Random15 random(7);
     const ReadingChoices c = ReadingChoices::Build(*db, *db->LoadCharacter(0), random);
@@ -261,7 +262,7 @@ TEST(CategoryRules, RetestMovesFiveDifferentLearnedCharactersToTheFront)
         EXPECT_EQ(p.LearnedCount(), 0u);
         EXPECT_EQ(p.UntestedCount(), 9u);
         EXPECT_EQ(std::set<std::uint16_t>(p.Untested().begin(), p.Untested().begin() + 5),
-                  (std::set<std::uint16_t>{10, 11, 12, 13, 14}));
+            (std::set<std::uint16_t>{10, 11, 12, 13, 14}));
         EXPECT_EQ(p.UntestedAt(5), 0);
     }
 }
@@ -276,16 +277,16 @@ TEST(GridLayout, PositionsAndKeys)
     EXPECT_EQ(g.PositionOf(8).column, 1u);
     EXPECT_EQ(g.Move(5, K::Home), 0u);
     EXPECT_EQ(g.Move(0, K::End), 11u);
-    EXPECT_EQ(g.Move(3, K::Left), 3u);   // first column stays
+    EXPECT_EQ(g.Move(3, K::Left), 3u); // first column stays
     EXPECT_EQ(g.Move(4, K::Left), 3u);
-    EXPECT_EQ(g.Move(2, K::Right), 2u);  // last column stays
-    EXPECT_EQ(g.Move(6, K::Right), 6u);  // last cell of its group stays
+    EXPECT_EQ(g.Move(2, K::Right), 2u); // last column stays
+    EXPECT_EQ(g.Move(6, K::Right), 6u); // last cell of its group stays
     EXPECT_EQ(g.Move(0, K::Right), 1u);
-    EXPECT_EQ(g.Move(4, K::Down), 6u);   // into the short last row: its last cell
+    EXPECT_EQ(g.Move(4, K::Down), 6u); // into the short last row: its last cell
     EXPECT_EQ(g.Move(1, K::Down), 4u);
-    EXPECT_EQ(g.Move(6, K::Down), 7u);   // across into group 1, same column
-    EXPECT_EQ(g.Move(5, K::Down), 6u);   // column 2 of the short row: its last cell
-    EXPECT_EQ(g.Move(9, K::Up), 6u);     // up from group 1 column 2: group 0's last row, last cell
+    EXPECT_EQ(g.Move(6, K::Down), 7u); // across into group 1, same column
+    EXPECT_EQ(g.Move(5, K::Down), 6u); // column 2 of the short row: its last cell
+    EXPECT_EQ(g.Move(9, K::Up), 6u); // up from group 1 column 2: group 0's last row, last cell
     EXPECT_EQ(g.Move(8, K::Up), 6u);
     EXPECT_EQ(g.Move(7, K::Up), 6u);
     EXPECT_EQ(g.Move(11, K::Up), 8u);

@@ -201,7 +201,7 @@ private slots:
         const std::uint16_t passer = 0, failer = 1;
         test.StartTest({passer, failer});
         std::map<std::uint16_t, std::vector<int>> pages; // per character, 0 reading and 1 drawing
-        std::vector<std::pair<int, int>> asked;          // (character, page) in order
+        std::vector<std::pair<int, int>> asked; // (character, page) in order
         std::map<std::uint16_t, int> readingsAsked;
         for (int question = 0; question < 20 && events.isEmpty(); ++question) {
             const std::uint16_t code = *test.Schedule().CurrentCode();

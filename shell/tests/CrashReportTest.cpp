@@ -18,9 +18,11 @@ private slots:
     {
         QTemporaryDir folder;
         const QString errors = Crash(folder.path(), "yes", {"--crash-test", "segv"});
-        QVERIFY2(errors.contains(QStringLiteral("MESSAGE Unhandled Exception: Oops...\nFatal error in Zavoren.\n\nDo you want to get minidump for it?")),
-                 qPrintable(errors));
-        QVERIFY(errors.contains(QStringLiteral("MESSAGE MiniDump: Minidump successfuly created in application folder.")));
+        QVERIFY2(errors.contains(QStringLiteral("MESSAGE Unhandled Exception: Oops...\nFatal error in Zavoren.\n\nDo "
+                                                "you want to get minidump for it?")),
+            qPrintable(errors));
+        QVERIFY(
+            errors.contains(QStringLiteral("MESSAGE MiniDump: Minidump successfuly created in application folder.")));
         const QStringList reports = QDir(folder.path()).entryList({QStringLiteral("*.dmp")});
         QCOMPARE(reports.size(), 1);
         QVERIFY(QRegularExpression(QStringLiteral("^Zavoren-\\d{8}-\\d{6}\\.dmp$")).match(reports.front()).hasMatch());
@@ -89,7 +91,8 @@ private slots:
     void demanglesFunctionNames()
     {
         const QByteArray line = "/bin/zavoren(_ZN12_GLOBAL__N_114CrashOnPurposeEPKc+0x1a)[0x55]";
-        QCOMPARE(DemangleStackTrace(line), QByteArray("/bin/zavoren((anonymous namespace)::CrashOnPurpose(char const*)+0x1a)[0x55]"));
+        QCOMPARE(DemangleStackTrace(line),
+            QByteArray("/bin/zavoren((anonymous namespace)::CrashOnPurpose(char const*)+0x1a)[0x55]"));
         QCOMPARE(DemangleStackTrace("plain line"), QByteArray("plain line"));
     }
 

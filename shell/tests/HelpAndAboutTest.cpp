@@ -54,7 +54,8 @@ private slots:
         QFile file(QStringLiteral(ZAVOREN_HELP_DOCUMENT));
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QString text = QString::fromUtf8(file.readAll());
-        for (const char* topic : {"Learners", "Categories", "Lessons", "Tests", "Retest", "Forget", "KanjiVG", "KANJIDIC2"})
+        for (const char* topic :
+            {"Learners", "Categories", "Lessons", "Tests", "Retest", "Forget", "KanjiVG", "KANJIDIC2"})
             QVERIFY2(text.contains(QString::fromLatin1(topic)), topic);
     }
 
@@ -79,7 +80,8 @@ private slots:
         bool product = false, credits = false;
         for (QLabel* label : about.findChildren<QLabel*>()) {
             product |= label->text() == QStringLiteral("Zavoren! Kanji Learning Program");
-            credits |= label->text().contains(QStringLiteral("KanjiVG")) && label->text().contains(QStringLiteral("KANJIDIC2"));
+            credits |= label->text().contains(QStringLiteral("KanjiVG"))
+                && label->text().contains(QStringLiteral("KANJIDIC2"));
         }
         QVERIFY(product);
         QVERIFY(credits);

@@ -1,3 +1,4 @@
+#include "MainWindow.h"
 #include "AddUserDialog.h"
 #include "CategoryPage.h"
 #include "CharacterDatabase.h"
@@ -7,7 +8,6 @@
 #include "HomePage.h"
 #include "InputCanvas.h"
 #include "LessonPage.h"
-#include "MainWindow.h"
 #include "ReadingTestPage.h"
 #include "ShellTestSupport.h"
 #include "SplashWindow.h"
@@ -18,13 +18,13 @@
 
 #include <QCheckBox>
 #include <QLabel>
-#include <QScreen>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
@@ -63,9 +63,11 @@ void AnswerTestRight(MainWindow& window)
         if (test->ShownPage() == test->ReadingPage()) {
             ReadingTestPage* page = test->ReadingPage();
             for (int i = 0; i < 5; ++i) {
-                if (page->Choices().on[static_cast<std::size_t>(i)] == (character->OnReading() ? character->OnReading() : ""))
+                if (page->Choices().on[static_cast<std::size_t>(i)]
+                    == (character->OnReading() ? character->OnReading() : ""))
                     ClickRadio(page->OnButton(i));
-                if (page->Choices().kun[static_cast<std::size_t>(i)] == (character->KunReading() ? character->KunReading() : ""))
+                if (page->Choices().kun[static_cast<std::size_t>(i)]
+                    == (character->KunReading() ? character->KunReading() : ""))
                     ClickRadio(page->KunButton(i));
             }
         } else {
@@ -182,7 +184,7 @@ private slots:
         QVERIFY(!managerShown);
         again.ShowChosenLearner();
         QCOMPARE(again.Home()->CategoryList()->topLevelItem(0)->text(0),
-                 QStringLiteral("Grade 1 (5 of %1)").arg(grade1Size));
+            QStringLiteral("Grade 1 (5 of %1)").arg(grade1Size));
         again.close();
     }
 
@@ -267,7 +269,8 @@ private slots:
                 for (int i = 0; i < 5; ++i) {
                     if (page->Choices().on[static_cast<std::size_t>(i)] == right)
                         ClickRadio(page->OnButton(i));
-                    if (page->Choices().kun[static_cast<std::size_t>(i)] == (character->KunReading() ? character->KunReading() : ""))
+                    if (page->Choices().kun[static_cast<std::size_t>(i)]
+                        == (character->KunReading() ? character->KunReading() : ""))
                         ClickRadio(page->KunButton(i));
                 }
                 QTest::mouseClick(test->NextButton(), Qt::LeftButton);

@@ -29,7 +29,8 @@ private slots:
         QFile::copy(QStringLiteral(ZAVOREN_STANDARD_DATABASE), m_dir->filePath(QStringLiteral("database")));
         WriteConfig("<Zavoren><Users currentUser=\"Anna\"><User name=\"Anna\"/></Users></Zavoren>");
         QDir(m_dir->path()).mkdir(QStringLiteral("runtime"));
-        QFile::setPermissions(m_dir->filePath(QStringLiteral("runtime")), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+        QFile::setPermissions(m_dir->filePath(QStringLiteral("runtime")),
+            QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     }
 
     void normalStartAndCloseEndsWithOne()
@@ -46,7 +47,8 @@ private slots:
     void filesAreLookedUpInTheCurrentFolderNotBesideTheProgram()
     {
         // The program lives in the build tree; the data folder is elsewhere and is the current folder.
-        QVERIFY(!QFile::exists(QFileInfo(QStringLiteral(ZAVOREN_PROGRAM)).dir().filePath(QStringLiteral("config.xml"))));
+        QVERIFY(
+            !QFile::exists(QFileInfo(QStringLiteral(ZAVOREN_PROGRAM)).dir().filePath(QStringLiteral("config.xml"))));
         QCOMPARE(Run({{"ZAVOREN_QUIT_AFTER_FIRST_PAINT", "1"}}).exitCode, 1);
     }
 
@@ -58,18 +60,20 @@ private slots:
         QCOMPARE(o.errors.count(QStringLiteral("MESSAGE")), 1);
         QVERIFY2(o.errors.contains(QStringLiteral(
                      "MESSAGE Zavoren Configuration Error: Config file does not exist. Try to reinstall Zavoren.")),
-                 qPrintable(o.errors));
+            qPrintable(o.errors));
         QVERIFY(!o.errors.contains(QStringLiteral("window shown")));
     }
 
     void readOnlyConfig()
     {
-        QFile::setPermissions(m_dir->filePath(QStringLiteral("config.xml")), QFileDevice::ReadOwner | QFileDevice::ReadGroup);
+        QFile::setPermissions(
+            m_dir->filePath(QStringLiteral("config.xml")), QFileDevice::ReadOwner | QFileDevice::ReadGroup);
         const Outcome o = Run({});
         QCOMPARE(o.exitCode, 0);
-        QVERIFY2(o.errors.contains(QStringLiteral(
-                     "Zavoren Configuration Error: Config file is ReadOnly. Check file attirbutes or reinstall Zavoren.")),
-                 qPrintable(o.errors));
+        QVERIFY2(
+            o.errors.contains(QStringLiteral(
+                "Zavoren Configuration Error: Config file is ReadOnly. Check file attirbutes or reinstall Zavoren.")),
+            qPrintable(o.errors));
     }
 
     void malformedConfigGivesOneBoxAndNoWindow()
@@ -99,13 +103,15 @@ private slots:
         first.start(QStringLiteral(ZAVOREN_PROGRAM), {});
         QVERIFY(first.waitForStarted());
         QString firstErrors;
-        QTRY_VERIFY_WITH_TIMEOUT((firstErrors += first.readAllStandardError()).contains(QStringLiteral("window shown")), 20000);
+        QTRY_VERIFY_WITH_TIMEOUT(
+            (firstErrors += first.readAllStandardError()).contains(QStringLiteral("window shown")), 20000);
         const Outcome second = Run({});
         QCOMPARE(second.exitCode, 0);
         QVERIFY(!second.errors.contains(QStringLiteral("window shown")));
         QVERIFY(!second.errors.contains(QStringLiteral("MESSAGE")));
-        QTRY_VERIFY_WITH_TIMEOUT((firstErrors += first.readAllStandardError()).contains(QStringLiteral("asked this one to come forward")),
-                                 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(
+            (firstErrors += first.readAllStandardError()).contains(QStringLiteral("asked this one to come forward")),
+            10000);
         first.terminate();
         first.waitForFinished(5000);
         if (first.state() != QProcess::NotRunning)

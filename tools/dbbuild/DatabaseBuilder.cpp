@@ -22,8 +22,14 @@ struct CategoryDefinition {
 };
 
 const CategoryDefinition StandardCategories[] = {
-    {"Grade 1", {1}}, {"Grade 2", {2}}, {"Grade 3", {3}}, {"Grade 4", {4}},
-    {"Grade 5", {5}}, {"Grade 6", {6}}, {"Secondary school", {8}}, {"Jinmeiy\xC5\x8D", {9, 10}},
+    {"Grade 1", {1}},
+    {"Grade 2", {2}},
+    {"Grade 3", {3}},
+    {"Grade 4", {4}},
+    {"Grade 5", {5}},
+    {"Grade 6", {6}},
+    {"Secondary school", {8}},
+    {"Jinmeiy\xC5\x8D", {9, 10}},
 };
 
 std::string HexName(char32_t codePoint)
@@ -119,8 +125,8 @@ std::optional<Form> LoadKanjiVgGlyph(const std::string& directory, char32_t code
         try {
             form.AppendStroke(ParseSvgPath(data));
         } catch (const SvgPathError& error) {
-            throw BuildError(file.string() + ": character " + Utf8(codePoint) + ": bad path data \"" + data
-                             + "\": " + error.what());
+            throw BuildError(
+                file.string() + ": character " + Utf8(codePoint) + ": bad path data \"" + data + "\": " + error.what());
         }
     }
     if (form.Strokes().size() > 255)
@@ -183,7 +189,7 @@ std::vector<std::uint8_t> BuildDatabase(const BuildOptions& options, BuildReport
     DatabaseWriter writer;
     for (PlannedCategory& category : plan) {
         std::sort(category.members.begin(), category.members.end(),
-                  [](const KanjiDicEntry* a, const KanjiDicEntry* b) { return TeachesBefore(*a, *b); });
+            [](const KanjiDicEntry* a, const KanjiDicEntry* b) { return TeachesBefore(*a, *b); });
         BuildReport::CategoryCount count{category.name, 0, 0};
         std::vector<std::uint16_t> ids;
         for (const KanjiDicEntry* entry : category.members) {
@@ -195,8 +201,7 @@ std::vector<std::uint8_t> BuildDatabase(const BuildOptions& options, BuildReport
             }
             const std::uint16_t element = writer.AddStrokeElement(*glyph);
             ids.push_back(writer.AddCharacter(element, JoinLimited(entry->onReadings, "\xE3\x80\x81"),
-                                              JoinLimited(entry->kunReadings, "\xE3\x80\x81"),
-                                              JoinLimited(entry->meanings, ", ")));
+                JoinLimited(entry->kunReadings, "\xE3\x80\x81"), JoinLimited(entry->meanings, ", ")));
         }
         count.characters = ids.size();
         report.characters += ids.size();

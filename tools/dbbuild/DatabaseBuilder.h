@@ -17,7 +17,7 @@ public:
 
 /// What `zavoren-db build` is asked to do.
 struct BuildOptions {
-    std::string kanjivgDir;   ///< folder of KanjiVG SVGs named like 06c34.svg
+    std::string kanjivgDir; ///< folder of KanjiVG SVGs named like 06c34.svg
     std::string kanjidicPath; ///< KANJIDIC2 XML, gzipped or plain
     std::string language = "en";
     bool allKanji = false; ///< add the category "Other" with every remaining KanjiVG kanji

@@ -107,7 +107,8 @@ void TextElement(std::ostream& out, const Element& element)
             out << "    stroke " << s << " start (" << Number(stroke.Start().x) << ", " << Number(stroke.Start().y)
                 << ")";
             for (const Segment& seg : stroke.Segments()) {
-                out << ' ' << SegmentName(seg.Type()) << " (" << Number(seg.P1().x) << ", " << Number(seg.P1().y) << ")";
+                out << ' ' << SegmentName(seg.Type()) << " (" << Number(seg.P1().x) << ", " << Number(seg.P1().y)
+                    << ")";
                 if (seg.Type() == SegmentType::Bezier)
                     out << " (" << Number(seg.P2().x) << ", " << Number(seg.P2().y) << ") (" << Number(seg.P3().x)
                         << ", " << Number(seg.P3().y) << ")";
@@ -208,8 +209,8 @@ void DumpDatabase(CharacterDatabase& database, std::ostream& out, bool json)
             out << '}';
         } else {
             out << "character " << id << ": element " << character->ElementId() << " | ON "
-                << Or(character->OnReading(), "(none)") << " | KUN " << Or(character->KunReading(), "(none)")
-                << " | " << Or(character->Meaning(), "(none)") << '\n';
+                << Or(character->OnReading(), "(none)") << " | KUN " << Or(character->KunReading(), "(none)") << " | "
+                << Or(character->Meaning(), "(none)") << '\n';
         }
     }
     if (json)

@@ -9,7 +9,7 @@ namespace {
 
 class JsonCursor {
 public:
-    explicit JsonCursor(const std::string& text) : m_text(text) {}
+    explicit JsonCursor(const std::string& text) : m_text(text) { }
     void Expect(char c)
     {
         Skip();

@@ -74,7 +74,7 @@ std::map<char32_t, KanjiDicEntry> ReadKanjiDic(const std::string& path, const st
     const pugi::xml_parse_result parsed = document.load_buffer(data.data(), data.size());
     if (!parsed)
         throw KanjiDicError(path + ": not a readable KANJIDIC2 file (" + parsed.description() + " at offset "
-                            + std::to_string(parsed.offset) + ")");
+            + std::to_string(parsed.offset) + ")");
     const pugi::xml_node root = document.child("kanjidic2");
     if (!root)
         throw KanjiDicError(path + ": no kanjidic2 element");
@@ -99,8 +99,8 @@ std::map<char32_t, KanjiDicEntry> ReadKanjiDic(const std::string& path, const st
             }
             for (pugi::xml_node meaning : group.children("meaning")) {
                 const pugi::xml_attribute lang = meaning.attribute("m_lang");
-                const bool wanted = language == "en" ? !lang || std::string(lang.value()) == "en"
-                                                     : lang && language == lang.value();
+                const bool wanted
+                    = language == "en" ? !lang || std::string(lang.value()) == "en" : lang && language == lang.value();
                 if (wanted)
                     entry.meanings.emplace_back(meaning.child_value());
             }

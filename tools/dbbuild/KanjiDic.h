@@ -15,9 +15,9 @@ public:
 /// What the builder takes from one KANJIDIC2 character entry.
 struct KanjiDicEntry {
     char32_t codePoint = 0;
-    int grade = 0;       ///< 0 when the entry has none
+    int grade = 0; ///< 0 when the entry has none
     int strokeCount = 0; ///< the first stroke count given
-    int frequency = 0;   ///< frequency rank, 0 when unranked
+    int frequency = 0; ///< frequency rank, 0 when unranked
     std::vector<std::string> onReadings;
     std::vector<std::string> kunReadings;
     std::vector<std::string> meanings; ///< in the language asked for

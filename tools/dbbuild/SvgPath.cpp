@@ -8,11 +8,12 @@ namespace {
 
 class PathLexer {
 public:
-    explicit PathLexer(std::string_view data) : m_data(data) {}
+    explicit PathLexer(std::string_view data) : m_data(data) { }
 
     void SkipSeparators()
     {
-        while (m_pos < m_data.size() && (std::isspace(static_cast<unsigned char>(m_data[m_pos])) || m_data[m_pos] == ','))
+        while (
+            m_pos < m_data.size() && (std::isspace(static_cast<unsigned char>(m_data[m_pos])) || m_data[m_pos] == ','))
             ++m_pos;
     }
     bool AtEnd()
@@ -165,8 +166,8 @@ Stroke ParseSvgPath(std::string_view data)
                 break;
             }
             case 'S': {
-                const Point p1 = lastWasCurve ? Point{2 * current.x - lastControl.x, 2 * current.y - lastControl.y}
-                                              : current;
+                const Point p1
+                    = lastWasCurve ? Point{2 * current.x - lastControl.x, 2 * current.y - lastControl.y} : current;
                 const Point p2 = point();
                 const Point p3 = point();
                 stroke.AppendSegment(Segment(SegmentType::Bezier, p1, p2, p3));
@@ -179,8 +180,7 @@ Stroke ParseSvgPath(std::string_view data)
                 stroke.AppendSegment(Segment(SegmentType::Line, subpathStart));
                 current = subpathStart;
                 break;
-            default:
-                lexer.Fail(std::string("unsupported path command '") + command + "'");
+            default: lexer.Fail(std::string("unsupported path command '") + command + "'");
             }
             lastWasCurve = curve;
             first = false;

@@ -25,8 +25,8 @@ std::unique_ptr<FileCharacterDatabase> BuildSample(BuildOptions options, BuildRe
 {
     const auto bytes = BuildDatabase(options, report);
     const std::string path = TempPath(name);
-    std::ofstream(path, std::ios::binary).write(reinterpret_cast<const char*>(bytes.data()),
-                                                 static_cast<std::streamsize>(bytes.size()));
+    std::ofstream(path, std::ios::binary)
+        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
     return std::make_unique<FileCharacterDatabase>(path);
 }
 

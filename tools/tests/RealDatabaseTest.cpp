@@ -55,8 +55,8 @@ TEST(RealDatabase, CategorySizesMatchTheGradesThatHaveStrokes)
     }
     FileCharacterDatabase& db = Standard();
     ASSERT_EQ(db.CategoryCount(), 8);
-    const char* names[] = {"Grade 1", "Grade 2", "Grade 3", "Grade 4", "Grade 5", "Grade 6", "Secondary school",
-                           "Jinmeiy\xC5\x8D"};
+    const char* names[]
+        = {"Grade 1", "Grade 2", "Grade 3", "Grade 4", "Grade 5", "Grade 6", "Secondary school", "Jinmeiy\xC5\x8D"};
     std::size_t total = 0;
     for (int i = 0; i < 8; ++i) {
         auto category = db.LoadCategory(static_cast<std::uint16_t>(i));

@@ -64,7 +64,8 @@ TEST(ZavorenDb, ReaderFailuresReachStandardErrorWithTheirOwnText)
     const auto dir = std::filesystem::temp_directory_path() / ("zavoren-db-cli-" + std::to_string(getpid()));
     std::filesystem::create_directories(dir);
     // A header pointing at a dictionary beyond the end of the file.
-    std::ofstream((dir / "broken").string(), std::ios::binary) << std::string("\xFF\xFF\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00", 12);
+    std::ofstream((dir / "broken").string(), std::ios::binary)
+        << std::string("\xFF\xFF\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00", 12);
     Result r = RunTool("info " + (dir / "broken").string());
     EXPECT_NE(r.exitCode, 0);
     EXPECT_NE(r.output.find("Unable to read dictionary"), std::string::npos) << r.output;
@@ -94,15 +95,15 @@ TEST(ZavorenDb, BuildWritesTheFileAndReportsLeftOutCharacters)
 {
     const auto out = std::filesystem::temp_directory_path() / ("zavoren-db-sample-" + std::to_string(getpid()));
     const std::string data = ZAVOREN_TOOLS_TEST_DATA;
-    const Result r = RunTool("build --kanjivg " + data + "/kanjivg --kanjidic " + data + "/kanjidic2-sample.xml --out "
-                         + out.string());
+    const Result r = RunTool(
+        "build --kanjivg " + data + "/kanjivg --kanjidic " + data + "/kanjidic2-sample.xml --out " + out.string());
     EXPECT_EQ(r.exitCode, 0) << r.output;
     EXPECT_NE(r.output.find("Grade 1: 3 characters (1 left out: no KanjiVG strokes)"), std::string::npos) << r.output;
     EXPECT_NE(r.output.find("犬"), std::string::npos);
     EXPECT_EQ(RunTool("info " + out.string()).exitCode, 0);
     // Writing into a folder that does not exist fails cleanly.
     const Result bad = RunTool("build --kanjivg " + data + "/kanjivg --kanjidic " + data
-                           + "/kanjidic2-sample.xml --out /nonexistent-folder/database");
+        + "/kanjidic2-sample.xml --out /nonexistent-folder/database");
     EXPECT_NE(bad.exitCode, 0);
     EXPECT_NE(bad.output.find("cannot write"), std::string::npos);
     std::filesystem::remove(out);
@@ -135,7 +136,8 @@ TEST(ZavorenDb, ScorePrintsTheCheckersScore)
     r = RunTool("score --db " + Standard + " --char 0 --canvas 0,0,109,109 --stroke 1 --ink " + ink);
     EXPECT_EQ(r.output, "-1\n");
     std::ofstream(dir / "bad.json") << "[[1,2],[3]";
-    r = RunTool("score --db " + Standard + " --char 0 --canvas 0,0,109,109 --stroke 0 --ink " + (dir / "bad.json").string());
+    r = RunTool(
+        "score --db " + Standard + " --char 0 --canvas 0,0,109,109 --stroke 0 --ink " + (dir / "bad.json").string());
     EXPECT_NE(r.exitCode, 0);
     EXPECT_NE(r.output.find("bad.json"), std::string::npos);
     r = RunTool("score --db " + Standard + " --char 0 --canvas 0,0,109 --stroke 0 --ink " + ink);
@@ -143,7 +145,8 @@ TEST(ZavorenDb, ScorePrintsTheCheckersScore)
     EXPECT_NE(r.output.find("--canvas"), std::string::npos);
     r = RunTool("score --db " + Standard + " --char 99999 --canvas 0,0,109,109 --stroke 0 --ink " + ink);
     EXPECT_NE(r.exitCode, 0);
-    r = RunTool("score --db " + Standard + " --char 0 --canvas 0,0,109,109 --stroke 0 --ink " + (dir / "none").string());
+    r = RunTool(
+        "score --db " + Standard + " --char 0 --canvas 0,0,109,109 --stroke 0 --ink " + (dir / "none").string());
     EXPECT_NE(r.exitCode, 0);
     EXPECT_NE(r.output.find("cannot read"), std::string::npos);
     r = RunTool("score --db " + Standard + " --char 65000 --canvas 0,0,109,109 --stroke 0 --ink " + ink);
