@@ -124,6 +124,12 @@ void UserManagerDialog::OnAdd()
         if (dialog.Name().isEmpty())
             continue;
         const std::string name = dialog.Name().toStdString();
+        if (name.find('\'') != std::string::npos) {
+            // The learner file could never find such a name again: say why it is refused.
+            ShowMessage(this, QMessageBox::NoIcon, QStringLiteral("Can't create user"),
+                QStringLiteral("A user name cannot contain an apostrophe ('). Try another user name"));
+            continue;
+        }
         bool added = false;
         try {
             added = m_store->AddUser(name);

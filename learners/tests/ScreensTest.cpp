@@ -183,6 +183,17 @@ private slots:
         QCOMPARE(Items(manager.UserList()), (QStringList{"Anna", "   "}));
     }
 
+    void apostropheNamesAreRefusedWithTheReason()
+    {
+        UserManagerDialog manager;
+        manager.show();
+        Type(manager, {"O'Brien", "OBrien"});
+        QTest::mouseClick(manager.AddButton(), Qt::LeftButton);
+        QCOMPARE(m_messages,
+            QStringList{"Can't create user: A user name cannot contain an apostrophe ('). Try another user name"});
+        QCOMPARE(Items(manager.UserList()), QStringList{"OBrien"});
+    }
+
     void addDialogRules()
     {
         AddUserDialog dialog;
