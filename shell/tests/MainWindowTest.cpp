@@ -406,9 +406,24 @@ private slots:
         QCOMPARE(splash.Bar()->minimum(), 0);
         QCOMPARE(splash.Bar()->maximum(), 100);
         QCOMPARE(splash.Bar()->value(), 75);
+        // It must never cover the User Manager shown while it is up.
+        QVERIFY(!(splash.windowFlags() & Qt::WindowStaysOnTopHint));
+        splash.show();
+        // Repaints follow the bar's visible fill, not every one of thousands of reports.
+        struct PaintCounter : QObject {
+            int paints = 0;
+            bool eventFilter(QObject*, QEvent* e) override
+            {
+                paints += e->type() == QEvent::Paint;
+                return false;
+            }
+        } counter;
+        splash.installEventFilter(&counter);
         DataFolder folder;
         FileCharacterDatabase db("database");
         db.Preload(&splash);
+        QVERIFY(counter.paints > 0);
+        QVERIFY2(counter.paints <= splash.Bar()->width() + 2, qPrintable(QString::number(counter.paints)));
         QCOMPARE(splash.Bar()->maximum(), int(db.CharacterCount()) + int(db.ElementCount()));
         QCOMPARE(splash.Bar()->value(), int(db.CharacterCount()) + int(db.ElementCount()) - 1);
     }
