@@ -5,6 +5,11 @@
 #include "FormFormat.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <new>
+#include <sys/stat.h>
+#include <unistd.h>
 
 using ZavorenCommon::DatabaseLoadException;
 
@@ -24,57 +29,122 @@ std::uint16_t LittleU16(const std::uint8_t* p)
     return static_cast<std::uint16_t>(p[0] | (p[1] << 8));
 }
 
-bool SeekTo(std::FILE* file, std::uint64_t offset)
+std::size_t ItemCount(const Element& element)
 {
-    return fseeko(file, static_cast<off_t>(offset), SEEK_SET) == 0;
+    std::size_t count = 0;
+    for (std::uint8_t f = 0; f < element.FormCount(); ++f)
+        for (const Stroke& stroke : element.GetForm(f).Strokes())
+            count += 1 + stroke.Segments().size();
+    return count;
 }
 
 } // namespace
 
 FileCharacterDatabase::FileCharacterDatabase(const std::string& path)
 {
-    m_file = std::fopen(path.c_str(), "rb");
-    if (!m_file)
+    // Not blocking: a FIFO or a device named "database" must not hang the start. Only a regular
+    // file (or a link to one) is a database.
+    m_descriptor = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (m_descriptor < 0)
         throw DatabaseLoadException("Unable to open database");
     try {
-        std::uint8_t header[HeaderSize];
-        if (std::fread(header, HeaderSize, 1, m_file) != 1)
+        struct stat info { };
+        if (::fstat(m_descriptor, &info) != 0 || !S_ISREG(info.st_mode))
+            throw DatabaseLoadException("Unable to open database");
+        const auto size = static_cast<std::uint64_t>(info.st_size);
+        if (size <= MaxInMemorySize) {
+            // One read of the whole file; a file that changes size meanwhile keeps what was read.
+            m_contents.resize(static_cast<std::size_t>(size));
+            std::size_t done = 0;
+            while (done < m_contents.size()) {
+                const ssize_t n = ::pread(
+                    m_descriptor, m_contents.data() + done, m_contents.size() - done, static_cast<off_t>(done));
+                if (n < 0 && errno == EINTR)
+                    continue;
+                if (n <= 0)
+                    break;
+                done += static_cast<std::size_t>(n);
+            }
+            m_contents.resize(done);
+            ::close(m_descriptor);
+            m_descriptor = -1;
+        }
+        RecordBytes header;
+        if (!ReadAt(0, HeaderSize, header))
             throw DatabaseLoadException("Unable to read database header");
-        m_elementDictionary = ReadDictionary(LittleU32(header));
-        m_characterDictionary = ReadDictionary(LittleU32(header + 4));
-        m_categoryDictionaryOffset = LittleU32(header + 8);
+        m_elementDictionary = ReadDictionary(LittleU32(header.data));
+        m_characterDictionary = ReadDictionary(LittleU32(header.data + 4));
+        m_categoryDictionaryOffset = LittleU32(header.data + 8);
         m_categoryDictionary = ReadDictionary(m_categoryDictionaryOffset);
+    } catch (const std::bad_alloc&) {
+        Close();
+        throw DatabaseLoadException("Unable to open database");
     } catch (...) {
-        std::fclose(m_file);
+        Close();
         throw;
     }
 }
 
 FileCharacterDatabase::~FileCharacterDatabase()
 {
-    std::fclose(m_file);
+    Close();
 }
 
-std::vector<FileCharacterDatabase::DictionaryEntry> FileCharacterDatabase::ReadDictionary(std::uint32_t offset)
+void FileCharacterDatabase::Close()
 {
-    std::uint8_t countBytes[2];
-    if (!SeekTo(m_file, offset) || std::fread(countBytes, 2, 1, m_file) != 1)
+    if (m_descriptor >= 0)
+        ::close(m_descriptor);
+    m_descriptor = -1;
+}
+
+bool FileCharacterDatabase::ReadAt(std::uint64_t offset, std::size_t size, RecordBytes& out) const
+{
+    if (size == 0)
+        return false;
+    if (m_descriptor < 0) {
+        if (offset > m_contents.size() || size > m_contents.size() - offset)
+            return false;
+        out.data = m_contents.data() + offset;
+        out.size = size;
+        return true;
+    }
+    // Read at the offset: a file that shrank since it was opened gives a short read, never more.
+    out.owned.resize(size);
+    std::size_t done = 0;
+    while (done < size) {
+        const ssize_t n
+            = ::pread(m_descriptor, out.owned.data() + done, size - done, static_cast<off_t>(offset + done));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0)
+            return false;
+        done += static_cast<std::size_t>(n);
+    }
+    out.data = out.owned.data();
+    out.size = size;
+    return true;
+}
+
+std::vector<FileCharacterDatabase::DictionaryEntry> FileCharacterDatabase::ReadDictionary(std::uint32_t offset) const
+{
+    RecordBytes countBytes;
+    if (!ReadAt(offset, 2, countBytes))
         throw DatabaseLoadException("Unable to read dictionary");
-    const std::uint16_t count = LittleU16(countBytes);
-    std::vector<std::uint8_t> raw(std::size_t{count} * EntrySize);
-    if (count > 0 && std::fread(raw.data(), EntrySize, count, m_file) != count)
-        throw DatabaseLoadException("Unable to read dictionary");
+    const std::uint16_t count = LittleU16(countBytes.data);
     std::vector<DictionaryEntry> entries(count);
+    if (count == 0)
+        return entries;
+    RecordBytes raw;
+    if (!ReadAt(std::uint64_t{offset} + 2, std::size_t{count} * EntrySize, raw))
+        throw DatabaseLoadException("Unable to read dictionary");
     for (std::size_t i = 0; i < count; ++i)
-        entries[i] = {LittleU32(&raw[i * EntrySize]), LittleU16(&raw[i * EntrySize + 4])};
+        entries[i] = {LittleU32(raw.data + i * EntrySize), LittleU16(raw.data + i * EntrySize + 4)};
     return entries;
 }
 
-bool FileCharacterDatabase::ReadRecord(const DictionaryEntry& entry, std::vector<std::uint8_t>& buffer)
+bool FileCharacterDatabase::ReadRecord(const DictionaryEntry& entry, RecordBytes& out) const
 {
-    // The record is read as one item of its size, so a record of size 0 never reads.
-    buffer.resize(entry.size);
-    return SeekTo(m_file, entry.offset) && std::fread(buffer.data(), entry.size, 1, m_file) == 1;
+    return ReadAt(entry.offset, entry.size, out);
 }
 
 bool FileCharacterDatabase::CharacterExists(std::uint16_t id)
@@ -86,7 +156,7 @@ bool FileCharacterDatabase::CharacterExists(std::uint16_t id)
     const DictionaryEntry& entry = m_characterDictionary[id];
     if (entry.offset == NoRecord)
         return false;
-    std::vector<std::uint8_t> scratch;
+    RecordBytes scratch;
     return ReadRecord(entry, scratch);
 }
 
@@ -97,7 +167,7 @@ bool FileCharacterDatabase::ElementExists(std::uint16_t id)
     if (m_preloaded && id < m_elementCache.size())
         return m_elementCache[id] != nullptr;
     // No hole test here: an offset of 0xFFFFFFFF simply fails to read.
-    std::vector<std::uint8_t> scratch;
+    RecordBytes scratch;
     return ReadRecord(m_elementDictionary[id], scratch);
 }
 
@@ -113,10 +183,10 @@ std::unique_ptr<Character> FileCharacterDatabase::LoadCharacter(std::uint16_t id
     const DictionaryEntry& entry = m_characterDictionary[id];
     if (entry.offset == NoRecord)
         throw DatabaseLoadException("Character does not exist");
-    std::vector<std::uint8_t> record;
+    RecordBytes record;
     if (!ReadRecord(entry, record))
         throw DatabaseLoadException("Unable to load character");
-    ByteReader reader(record.data(), record.size(), "Unable to load character");
+    ByteReader reader(record.data, record.size, "Unable to load character");
     auto character = std::make_unique<Character>();
     character->SetId(id);
     character->SetElementId(reader.U16());
@@ -135,27 +205,44 @@ std::unique_ptr<Element> FileCharacterDatabase::LoadElement(std::uint16_t id)
             throw DatabaseLoadException("Element does not exist");
         return std::make_unique<Element>(*m_elementCache[id]);
     }
-    if (!m_loading.empty()) {
-        // Nested load of a placed element: refuse cycles and runaway nesting.
-        if (std::find(m_loading.begin(), m_loading.end(), id) != m_loading.end()
-            || m_loading.size() > MaxCompositionDepth)
-            throw DatabaseLoadException("Unable to load element");
-        if (auto found = m_composeMemo.find(id); found != m_composeMemo.end())
-            return std::make_unique<Element>(found->second);
-        auto element = ParseElement(id);
-        m_composeMemo.emplace(id, *element);
-        return element;
-    }
-    struct TopLevelLoad {
+    return LoadTopLevelElement(id);
+}
+
+std::unique_ptr<Element> FileCharacterDatabase::LoadTopLevelElement(std::uint16_t id)
+{
+    // A load starts with an empty budget and forgets its parts when it ends, however it ends.
+    struct EndOfLoad {
         FileCharacterDatabase& db;
-        ~TopLevelLoad() { db.m_composeMemo.clear(); }
-    } clearMemo{*this};
-    return ParseElement(id);
+        ~EndOfLoad()
+        {
+            db.m_composeMemo.clear();
+            db.m_budget = {};
+        }
+    } endOfLoad{*this};
+    m_budget = {};
+    try {
+        return ParseElement(id);
+    } catch (const std::bad_alloc&) {
+        throw DatabaseLoadException("Unable to load element");
+    }
+}
+
+const Element& FileCharacterDatabase::LoadPart(std::uint16_t id)
+{
+    if (id >= m_elementDictionary.size())
+        throw DatabaseLoadException("Element id out of range");
+    // Refuse cycles and runaway nesting.
+    if (std::find(m_loading.begin(), m_loading.end(), id) != m_loading.end() || m_loading.size() > MaxCompositionDepth)
+        throw DatabaseLoadException("Unable to load element");
+    auto& part = m_composeMemo[id];
+    if (!part)
+        part = ParseElement(id);
+    return *part;
 }
 
 std::unique_ptr<Element> FileCharacterDatabase::ParseElement(std::uint16_t id)
 {
-    std::vector<std::uint8_t> record;
+    RecordBytes record;
     if (!ReadRecord(m_elementDictionary[id], record))
         throw DatabaseLoadException("Unable to load element");
     m_loading.push_back(id);
@@ -164,8 +251,9 @@ std::unique_ptr<Element> FileCharacterDatabase::ParseElement(std::uint16_t id)
         ~PopOnExit() { stack.pop_back(); }
     } pop{m_loading};
     auto element = std::make_unique<Element>(id);
-    ByteReader reader(record.data(), record.size(), "Unable to load element");
-    ParseElementRecord(reader, *element, [this](std::uint16_t placed) { return LoadElement(placed); });
+    ByteReader reader(record.data, record.size, "Unable to load element");
+    ParseElementRecord(
+        reader, *element, [this](std::uint16_t placed) -> const Element& { return LoadPart(placed); }, m_budget);
     return element;
 }
 
@@ -179,16 +267,15 @@ std::unique_ptr<Category> FileCharacterDatabase::LoadCategory(std::uint16_t id)
     if (id < m_categoryDictionary.size()) {
         entry = m_categoryDictionary[id];
     } else {
-        std::uint8_t raw[EntrySize];
-        if (!SeekTo(m_file, std::uint64_t{m_categoryDictionaryOffset} + 2 + EntrySize * id)
-            || std::fread(raw, EntrySize, 1, m_file) != 1)
+        RecordBytes raw;
+        if (!ReadAt(std::uint64_t{m_categoryDictionaryOffset} + 2 + EntrySize * id, EntrySize, raw))
             throw DatabaseLoadException("Unable to load category");
-        entry = {LittleU32(raw), LittleU16(raw + 4)};
+        entry = {LittleU32(raw.data), LittleU16(raw.data + 4)};
     }
-    std::vector<std::uint8_t> record;
+    RecordBytes record;
     if (!ReadRecord(entry, record))
         throw DatabaseLoadException("Unable to load category");
-    ByteReader reader(record.data(), record.size(), "Unable to load category");
+    ByteReader reader(record.data, record.size, "Unable to load category");
     auto category = std::make_unique<Category>();
     category->SetId(id);
     category->SetName(reader.ShortString());
@@ -222,6 +309,7 @@ void FileCharacterDatabase::Preload(DatabaseProgress* progress)
     // A preload that failed part-way left partial caches; start them afresh.
     m_characterCache.clear();
     m_elementCache.clear();
+    m_preloadItems = 0;
     const std::uint16_t characters = CharacterCount();
     const std::uint16_t elements = ElementCount();
     if (progress)
@@ -238,7 +326,14 @@ void FileCharacterDatabase::Preload(DatabaseProgress* progress)
         if (progress)
             progress->SetPosition(std::uint32_t{characters} + id);
         const auto eid = static_cast<std::uint16_t>(id);
-        m_elementCache.push_back(ElementExists(eid) ? LoadElement(eid) : nullptr);
+        std::unique_ptr<Element> element = ElementExists(eid) ? LoadElement(eid) : nullptr;
+        if (element) {
+            const std::size_t items = ItemCount(*element);
+            if (items > MaxPreloadItems - m_preloadItems)
+                throw DatabaseLoadException("Unable to load element");
+            m_preloadItems += items;
+        }
+        m_elementCache.push_back(std::move(element));
     }
     m_preloaded = true;
 }

@@ -1,16 +1,17 @@
 #pragma once
 
 #include "CharacterDatabase.h"
+#include "FormFormat.h"
 
 #include <cstdint>
-#include <cstdio>
 #include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
 /// The reader of the binary `database` file: a 12-byte header, three dictionaries and the
-/// records they point at. Keeps the file open; `Preload` caches every character and element.
+/// records they point at. The file is read into memory once when it is opened (a file too large
+/// for that is read record by record instead); `Preload` caches every character and element.
 class FileCharacterDatabase : public CharacterDatabase {
 public:
     /// Opens the file and reads its dictionaries; throws DatabaseLoadException on failure.
@@ -31,6 +32,12 @@ public:
 
     /// Deepest nesting of composed forms that a load follows.
     static constexpr std::size_t MaxCompositionDepth = 32;
+    /// Files up to this size are read into memory at once; larger ones record by record.
+    static constexpr std::uint64_t MaxInMemorySize = 64u << 20;
+    /// Strokes and segments that `Preload` keeps for all elements together, about 40 times what
+    /// the database of every KanjiVG kanji needs (about 270 MB at most). Past it the element that
+    /// would pass it fails to load, so a crafted file cannot fill the memory.
+    static constexpr std::size_t MaxPreloadItems = 8u << 20;
 
 private:
     /// Where a record lies in the file.
@@ -40,8 +47,21 @@ private:
     };
     static constexpr std::uint32_t NoRecord = 0xFFFFFFFF;
 
-    std::vector<DictionaryEntry> ReadDictionary(std::uint32_t offset);
-    bool ReadRecord(const DictionaryEntry& entry, std::vector<std::uint8_t>& buffer);
+    /// Bytes of one record: a view into the file's contents, or a copy read for it.
+    struct RecordBytes {
+        const std::uint8_t* data = nullptr;
+        std::size_t size = 0;
+        std::vector<std::uint8_t> owned;
+    };
+
+    /// Reads `size` bytes at `offset`; false when the file does not hold them all. A size of 0
+    /// never reads, as a record is read as one item of its size.
+    bool ReadAt(std::uint64_t offset, std::size_t size, RecordBytes& out) const;
+    std::vector<DictionaryEntry> ReadDictionary(std::uint32_t offset) const;
+    bool ReadRecord(const DictionaryEntry& entry, RecordBytes& out) const;
+    void Close();
+    std::unique_ptr<Element> LoadTopLevelElement(std::uint16_t id);
+    const Element& LoadPart(std::uint16_t id);
     std::unique_ptr<Element> ParseElement(std::uint16_t id);
 
     std::vector<std::unique_ptr<Character>> m_characterCache;
@@ -51,10 +71,14 @@ private:
     std::vector<DictionaryEntry> m_characterDictionary;
     std::vector<DictionaryEntry> m_categoryDictionary;
     std::uint32_t m_categoryDictionaryOffset = 0;
-    std::FILE* m_file = nullptr;
+    // The whole file when it is small enough; otherwise the open file, read at offsets.
+    std::vector<std::uint8_t> m_contents;
+    int m_descriptor = -1;
 
-    // Elements being composed by the load in progress (guards against cycles and depth),
-    // and the elements it has already parsed, so that a shared part is read only once.
+    // Elements being composed by the load in progress (guards against cycles and depth), the
+    // parts it has already parsed, so that a shared part is read only once, and what it built.
     std::vector<std::uint16_t> m_loading;
-    std::map<std::uint16_t, Element> m_composeMemo;
+    std::map<std::uint16_t, std::unique_ptr<Element>> m_composeMemo;
+    LoadBudget m_budget;
+    std::size_t m_preloadItems = 0;
 };

@@ -14,10 +14,11 @@ Point ReadPoint(ByteReader& reader)
     return {x, y};
 }
 
-void ParseStrokes(ByteReader& reader, Form& form, std::uint8_t strokeCount)
+void ParseStrokes(ByteReader& reader, Form& form, std::uint8_t strokeCount, LoadBudget& budget)
 {
     for (int s = 0; s < strokeCount; ++s) {
         const std::uint8_t segmentCount = reader.U8();
+        budget.Spend(std::size_t{1} + segmentCount);
         Stroke stroke(ReadPoint(reader));
         for (int k = 0; k < segmentCount; ++k) {
             const std::uint8_t type = reader.U8();
@@ -41,7 +42,15 @@ void ParseStrokes(ByteReader& reader, Form& form, std::uint8_t strokeCount)
     }
 }
 
-void ParseComposition(ByteReader& reader, Form& form, const ElementLoader& load)
+std::size_t SegmentCount(const Form& form)
+{
+    std::size_t count = 0;
+    for (const Stroke& stroke : form.Strokes())
+        count += stroke.Segments().size();
+    return count;
+}
+
+void ParseComposition(ByteReader& reader, Form& form, const ElementLoader& load, LoadBudget& budget)
 {
     reader.Skip(1); // reserved byte
     Placement placements[4];
@@ -53,14 +62,20 @@ void ParseComposition(ByteReader& reader, Form& form, const ElementLoader& load)
         p.width = reader.U16();
         p.height = reader.U16();
     }
+    std::size_t segments = 0;
     for (const Placement& p : placements) {
         if (p.elementId == 0)
             continue;
-        const std::unique_ptr<Element> placed = load(p.elementId);
+        const Element& placed = load(p.elementId);
         // A form number of 0 wraps to index 255, which no element has: out of range.
-        const Form& source = placed->GetForm(static_cast<std::uint8_t>(p.formNumber - 1));
-        if (form.Strokes().size() + source.Strokes().size() > 0xFFFF)
+        const Form& source = placed.GetForm(static_cast<std::uint8_t>(p.formNumber - 1));
+        // Sized before anything is copied: the form's own limits, then the whole load's.
+        const std::size_t addedSegments = SegmentCount(source);
+        if (form.Strokes().size() + source.Strokes().size() > LoadBudget::MaxFormStrokes
+            || segments + addedSegments > LoadBudget::MaxFormSegments)
             throw ZavorenCommon::DatabaseLoadException(LoadElementFailed);
+        budget.Spend(source.Strokes().size() + addedSegments);
+        segments += addedSegments;
         ComposePlacement(form, source, p);
     }
 }
@@ -72,7 +87,14 @@ Point Map(Point p, float sx, float sy, float ox, float oy)
 
 } // namespace
 
-void ParseElementRecord(ByteReader& reader, Element& element, const ElementLoader& load)
+void LoadBudget::Spend(std::size_t count)
+{
+    if (count > MaxLoadItems - spent)
+        throw ZavorenCommon::DatabaseLoadException(LoadElementFailed);
+    spent += count;
+}
+
+void ParseElementRecord(ByteReader& reader, Element& element, const ElementLoader& load, LoadBudget& budget)
 {
     const std::uint8_t formCount = reader.U8();
     for (int f = 0; f < formCount; ++f) {
@@ -83,9 +105,9 @@ void ParseElementRecord(ByteReader& reader, Element& element, const ElementLoade
         form.SetWidth(reader.U16());
         form.SetHeight(reader.U16());
         if (kind == static_cast<std::uint8_t>(FormKind::Strokes)) {
-            ParseStrokes(reader, form, strokeCount);
+            ParseStrokes(reader, form, strokeCount, budget);
         } else if (kind == static_cast<std::uint8_t>(FormKind::Composed)) {
-            ParseComposition(reader, form, load);
+            ParseComposition(reader, form, load, budget);
         } else {
             // Deliberate: an unknown kind gives an empty form and does not advance, so the
             // next form of the element is read again from the same bytes.

@@ -27,14 +27,35 @@ struct Placement {
 /// Size in bytes of a composed form record.
 inline constexpr std::size_t ComposedFormSize = 51;
 
-/// Loads a placed element by id (the reader passes its own LoadElement).
-using ElementLoader = std::function<std::unique_ptr<Element>(std::uint16_t)>;
+/// Gives the placed element of a composition by id (the reader passes its own loader). The
+/// element stays valid until the load that asked for it ends.
+using ElementLoader = std::function<const Element&(std::uint16_t)>;
 
-/// Parses an element record (u8 form count, then the forms) into `element`. Composed forms load
-/// their placed elements through `load`. Throws DatabaseLoadException "Unable to load element"
-/// when the record ends early or a composed form would exceed 65535 strokes, and
-/// std::out_of_range for a placement whose form number is not a form of the placed element.
-void ParseElementRecord(ByteReader& reader, Element& element, const ElementLoader& load);
+/// What one element load may build. Composed forms multiply the strokes of the forms they place,
+/// so a file of a few kilobytes could otherwise ask for gigabytes. The limits are far above any
+/// real glyph (the largest kanji has a few dozen strokes of a few segments each).
+struct LoadBudget {
+    /// Strokes in one composed form.
+    static constexpr std::size_t MaxFormStrokes = 65535;
+    /// Segments in one composed form.
+    static constexpr std::size_t MaxFormSegments = 1048576;
+    /// Strokes and segments built by one element load, its forms and every part it composes
+    /// together: at about 30 bytes each, a load never holds more than about 32 MB.
+    static constexpr std::size_t MaxLoadItems = 1048576;
+
+    /// Counts `count` more strokes or segments against the load; throws "Unable to load element"
+    /// when that passes the limit, before anything is built for them.
+    void Spend(std::size_t count);
+
+    /// Strokes and segments built so far by this load.
+    std::size_t spent = 0;
+};
+
+/// Parses an element record (u8 form count, then the forms) into `element`. Composed forms get
+/// their placed elements from `load`. Throws DatabaseLoadException "Unable to load element"
+/// when the record ends early or the load would pass `budget`, and std::out_of_range for a
+/// placement whose form number is not a form of the placed element.
+void ParseElementRecord(ByteReader& reader, Element& element, const ElementLoader& load, LoadBudget& budget);
 
 /// Appends to `target` the strokes of `source` scaled into the placement's box.
 void ComposePlacement(Form& target, const Form& source, const Placement& placement);

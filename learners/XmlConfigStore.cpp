@@ -4,7 +4,9 @@
 #include "DatabaseLoadException.h"
 #include "TextRules.h"
 
+#include <cctype>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -19,6 +21,16 @@ using ZavorenCommon::ConfigException;
 namespace {
 
 const char* const SaveFailed = "Unable to save config";
+const char* const LoadFailed = "Unable to load config";
+
+/// Deepest element nesting a learner file may have. The program writes six levels (the document
+/// element, Users, User, Progress, Learned, Character); anything far deeper was not written by
+/// it, and saving it back would indent each line by its depth.
+constexpr unsigned MaxDepth = 64;
+
+/// A temporary file of a save older than this belongs to no running save: a save takes
+/// milliseconds, so such a file was left by a save that was killed before its rename.
+constexpr auto StaleTemporaryAge = std::chrono::minutes(1);
 
 std::string Format(const char* format, const char* a, const char* b = "", const char* c = "")
 {
@@ -34,6 +46,49 @@ public:
     void write(const void* data, size_t size) override { text.append(static_cast<const char*>(data), size); }
     std::string text;
 };
+
+/// Finds an element nested deeper than MaxDepth, without recursion.
+class DepthCheck : public pugi::xml_tree_walker {
+public:
+    bool for_each(pugi::xml_node&) override
+    {
+        tooDeep = depth() >= static_cast<int>(MaxDepth);
+        return !tooDeep;
+    }
+    bool tooDeep = false;
+};
+
+/// True for the names that SaveFile gives its temporary files: the file's name, a dot and the
+/// six letters or digits that mkstemp chose.
+bool IsTemporaryName(const std::string& name, const std::string& fileName)
+{
+    if (name.size() != fileName.size() + 7 || name.compare(0, fileName.size(), fileName) != 0
+        || name[fileName.size()] != '.')
+        return false;
+    for (std::size_t i = fileName.size() + 1; i < name.size(); ++i)
+        if (!std::isalnum(static_cast<unsigned char>(name[i])))
+            return false;
+    return true;
+}
+
+/// Removes the temporary files that killed saves left beside `path`.
+void RemoveStaleTemporaries(const std::filesystem::path& path)
+{
+    namespace fs = std::filesystem;
+    std::error_code error;
+    const fs::path target = fs::absolute(path, error);
+    const std::string fileName = target.filename().string();
+    const auto now = fs::file_time_type::clock::now();
+    for (fs::directory_iterator it(target.parent_path(), error), end; !error && it != end; it.increment(error)) {
+        const std::string name = it->path().filename().string();
+        std::error_code ignored;
+        if (!IsTemporaryName(name, fileName) || !it->is_regular_file(ignored) || it->is_symlink(ignored))
+            continue;
+        const auto written = fs::last_write_time(it->path(), ignored);
+        if (!ignored && now - written > StaleTemporaryAge)
+            fs::remove(it->path(), ignored);
+    }
+}
 
 bool WriteAll(int fd, const std::string& text)
 {
@@ -53,6 +108,15 @@ bool WriteAll(int fd, const std::string& text)
 
 XmlConfigStore::XmlConfigStore(std::string path, CharacterDatabase* database) : m_path(std::move(path))
 {
+    try {
+        Open(database);
+    } catch (const std::bad_alloc&) {
+        throw ConfigException(LoadFailed);
+    }
+}
+
+void XmlConfigStore::Open(CharacterDatabase* database)
+{
     struct stat info { };
     if (::stat(m_path.c_str(), &info) != 0)
         throw ConfigException("Config file does not exist. Try to reinstall Zavoren.");
@@ -62,7 +126,16 @@ XmlConfigStore::XmlConfigStore(std::string path, CharacterDatabase* database) : 
     const unsigned options = pugi::parse_default | pugi::parse_declaration | pugi::parse_comments;
     if (!S_ISREG(info.st_mode) || !m_document.load_file(m_path.c_str(), options) || !m_document.document_element()
         || !UsersNode())
-        throw ConfigException("Unable to load config");
+        throw ConfigException(LoadFailed);
+    DepthCheck depth;
+    m_document.traverse(depth);
+    if (depth.tooDeep)
+        throw ConfigException(LoadFailed);
+    // The document is written back as UTF-8 whatever it was read as; its declaration says so.
+    for (pugi::xml_node node = m_document.first_child(); node; node = node.next_sibling())
+        if (node.type() == pugi::node_declaration && node.attribute("encoding"))
+            node.attribute("encoding") = "UTF-8";
+    RemoveStaleTemporaries(m_path);
     try {
         m_database = database ? database : &GetDatabase();
     } catch (const ZavorenCommon::DatabaseLoadException& e) {
@@ -104,6 +177,15 @@ void XmlConfigStore::ReadUserList()
 
 std::unique_ptr<User> XmlConfigStore::LoadUser(const std::string& name)
 {
+    try {
+        return ReadUser(name);
+    } catch (const std::bad_alloc&) {
+        throw ConfigException(LoadFailed);
+    }
+}
+
+std::unique_ptr<User> XmlConfigStore::ReadUser(const std::string& name)
+{
     if (name.empty())
         return nullptr;
     const pugi::xml_node node = FindUser("%s[@%s='%s']", name);
@@ -130,35 +212,52 @@ std::unique_ptr<User> XmlConfigStore::LoadUser(const std::string& name)
 
 bool XmlConfigStore::AddUser(const std::string& name)
 {
-    // A name holding an apostrophe could never be found again: refuse it like a taken name.
-    if (name.empty() || name.find('\'') != std::string::npos)
-        return false;
-    if (FindUser("%s[@%s='%s']", name))
-        return false;
-    pugi::xml_node user = UsersNode().append_child("User");
-    if (!user)
-        return false;
-    user.append_attribute("name") = name.c_str();
-    m_userNames.push_back(name);
-    return SaveFile();
+    try {
+        // A name holding an apostrophe could never be found again: refuse it like a taken name.
+        if (name.empty() || name.find('\'') != std::string::npos)
+            return false;
+        if (FindUser("%s[@%s='%s']", name))
+            return false;
+        pugi::xml_node user = UsersNode().append_child("User");
+        if (!user)
+            return false;
+        user.append_attribute("name") = name.c_str();
+        m_userNames.push_back(name);
+        return SaveFile();
+    } catch (const std::bad_alloc&) {
+        throw ConfigException(SaveFailed);
+    }
 }
 
 bool XmlConfigStore::DeleteUser(const std::string& name)
 {
-    const pugi::xml_node node = FindUser("User[@%s='%s']", name);
-    if (!node || !UsersNode().remove_child(node))
-        return false;
-    for (auto it = m_userNames.begin(); it != m_userNames.end(); ++it)
-        if (*it == name) {
-            m_userNames.erase(it);
-            break;
-        }
-    if (EqualsIgnoringAsciiCase(m_currentUserName, name))
-        SetCurrentUser("");
-    return SaveFile();
+    try {
+        const pugi::xml_node node = FindUser("User[@%s='%s']", name);
+        if (!node || !UsersNode().remove_child(node))
+            return false;
+        for (auto it = m_userNames.begin(); it != m_userNames.end(); ++it)
+            if (*it == name) {
+                m_userNames.erase(it);
+                break;
+            }
+        if (EqualsIgnoringAsciiCase(m_currentUserName, name))
+            SetCurrentUser("");
+        return SaveFile();
+    } catch (const std::bad_alloc&) {
+        throw ConfigException(SaveFailed);
+    }
 }
 
 bool XmlConfigStore::SaveUser(User& user)
+{
+    try {
+        return WriteUser(user);
+    } catch (const std::bad_alloc&) {
+        throw ConfigException(SaveFailed);
+    }
+}
+
+bool XmlConfigStore::WriteUser(User& user)
 {
     const std::string name = user.Name() ? user.Name() : "";
     pugi::xml_node node = FindUser("%s[@%s='%s']", name);
@@ -214,20 +313,31 @@ void XmlConfigStore::SetCurrentUser(const std::string& name)
 
 bool XmlConfigStore::SaveFile()
 {
-    StringWriter writer;
-    m_document.save(writer, "  ", pugi::format_default, pugi::encoding_utf8);
+    std::string text;
+    try {
+        StringWriter writer;
+        m_document.save(writer, "  ", pugi::format_default, pugi::encoding_utf8);
+        text = std::move(writer.text);
+    } catch (const std::bad_alloc&) {
+        throw ConfigException(SaveFailed);
+    }
 
     // Write a sibling file, make it durable, then rename it over the old one: a failure at any
     // point leaves the previous config.xml complete.
     const std::filesystem::path target = std::filesystem::absolute(m_path);
     std::string temporary = (target.parent_path() / (target.filename().string() + ".XXXXXX")).string();
     const int fd = ::mkstemp(temporary.data());
-    if (fd < 0)
+    if (fd < 0) {
+        // A folder the learner may not create files in, holding a file they may write: rewrite
+        // the file itself, as saving did before files were replaced atomically.
+        if (errno == EACCES || errno == EPERM)
+            return RewriteInPlace(text);
         throw ConfigException(SaveFailed);
+    }
     struct stat info { };
     if (::stat(m_path.c_str(), &info) == 0)
         ::fchmod(fd, info.st_mode & 07777);
-    const bool written = WriteAll(fd, writer.text) && ::fsync(fd) == 0;
+    const bool written = WriteAll(fd, text) && ::fsync(fd) == 0;
     const bool closed = ::close(fd) == 0;
     if (!written || !closed || ::rename(temporary.c_str(), m_path.c_str()) != 0) {
         ::unlink(temporary.c_str());
@@ -238,5 +348,37 @@ bool XmlConfigStore::SaveFile()
         ::fsync(dir);
         ::close(dir);
     }
+    return true;
+}
+
+bool XmlConfigStore::RewriteInPlace(const std::string& text)
+{
+    const int fd = ::open(m_path.c_str(), O_RDWR | O_CLOEXEC);
+    if (fd < 0)
+        throw ConfigException(SaveFailed);
+    // Keep what the file held, to put it back if the new text cannot be written whole.
+    std::string previous;
+    char buffer[65536];
+    for (;;) {
+        const ssize_t n = ::read(fd, buffer, sizeof buffer);
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n < 0) {
+            ::close(fd);
+            throw ConfigException(SaveFailed);
+        }
+        if (n == 0)
+            break;
+        previous.append(buffer, static_cast<std::size_t>(n));
+    }
+    auto replace = [fd](const std::string& content) {
+        return ::ftruncate(fd, 0) == 0 && ::lseek(fd, 0, SEEK_SET) == 0 && WriteAll(fd, content) && ::fsync(fd) == 0;
+    };
+    const bool written = replace(text);
+    if (!written)
+        replace(previous);
+    const bool closed = ::close(fd) == 0;
+    if (!written || !closed)
+        throw ConfigException(SaveFailed);
     return true;
 }

@@ -11,7 +11,9 @@
 /// The learner store in `config.xml`: a document element holding `Users` (attribute
 /// `currentUser`), one `User` per learner (attribute `name`) with one `Progress` per category
 /// (`categoryId`) holding `Learned` and `Untested` lists of `Character` (`id`). Every change is
-/// saved at once, atomically: a failed save leaves the previous file as it was.
+/// saved at once, atomically: a failed save leaves the previous file as it was. In a folder where
+/// no file can be created the file is rewritten in place instead. Every failure, running out of
+/// memory included, is a ConfigException.
 class XmlConfigStore : public ConfigStore {
 public:
     /// Opens the file. `database` supplies the category count; null takes the process's database.
@@ -33,6 +35,10 @@ public:
     bool SaveFile();
 
 private:
+    void Open(CharacterDatabase* database);
+    std::unique_ptr<User> ReadUser(const std::string& name);
+    bool WriteUser(User& user);
+    bool RewriteInPlace(const std::string& text);
     pugi::xml_node UsersNode() const;
     pugi::xml_node FindUser(const char* format, const std::string& name) const;
 

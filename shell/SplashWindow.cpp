@@ -6,8 +6,7 @@
 #include <QScreen>
 
 SplashWindow::SplashWindow(QWidget* parent)
-    : QWidget(parent, Qt::SplashScreen | Qt::FramelessWindowHint),
-      m_picture(QStringLiteral(":/images/splash.png"))
+    : QWidget(parent, Qt::SplashScreen | Qt::FramelessWindowHint), m_picture(QStringLiteral(":/images/splash.png"))
 {
     setObjectName(QStringLiteral("SplashWindow"));
     setAccessibleName(tr("Zavoren! is starting"));

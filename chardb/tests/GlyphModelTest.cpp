@@ -219,7 +219,10 @@ TEST(GlyphModel, EncodedStrokeFormReadsBack)
     EncodeStrokeForm(form, bytes);
     ByteReader reader(bytes.data(), bytes.size(), "Unable to load element");
     Element element(0);
-    ParseElementRecord(reader, element, [](std::uint16_t) -> std::unique_ptr<Element> { return nullptr; });
+    LoadBudget budget;
+    const Element none(0);
+    ParseElementRecord(reader, element, [&](std::uint16_t) -> const Element& { return none; }, budget);
+    EXPECT_EQ(budget.spent, 3u); // one stroke, two segments
     ASSERT_EQ(element.FormCount(), 1);
     EXPECT_EQ(element.GetForm(0).GetStroke(0).GetSegment(0).P3(), (Point{5, 6}));
     EXPECT_EQ(element.GetForm(0).GetStroke(0).GetSegment(1).P1(), (Point{7, 8}));

@@ -11,6 +11,11 @@
 #include <sstream>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdio>
 
 namespace fs = std::filesystem;
 using ZavorenCommon::ConfigException;
@@ -373,4 +378,217 @@ TEST_F(StoreTest, SingletonOpensConfigXmlInTheCurrentFolder)
     EXPECT_EQ(GetConfigStore().UserCount(), 0); // the failed attempt left nothing behind
     ReleaseDataStores();
     fs::current_path(previous);
+}
+
+namespace {
+
+/// Runs `body` in a child process, as an ordinary user when the tests run as root (root may
+/// write into any folder, so folder permissions mean nothing to it); the child's exit code.
+template<typename Body> int InChild(Body body)
+{
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::alarm(60);
+        if (::geteuid() == 0 && (::setgid(65534) != 0 || ::setuid(65534) != 0))
+            ::_exit(90);
+        try {
+            ::_exit(body());
+        } catch (const ConfigException& e) {
+            std::fprintf(stderr, "ConfigException: %s\n", e.what());
+            ::_exit(91);
+        } catch (...) {
+            ::_exit(92);
+        }
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 100 + WTERMSIG(status);
+}
+
+std::size_t CountFilesStartingWith(const fs::path& dir, const std::string& prefix)
+{
+    std::size_t count = 0;
+    for (const auto& entry : fs::directory_iterator(dir))
+        count += entry.path().filename().string().rfind(prefix, 0) == 0;
+    return count;
+}
+
+ino_t Inode(const fs::path& path)
+{
+    struct stat info { };
+    ::stat(path.c_str(), &info);
+    return info.st_ino;
+}
+
+} // namespace
+
+TEST_F(StoreTest, ALatin1FileKeepsItsNamesOverManySaves)
+{
+    WriteText(Config(),
+        "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>\n<Zavoren><Users><User name=\"Zo\xEB\"/></Users></Zavoren>\n");
+    for (int round = 0; round < 3; ++round) {
+        auto store = Open();
+        ASSERT_EQ(Names(*store), (Strings{"Zo\xC3\xAB"})) << "round " << round;
+        auto zoe = store->LoadUser("Zo\xC3\xAB");
+        ASSERT_NE(zoe, nullptr);
+        EXPECT_TRUE(store->SaveUser(*zoe));
+        const std::string text = ReadText(Config());
+        // Written as UTF-8, and the declaration says so.
+        EXPECT_NE(text.find("encoding=\"UTF-8\""), std::string::npos) << text;
+        EXPECT_EQ(text.find("ISO-8859-1"), std::string::npos);
+        EXPECT_NE(text.find("name=\"Zo\xC3\xAB\""), std::string::npos);
+    }
+}
+
+TEST_F(StoreTest, AUtf8FileKeepsItsNamesOverManySaves)
+{
+    const std::string name = "Zo\xC3\xAB \xE5\xAD\xA6";
+    WriteText(Config(),
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Zavoren><Users><User name=\"" + name
+            + "\"/></Users></Zavoren>\n");
+    for (int round = 0; round < 3; ++round) {
+        auto store = Open();
+        ASSERT_EQ(Names(*store), (Strings{name})) << "round " << round;
+        EXPECT_TRUE(store->SaveUser(*store->LoadUser(name)));
+        EXPECT_NE(ReadText(Config()).find("name=\"" + name + "\""), std::string::npos);
+    }
+}
+
+TEST_F(StoreTest, AFolderWithoutWriteRightsGetsTheFileRewrittenInPlace)
+{
+    fs::permissions(Config(), fs::perms::all, fs::perm_options::add);
+    fs::permissions(m_dir,
+        fs::perms::owner_all | fs::perms::group_read | fs::perms::group_exec | fs::perms::others_read
+            | fs::perms::others_exec);
+    const ino_t before = Inode(Config());
+    const int exitCode = InChild([&] {
+        auto store = Open();
+        if (!store->AddUser("Anna"))
+            return 1;
+        auto anna = store->LoadUser("Anna");
+        anna->GetProgress(0).AddLearned(7);
+        return store->SaveUser(*anna) ? 0 : 2;
+    });
+    ASSERT_EQ(exitCode, 0);
+    EXPECT_EQ(Inode(Config()), before); // the same file, rewritten
+    EXPECT_EQ(Open()->LoadUser("Anna")->GetProgress(0).Learned(), Ids{7});
+    EXPECT_EQ(CountFilesStartingWith(m_dir, "config.xml"), 1u);
+}
+
+TEST_F(StoreTest, AWritableFolderStillReplacesTheFileAtomically)
+{
+    const ino_t before = Inode(Config());
+    EXPECT_TRUE(Open()->AddUser("Anna"));
+    EXPECT_NE(Inode(Config()), before); // a new file renamed over the old one
+}
+
+TEST_F(StoreTest, AFailedRewriteInPlaceReportsAndKeepsTheOldText)
+{
+    ASSERT_TRUE(Open()->AddUser("Anna"));
+    const std::string before = ReadText(Config());
+    fs::permissions(Config(), fs::perms::all, fs::perm_options::add);
+    fs::permissions(m_dir,
+        fs::perms::owner_all | fs::perms::group_read | fs::perms::group_exec | fs::perms::others_read
+            | fs::perms::others_exec);
+    const int exitCode = InChild([&] {
+        auto store = Open();
+        auto anna = store->LoadUser("Anna");
+        for (std::uint16_t i = 0; i < 300; ++i)
+            anna->GetProgress(0).AddLearned(i);
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{before.size() + 20, RLIM_INFINITY};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        try {
+            store->SaveUser(*anna);
+        } catch (const ConfigException& e) {
+            return std::string(e.what()) == "Unable to save config" ? 0 : 1;
+        }
+        return 2;
+    });
+    ASSERT_EQ(exitCode, 0);
+    EXPECT_EQ(ReadText(Config()), before);
+}
+
+TEST_F(StoreTest, TemporaryFilesOfKilledSavesAreRemovedAtOpen)
+{
+    const auto old = fs::file_time_type::clock::now() - std::chrono::hours(2);
+    auto make = [&](const std::string& name, bool stale) {
+        WriteText(m_dir / name, "partial");
+        if (stale)
+            fs::last_write_time(m_dir / name, old);
+    };
+    make("config.xml.ABC123", true);
+    make("config.xml.zZ9yY8", true);
+    make("config.xml.NEW123", false); // a save running right now
+    make("config.xml.bak", true); // not a name a save makes
+    make("config.xml.ABCDEFG", true);
+    make("config.xml.AB-123", true);
+    make("other.xml.ABC123", true);
+    fs::create_directory(m_dir / "config.xml.DIR123");
+    fs::last_write_time(m_dir / "config.xml.DIR123", old);
+    Open();
+    EXPECT_FALSE(fs::exists(m_dir / "config.xml.ABC123"));
+    EXPECT_FALSE(fs::exists(m_dir / "config.xml.zZ9yY8"));
+    for (const char* kept : {"config.xml.NEW123", "config.xml.bak", "config.xml.ABCDEFG", "config.xml.AB-123",
+             "other.xml.ABC123", "config.xml.DIR123", "config.xml"})
+        EXPECT_TRUE(fs::exists(m_dir / kept)) << kept;
+}
+
+TEST_F(StoreTest, DeeplyNestedDocumentsAreRefused)
+{
+    auto nested = [](int levels) {
+        std::string text = "<Zavoren><Users/>";
+        for (int i = 0; i < levels; ++i)
+            text += "<a>";
+        for (int i = 0; i < levels; ++i)
+            text += "</a>";
+        return text + "</Zavoren>";
+    };
+    WriteText(Config(), nested(60));
+    EXPECT_TRUE(Open()->AddUser("Anna")); // as deep as a file may be
+    for (int levels : {64, 10000, 1000000}) {
+        const std::string text = nested(levels);
+        WriteText(Config(), text);
+        EXPECT_CONFIG_ERROR(Open(), "Unable to load config");
+        EXPECT_EQ(ReadText(Config()).size(), text.size());
+    }
+}
+
+TEST_F(StoreTest, RunningOutOfMemoryIsAConfigException)
+{
+#if defined(__SANITIZE_ADDRESS__)
+    GTEST_SKIP() << "AddressSanitizer reserves more address space than any limit here";
+#else
+    // Many learners, each with progress; then opens, loads and saves under ever tighter limits
+    // of the address space. Each attempt succeeds or fails with the store's own message.
+    std::string text = "<Zavoren><Users>";
+    for (int i = 0; i < 20000; ++i)
+        text += "<User name=\"L" + std::to_string(i)
+            + "\"><Progress categoryId=\"0\"><Learned><Character id=\"1\"/></Learned></Progress></User>";
+    WriteText(Config(), text + "</Users></Zavoren>");
+    long pages = 0;
+    std::ifstream("/proc/self/statm") >> pages;
+    const rlim_t base = static_cast<rlim_t>(pages) * static_cast<rlim_t>(::sysconf(_SC_PAGESIZE));
+    for (rlim_t extra = 1u << 20; extra <= (64u << 20); extra *= 2) {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            const rlimit limit{base + extra, base + extra};
+            ::setrlimit(RLIMIT_AS, &limit);
+            try {
+                auto store = Open();
+                auto user = store->LoadUser("L19999");
+                for (std::uint16_t i = 0; i < 2000; ++i)
+                    user->GetProgress(1).AddLearned(i);
+                store->SaveUser(*user);
+            } catch (const ConfigException&) {
+            } catch (...) {
+                ::_exit(1);
+            }
+            ::_exit(0);
+        }
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "limit +" << (extra >> 20) << " MB";
+    }
+#endif
 }

@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -118,7 +119,85 @@ private slots:
             first.kill();
     }
 
+    void noDisplayAtAllSaysSoInOneLineAndLeavesNoProcess()
+    {
+        const Outcome o = Run(
+            {}, {QStringLiteral("DISPLAY"), QStringLiteral("WAYLAND_DISPLAY"), QStringLiteral("QT_QPA_PLATFORM")});
+        QCOMPARE(o.status, QProcess::NormalExit);
+        QCOMPARE(o.exitCode, 2);
+        QCOMPARE(
+            o.errors, QStringLiteral("Zavoren! needs a graphical display (DISPLAY or WAYLAND_DISPLAY is not set)\n"));
+        QCOMPARE(ProcessesInTheDataFolder(), 0);
+    }
+
+    void anUnreachableDisplaySaysSoInOneLineAndLeavesNoProcess()
+    {
+        // A display number no X server here answers to.
+        const Outcome o
+            = Run({{"DISPLAY", ":93"}}, {QStringLiteral("WAYLAND_DISPLAY"), QStringLiteral("QT_QPA_PLATFORM")});
+        QCOMPARE(o.status, QProcess::NormalExit);
+        QCOMPARE(o.exitCode, 2);
+        QCOMPARE(o.errors, QStringLiteral("Zavoren! could not open a graphical display (DISPLAY=:93)\n"));
+        QCOMPARE(ProcessesInTheDataFolder(), 0);
+    }
+
+    void aReportHelperWithoutDisplayLeavesQuietly()
+    {
+        for (const char* display : {"", ":93"}) {
+            QProcess process;
+            Prepare(process, {}, {QStringLiteral("WAYLAND_DISPLAY"), QStringLiteral("QT_QPA_PLATFORM")});
+            QProcessEnvironment env = process.processEnvironment();
+            env.remove(QStringLiteral("DISPLAY"));
+            if (*display)
+                env.insert(QStringLiteral("DISPLAY"), QString::fromUtf8(display));
+            process.setProcessEnvironment(env);
+            process.start(QStringLiteral(ZAVOREN_PROGRAM), {QStringLiteral("--crash-report")});
+            QVERIFY(process.waitForStarted());
+            process.write("Zavoren! crash report\n");
+            process.closeWriteChannel();
+            QVERIFY(process.waitForFinished(30000));
+            QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+            QCOMPARE(process.exitCode(), 0);
+            QCOMPARE(process.readAllStandardError(), QByteArray());
+            QCOMPARE(ProcessesInTheDataFolder(), 0);
+        }
+    }
+
+    void aFileSizeLimitGivesTheSaveErrorAndKeepsTheFile()
+    {
+        const QByteArray before = ReadConfig();
+        QProcess process;
+        Prepare(process, {{"ZAVOREN_QUIT_AFTER_FIRST_PAINT", "1"}});
+        // Room for the file as it is, not for the saved one with a Progress per category.
+        process.setChildProcessModifier([] {
+            const rlimit limit{300, RLIM_INFINITY};
+            ::setrlimit(RLIMIT_FSIZE, &limit);
+        });
+        process.start(QStringLiteral(ZAVOREN_PROGRAM), {});
+        QVERIFY(process.waitForFinished(30000));
+        const QString errors = QString::fromUtf8(process.readAllStandardError());
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QVERIFY2(errors.contains(QStringLiteral("MESSAGE Zavoren Configuration Error: Unable to save config")),
+            qPrintable(errors));
+        QCOMPARE(ReadConfig(), before);
+        QCOMPARE(QDir(m_dir->path()).entryList({QStringLiteral("config.xml*")}, QDir::Files | QDir::Hidden),
+            QStringList{QStringLiteral("config.xml")});
+    }
+
 private:
+    /// Processes still running with the test's data folder as their current folder.
+    int ProcessesInTheDataFolder() const
+    {
+        QTest::qWait(300); // a helper started at the very end would be up by now
+        const QString folder = QFileInfo(m_dir->path()).canonicalFilePath();
+        int count = 0;
+        for (const QString& pid : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs)) {
+            if (pid.toInt() > 0 && QFileInfo(QStringLiteral("/proc/%1/cwd").arg(pid)).symLinkTarget() == folder)
+                ++count;
+        }
+        return count;
+    }
+
     void WriteConfig(const char* text)
     {
         QFile file(m_dir->filePath(QStringLiteral("config.xml")));
@@ -131,7 +210,8 @@ private:
         file.open(QIODevice::ReadOnly);
         return file.readAll();
     }
-    void Prepare(QProcess& process, const QList<std::pair<const char*, const char*>>& extra)
+    void Prepare(
+        QProcess& process, const QList<std::pair<const char*, const char*>>& extra, const QStringList& removed = {})
     {
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
@@ -142,13 +222,15 @@ private:
         env.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_dir->filePath(QStringLiteral("runtime")));
         for (const auto& [name, value] : extra)
             env.insert(QString::fromUtf8(name), QString::fromUtf8(value));
+        for (const QString& name : removed)
+            env.remove(name);
         process.setProcessEnvironment(env);
         process.setWorkingDirectory(m_dir->path());
     }
-    Outcome Run(const QList<std::pair<const char*, const char*>>& extra)
+    Outcome Run(const QList<std::pair<const char*, const char*>>& extra, const QStringList& removed = {})
     {
         QProcess process;
-        Prepare(process, extra);
+        Prepare(process, extra, removed);
         process.start(QStringLiteral(ZAVOREN_PROGRAM), {});
         Outcome o;
         if (!process.waitForFinished(30000)) {
