@@ -34,10 +34,10 @@ public:
     static constexpr std::size_t MaxCompositionDepth = 32;
     /// Files up to this size are read into memory at once; larger ones record by record.
     static constexpr std::uint64_t MaxInMemorySize = 64u << 20;
-    /// Strokes and segments that `Preload` keeps for all elements together, about 40 times what
-    /// the database of every KanjiVG kanji needs (about 270 MB at most). Past it the element that
+    /// Strokes and segments that `Preload` keeps for all elements together, about 8 times what
+    /// the database of every KanjiVG kanji needs (about 64 MB at most). Past it the element that
     /// would pass it fails to load, so a crafted file cannot fill the memory.
-    static constexpr std::size_t MaxPreloadItems = 8u << 20;
+    static constexpr std::size_t MaxPreloadItems = 2u << 20;
 
 private:
     /// Where a record lies in the file.

@@ -40,8 +40,9 @@ struct LoadBudget {
     /// Segments in one composed form.
     static constexpr std::size_t MaxFormSegments = 1048576;
     /// Strokes and segments built by one element load, its forms and every part it composes
-    /// together: at about 30 bytes each, a load never holds more than about 32 MB.
-    static constexpr std::size_t MaxLoadItems = 1048576;
+    /// together, more than a thousand times the largest real glyph: at about 30 bytes each, a
+    /// load never holds more than about 4 MB, whatever the file says.
+    static constexpr std::size_t MaxLoadItems = 131072;
 
     /// Counts `count` more strokes or segments against the load; throws "Unable to load element"
     /// when that passes the limit, before anything is built for them.

@@ -45,13 +45,15 @@ private:
 
 } // namespace
 
-StartupOptions OptionsFromEnvironment()
+StartupOptions OptionsFromArguments(const QStringList& arguments)
 {
     StartupOptions options;
-    const char* quit = std::getenv("ZAVOREN_QUIT_AFTER_FIRST_PAINT");
-    options.quitAfterFirstPaint = quit && *quit && *quit != '0';
-    if (const char* name = std::getenv("ZAVOREN_INSTANCE_NAME"); name && *name)
-        options.instanceName = QString::fromUtf8(name);
+    for (qsizetype i = 1; i < arguments.size(); ++i) {
+        if (arguments[i] == QLatin1String("--quit-after-first-paint"))
+            options.quitAfterFirstPaint = true;
+        else if (arguments[i] == QLatin1String("--instance-name") && i + 1 < arguments.size())
+            options.instanceName = arguments[++i];
+    }
     return options;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 /// What a run of the program is asked to do beyond the ordinary.
 struct StartupOptions {
@@ -15,5 +16,8 @@ struct StartupOptions {
 /// copy or a start that failed or was cancelled. A QApplication must exist.
 int RunZavoren(const StartupOptions& options);
 
-/// Reads the options from the environment (ZAVOREN_QUIT_AFTER_FIRST_PAINT, ZAVOREN_INSTANCE_NAME).
-StartupOptions OptionsFromEnvironment();
+/// Reads the options from the command line (the program's name first):
+/// `--quit-after-first-paint` closes the window normally right after the home page's first
+/// paint (start-up measurements); `--instance-name NAME` names the single-instance lock, so that
+/// separate data folders can run side by side.
+StartupOptions OptionsFromArguments(const QStringList& arguments);

@@ -54,5 +54,5 @@ int main(int argc, char** argv)
         return RunCrashReportHelper();
     if (argc >= 3 && std::strcmp(argv[1], "--crash-test") == 0)
         CrashOnPurpose(argv[2]);
-    return RunZavoren(OptionsFromEnvironment());
+    return RunZavoren(OptionsFromArguments(QApplication::arguments()));
 }

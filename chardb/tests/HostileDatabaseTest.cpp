@@ -126,32 +126,32 @@ TEST_F(HostileDatabaseTest, MultiplyingCompositionsAreRefusedInLittleMemory)
 
 TEST_F(HostileDatabaseTest, CompositionsWithinTheBudgetStillLoad)
 {
-    // Element 2 has 40 forms of four placed copies of element 1 (1536 items each): 245,760
+    // Element 2 has 20 forms of four placed copies of element 1 (1536 items each): 122,880
     // strokes and segments, inside the budget of one load.
     RawDatabaseFile f = MultiplyingCompositions();
     Bytes& level1 = f.elements[2].bytes;
-    level1 = ElementRecord(std::vector<Bytes>(40,
+    level1 = ElementRecord(std::vector<Bytes>(20,
         ComposedFormBytes(
             10, 10, {{1, 1, 0, 0, 10, 10}, {1, 1, 0, 0, 10, 10}, {1, 1, 0, 0, 10, 10}, {1, 1, 0, 0, 10, 10}})));
     FileCharacterDatabase db(Write(f.Build()));
     const auto element = db.LoadElement(2);
-    ASSERT_EQ(element->FormCount(), 40);
-    EXPECT_EQ(element->GetForm(39).StrokeCount(), 24);
-    EXPECT_EQ(element->GetForm(39).GetStroke(23).SegmentCount(), 255);
+    ASSERT_EQ(element->FormCount(), 20);
+    EXPECT_EQ(element->GetForm(19).StrokeCount(), 24);
+    EXPECT_EQ(element->GetForm(19).GetStroke(23).SegmentCount(), 255);
 }
 
 TEST_F(HostileDatabaseTest, PreloadKeepsAFixedBudgetForAllElements)
 {
-    // Element 2: 160 forms of 6,144 items = 983,040, just inside one load's budget; elements 3
-    // onwards are copies of it. Nine of them pass what Preload keeps.
+    // Element 2: 21 forms of 6,144 items = 129,024, just inside one load's budget; elements 3
+    // onwards are copies of it. Seventeen of them pass what Preload keeps.
     RawDatabaseFile f;
     f.elements.push_back({ElementRecord({StrokeFormBytes(10, 10).Build()})});
     f.elements.push_back(MultiplyingCompositions().elements[1]);
-    const Bytes big = ElementRecord(std::vector<Bytes>(160,
+    const Bytes big = ElementRecord(std::vector<Bytes>(21,
         ComposedFormBytes(
             10, 10, {{1, 1, 0, 0, 10, 10}, {1, 1, 0, 0, 10, 10}, {1, 1, 0, 0, 10, 10}, {1, 1, 0, 0, 10, 10}})));
     f.elements.push_back({big});
-    const std::size_t count = FileCharacterDatabase::MaxPreloadItems / 983040 + 2;
+    const std::size_t count = FileCharacterDatabase::MaxPreloadItems / 129024 + 2;
     for (std::size_t i = 0; i < count; ++i)
         f.elements.push_back({big});
     FileCharacterDatabase db(Write(f.Build()));

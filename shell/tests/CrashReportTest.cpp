@@ -104,13 +104,13 @@ private:
         env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
         env.insert(QStringLiteral("ZAVOREN_TEST_ANSWER"), QString::fromLatin1(answer));
         env.insert(QStringLiteral("ZAVOREN_CRASH_FOLDER"), folder);
-        env.insert(QStringLiteral("ZAVOREN_INSTANCE_NAME"), QStringLiteral("crash test ") + folder);
         env.insert(QStringLiteral("XDG_RUNTIME_DIR"), QDir::tempPath());
         // AddressSanitizer builds must let the program's own handlers see the fault.
         env.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("handle_segv=0:handle_abort=0:detect_leaks=0"));
         process.setProcessEnvironment(env);
         process.setWorkingDirectory(QDir(folder).exists() ? folder : QDir::tempPath());
-        process.start(QStringLiteral(ZAVOREN_PROGRAM), arguments);
+        process.start(QStringLiteral(ZAVOREN_PROGRAM),
+            arguments + QStringList{QStringLiteral("--instance-name"), QStringLiteral("crash test ") + folder});
         if (!process.waitForFinished(30000))
             process.kill();
         return QString::fromUtf8(process.readAllStandardError());

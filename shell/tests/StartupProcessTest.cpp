@@ -36,7 +36,7 @@ private slots:
 
     void normalStartAndCloseEndsWithOne()
     {
-        const Outcome o = Run({{"ZAVOREN_QUIT_AFTER_FIRST_PAINT", "1"}});
+        const Outcome o = Run({}, {}, {QStringLiteral("--quit-after-first-paint")});
         QCOMPARE(o.status, QProcess::NormalExit);
         QCOMPARE(o.exitCode, 1);
         QVERIFY2(o.errors.contains(QStringLiteral("home page painted")), qPrintable(o.errors));
@@ -50,7 +50,7 @@ private slots:
         // The program lives in the build tree; the data folder is elsewhere and is the current folder.
         QVERIFY(
             !QFile::exists(QFileInfo(QStringLiteral(ZAVOREN_PROGRAM)).dir().filePath(QStringLiteral("config.xml"))));
-        QCOMPARE(Run({{"ZAVOREN_QUIT_AFTER_FIRST_PAINT", "1"}}).exitCode, 1);
+        QCOMPARE(Run({}, {}, {QStringLiteral("--quit-after-first-paint")}).exitCode, 1);
     }
 
     void missingConfig()
@@ -101,7 +101,7 @@ private slots:
     {
         QProcess first;
         Prepare(first, {});
-        first.start(QStringLiteral(ZAVOREN_PROGRAM), {});
+        first.start(QStringLiteral(ZAVOREN_PROGRAM), Arguments());
         QVERIFY(first.waitForStarted());
         QString firstErrors;
         QTRY_VERIFY_WITH_TIMEOUT(
@@ -167,13 +167,13 @@ private slots:
     {
         const QByteArray before = ReadConfig();
         QProcess process;
-        Prepare(process, {{"ZAVOREN_QUIT_AFTER_FIRST_PAINT", "1"}});
+        Prepare(process, {});
         // Room for the file as it is, not for the saved one with a Progress per category.
         process.setChildProcessModifier([] {
             const rlimit limit{300, RLIM_INFINITY};
             ::setrlimit(RLIMIT_FSIZE, &limit);
         });
-        process.start(QStringLiteral(ZAVOREN_PROGRAM), {});
+        process.start(QStringLiteral(ZAVOREN_PROGRAM), Arguments({QStringLiteral("--quit-after-first-paint")}));
         QVERIFY(process.waitForFinished(30000));
         const QString errors = QString::fromUtf8(process.readAllStandardError());
         QCOMPARE(process.exitStatus(), QProcess::NormalExit);
@@ -217,7 +217,6 @@ private:
         env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
         env.insert(QStringLiteral("ZAVOREN_TEST_ANSWER"), QStringLiteral("ok"));
         env.insert(QStringLiteral("ZAVOREN_TRACE"), QStringLiteral("1"));
-        env.insert(QStringLiteral("ZAVOREN_INSTANCE_NAME"), QStringLiteral("startup test ") + m_dir->path());
         env.insert(QStringLiteral("XDG_CONFIG_HOME"), m_dir->filePath(QStringLiteral("settings")));
         env.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_dir->filePath(QStringLiteral("runtime")));
         for (const auto& [name, value] : extra)
@@ -227,11 +226,17 @@ private:
         process.setProcessEnvironment(env);
         process.setWorkingDirectory(m_dir->path());
     }
-    Outcome Run(const QList<std::pair<const char*, const char*>>& extra, const QStringList& removed = {})
+    /// The program's arguments: a single-instance lock of this test's own, then `extra`.
+    QStringList Arguments(const QStringList& extra = {}) const
+    {
+        return QStringList{QStringLiteral("--instance-name"), QStringLiteral("startup test ") + m_dir->path()} + extra;
+    }
+    Outcome Run(const QList<std::pair<const char*, const char*>>& extra, const QStringList& removed = {},
+        const QStringList& arguments = {})
     {
         QProcess process;
         Prepare(process, extra, removed);
-        process.start(QStringLiteral(ZAVOREN_PROGRAM), {});
+        process.start(QStringLiteral(ZAVOREN_PROGRAM), Arguments(arguments));
         Outcome o;
         if (!process.waitForFinished(30000)) {
             process.kill();

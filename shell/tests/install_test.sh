@@ -15,7 +15,7 @@ done
 
 export XDG_DATA_HOME=$work/data XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work/runtime
 mkdir -m 700 -p "$XDG_RUNTIME_DIR"
-export QT_QPA_PLATFORM=offscreen ZAVOREN_INSTANCE_NAME="install test $work"
+export QT_QPA_PLATFORM=offscreen
 
 # First use: the data folder is prepared.
 "$prefix/bin/zavoren" --prepare
@@ -30,7 +30,7 @@ grep -q 'Anna' "$folder/config.xml" || { echo "config.xml overwritten"; exit 1; 
 
 # A start through the launcher, closed after the first paint: exit code 1 and Anna saved.
 set +e
-ZAVOREN_QUIT_AFTER_FIRST_PAINT=1 ZAVOREN_TEST_ANSWER=ok "$prefix/bin/zavoren" 2> "$work/run.log"
+ZAVOREN_TEST_ANSWER=ok "$prefix/bin/zavoren" --quit-after-first-paint --instance-name "install test $work" 2> "$work/run.log"
 code=$?
 set -e
 [ "$code" -eq 1 ] || { echo "launcher start ended with $code"; cat "$work/run.log"; exit 1; }
