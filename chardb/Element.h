@@ -3,6 +3,7 @@
 #include "Form.h"
 
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 /// A reusable glyph drawing: one or more forms. Copies are deep.
@@ -20,6 +21,8 @@ public:
     const Form& GetForm(std::uint8_t index) const { return m_forms.at(index); }
     /// Appends a form.
     void AppendForm(const Form& form) { m_forms.push_back(form); }
+    /// Appends a form, taking over its strokes.
+    void AppendForm(Form&& form) { m_forms.push_back(std::move(form)); }
 
 private:
     std::uint16_t m_id = 0;

@@ -3,6 +3,7 @@
 #include "Stroke.h"
 
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 /// One drawing of an element: strokes in writing order inside a box of its own units.
@@ -26,6 +27,10 @@ public:
     const Stroke& GetStroke(std::uint16_t index) const { return m_strokes.at(index); }
     /// Appends a stroke.
     void AppendStroke(const Stroke& stroke) { m_strokes.push_back(stroke); }
+    /// Appends a stroke, taking over its segments.
+    void AppendStroke(Stroke&& stroke) { m_strokes.push_back(std::move(stroke)); }
+    /// Makes room for `count` strokes in all, so that appending them allocates once.
+    void ReserveStrokes(std::size_t count) { m_strokes.reserve(count); }
     /// All strokes in writing order.
     const std::vector<Stroke>& Strokes() const { return m_strokes; }
 

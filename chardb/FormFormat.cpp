@@ -16,10 +16,12 @@ Point ReadPoint(ByteReader& reader)
 
 void ParseStrokes(ByteReader& reader, Form& form, std::uint8_t strokeCount, LoadBudget& budget)
 {
+    form.ReserveStrokes(strokeCount);
     for (int s = 0; s < strokeCount; ++s) {
         const std::uint8_t segmentCount = reader.U8();
         budget.Spend(std::size_t{1} + segmentCount);
         Stroke stroke(ReadPoint(reader));
+        stroke.ReserveSegments(segmentCount);
         for (int k = 0; k < segmentCount; ++k) {
             const std::uint8_t type = reader.U8();
             switch (type) {
@@ -38,7 +40,7 @@ void ParseStrokes(ByteReader& reader, Form& form, std::uint8_t strokeCount, Load
                 break;
             }
         }
-        form.AppendStroke(stroke);
+        form.AppendStroke(std::move(stroke));
     }
 }
 
@@ -113,7 +115,7 @@ void ParseElementRecord(ByteReader& reader, Element& element, const ElementLoade
             // next form of the element is read again from the same bytes.
             reader.SetPosition(formStart);
         }
-        element.AppendForm(form);
+        element.AppendForm(std::move(form));
     }
 }
 
@@ -130,7 +132,7 @@ void ComposePlacement(Form& target, const Form& source, const Placement& placeme
             mapped.AppendSegment(Segment(
                 s.Type(), Map(s.P1(), sx, sy, ox, oy), Map(s.P2(), sx, sy, ox, oy), Map(s.P3(), sx, sy, ox, oy)));
         }
-        target.AppendStroke(mapped);
+        target.AppendStroke(std::move(mapped));
     }
 }
 

@@ -3,6 +3,7 @@
 #include "Segment.h"
 
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 /// One pen stroke: a start point and up to 255 segments.
@@ -22,6 +23,8 @@ public:
     const Segment& GetSegment(std::uint8_t index) const { return m_segments.at(index); }
     /// Appends a segment.
     void AppendSegment(const Segment& segment) { m_segments.push_back(segment); }
+    /// Makes room for `count` segments in all, so that appending them allocates once.
+    void ReserveSegments(std::size_t count) { m_segments.reserve(count); }
     /// All segments in order.
     const std::vector<Segment>& Segments() const { return m_segments; }
 

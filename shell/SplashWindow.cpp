@@ -27,7 +27,7 @@ void SplashWindow::SetPosition(std::uint32_t position)
 {
     if (!m_bar)
         return;
-    m_bar->setValue(static_cast<int>(position));
+    m_position = static_cast<int>(position);
     ShowProgress(position + 1 >= static_cast<std::uint32_t>(m_bar->maximum()));
 }
 
@@ -35,8 +35,10 @@ void SplashWindow::SetRange(std::uint32_t lowest, std::uint32_t highest)
 {
     if (!m_bar)
         return;
+    m_position = static_cast<int>(lowest);
+    // The bar shows its new range with the next report that changes its fill.
     m_bar->setRange(static_cast<int>(lowest), static_cast<int>(highest));
-    ShowProgress(true);
+    m_shownFill = -1;
 }
 
 void SplashWindow::ShowProgress(bool force)
@@ -44,12 +46,17 @@ void SplashWindow::ShowProgress(bool force)
     constexpr qint64 FrameMs = 16;
     const qint64 span = qint64(m_bar->maximum()) - m_bar->minimum();
     const int fill
-        = span > 0 ? static_cast<int>((qint64(m_bar->value()) - m_bar->minimum()) * m_bar->width() / span) : 0;
-    if (!force && (fill == m_shownFill || (m_sinceRepaint.isValid() && m_sinceRepaint.elapsed() < FrameMs)))
+        = span > 0 ? static_cast<int>((qint64(m_position) - m_bar->minimum()) * m_bar->width() / span) : 0;
+    if (fill == m_shownFill || (!force && m_sinceRepaint.isValid() && m_sinceRepaint.elapsed() < FrameMs))
         return;
     m_shownFill = fill;
     m_sinceRepaint.start();
-    repaint();
+    // The bar's value is set only here, with its own repaint held back: a progress bar repaints
+    // itself whenever its value moves it by a chunk, which would paint it twice.
+    m_bar->setUpdatesEnabled(false);
+    m_bar->setValue(m_position);
+    m_bar->setUpdatesEnabled(true);
+    m_bar->repaint();
 }
 
 void SplashWindow::paintEvent(QPaintEvent*)

@@ -30,6 +30,7 @@ private:
     void ShowProgress(bool force);
 
     QPixmap m_picture;
+    int m_position = 0;
     int m_shownFill = -1;
     QElapsedTimer m_sinceRepaint;
     QProgressBar* m_bar = nullptr;

@@ -418,12 +418,31 @@ private slots:
                 return false;
             }
         } counter;
-        splash.installEventFilter(&counter);
+        splash.Bar()->installEventFilter(&counter);
+        // Each paint of the bar shows a fill it did not show before.
+        struct FillRecorder : QObject {
+            QProgressBar* bar = nullptr;
+            QList<int> fills;
+            bool eventFilter(QObject*, QEvent* e) override
+            {
+                if (e->type() == QEvent::Paint) {
+                    const qint64 span = qint64(bar->maximum()) - bar->minimum();
+                    fills.append(span > 0 ? int((qint64(bar->value()) - bar->minimum()) * bar->width() / span) : 0);
+                }
+                return false;
+            }
+        } recorder;
+        recorder.bar = splash.Bar();
+        splash.Bar()->installEventFilter(&recorder);
         DataFolder folder;
         FileCharacterDatabase db("database");
         db.Preload(&splash);
         QVERIFY(counter.paints > 0);
         QVERIFY2(counter.paints <= splash.Bar()->width() + 2, qPrintable(QString::number(counter.paints)));
+        for (qsizetype i = 1; i < recorder.fills.size(); ++i)
+            QVERIFY2(recorder.fills[i] != recorder.fills[i - 1], qPrintable(QString::number(i)));
+        // The last report always shows: the bar ends full.
+        QCOMPARE(recorder.fills.last(), splash.Bar()->width() - 1);
         QCOMPARE(splash.Bar()->maximum(), int(db.CharacterCount()) + int(db.ElementCount()));
         QCOMPARE(splash.Bar()->value(), int(db.CharacterCount()) + int(db.ElementCount()) - 1);
     }
