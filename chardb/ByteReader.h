@@ -2,6 +2,7 @@
 
 #include "DatabaseLoadException.h"
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -29,7 +30,7 @@ public:
         return static_cast<std::uint32_t>(p[0]) | (static_cast<std::uint32_t>(p[1]) << 8)
             | (static_cast<std::uint32_t>(p[2]) << 16) | (static_cast<std::uint32_t>(p[3]) << 24);
     }
-    float F32();
+    float F32() { return std::bit_cast<float>(U32()); }
     /// A short string: u8 length, then that many bytes.
     std::string ShortString()
     {

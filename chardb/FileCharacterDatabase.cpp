@@ -54,18 +54,18 @@ FileCharacterDatabase::FileCharacterDatabase(const std::string& path)
         const auto size = static_cast<std::uint64_t>(info.st_size);
         if (size <= MaxInMemorySize) {
             // One read of the whole file; a file that changes size meanwhile keeps what was read.
-            m_contents.resize(static_cast<std::size_t>(size));
+            // Not zero-filled first: every byte kept is one the read delivered.
+            m_contents.reset(new std::uint8_t[static_cast<std::size_t>(size)]);
             std::size_t done = 0;
-            while (done < m_contents.size()) {
-                const ssize_t n = ::pread(
-                    m_descriptor, m_contents.data() + done, m_contents.size() - done, static_cast<off_t>(done));
+            while (done < size) {
+                const ssize_t n = ::pread(m_descriptor, m_contents.get() + done, size - done, static_cast<off_t>(done));
                 if (n < 0 && errno == EINTR)
                     continue;
                 if (n <= 0)
                     break;
                 done += static_cast<std::size_t>(n);
             }
-            m_contents.resize(done);
+            m_contentsSize = done;
             ::close(m_descriptor);
             m_descriptor = -1;
         }
@@ -102,9 +102,9 @@ bool FileCharacterDatabase::ReadAt(std::uint64_t offset, std::size_t size, Recor
     if (size == 0)
         return false;
     if (m_descriptor < 0) {
-        if (offset > m_contents.size() || size > m_contents.size() - offset)
+        if (offset > m_contentsSize || size > m_contentsSize - offset)
             return false;
-        out.data = m_contents.data() + offset;
+        out.data = m_contents.get() + offset;
         out.size = size;
         return true;
     }
@@ -164,8 +164,8 @@ bool FileCharacterDatabase::ElementExists(std::uint16_t id)
 {
     if (id >= m_elementDictionary.size())
         return false;
-    if (m_preloaded && id < m_elementCache.size())
-        return m_elementCache[id] != nullptr;
+    if (m_preloaded && id < m_elementPresent.size())
+        return m_elementPresent[id];
     // No hole test here: an offset of 0xFFFFFFFF simply fails to read.
     RecordBytes scratch;
     return ReadRecord(m_elementDictionary[id], scratch);
@@ -200,9 +200,12 @@ std::unique_ptr<Element> FileCharacterDatabase::LoadElement(std::uint16_t id)
 {
     if (id >= m_elementDictionary.size())
         throw DatabaseLoadException("Element id out of range");
-    if (m_preloaded && id < m_elementCache.size()) {
-        if (!m_elementCache[id])
+    if (m_preloaded && id < m_elementPresent.size()) {
+        if (!m_elementPresent[id])
             throw DatabaseLoadException("Element does not exist");
+        // Bytes held in memory cannot change: parsing them again gives the element Preload saw.
+        if (m_elementCache.empty())
+            return LoadTopLevelElement(id);
         return std::make_unique<Element>(*m_elementCache[id]);
     }
     return LoadTopLevelElement(id);
@@ -309,6 +312,7 @@ void FileCharacterDatabase::Preload(DatabaseProgress* progress)
     // A preload that failed part-way left partial caches; start them afresh.
     m_characterCache.clear();
     m_elementCache.clear();
+    m_elementPresent.clear();
     m_preloadItems = 0;
     const std::uint16_t characters = CharacterCount();
     const std::uint16_t elements = ElementCount();
@@ -321,7 +325,7 @@ void FileCharacterDatabase::Preload(DatabaseProgress* progress)
         const auto cid = static_cast<std::uint16_t>(id);
         m_characterCache.push_back(CharacterExists(cid) ? LoadCharacter(cid) : nullptr);
     }
-    m_elementCache.reserve(elements);
+    m_elementPresent.reserve(elements);
     for (std::uint32_t id = 0; id < elements; ++id) {
         if (progress)
             progress->SetPosition(std::uint32_t{characters} + id);
@@ -333,7 +337,10 @@ void FileCharacterDatabase::Preload(DatabaseProgress* progress)
                 throw DatabaseLoadException("Unable to load element");
             m_preloadItems += items;
         }
-        m_elementCache.push_back(std::move(element));
+        m_elementPresent.push_back(element != nullptr);
+        // A file read at offsets may change under the reader: keep what was read.
+        if (m_descriptor >= 0)
+            m_elementCache.push_back(std::move(element));
     }
     m_preloaded = true;
 }

@@ -11,7 +11,8 @@
 
 /// The reader of the binary `database` file: a 12-byte header, three dictionaries and the
 /// records they point at. The file is read into memory once when it is opened (a file too large
-/// for that is read record by record instead); `Preload` caches every character and element.
+/// for that is read record by record instead); `Preload` caches every character and checks
+/// every element.
 class FileCharacterDatabase : public CharacterDatabase {
 public:
     /// Opens the file and reads its dictionaries; throws DatabaseLoadException on failure.
@@ -65,14 +66,19 @@ private:
     std::unique_ptr<Element> ParseElement(std::uint16_t id);
 
     std::vector<std::unique_ptr<Character>> m_characterCache;
+    // Which element ids have an element, after Preload. The elements themselves are kept only
+    // for a file read at offsets; one held in memory is parsed again for each load, which is as
+    // fast as copying and keeps thousands of small objects out of memory.
     std::vector<std::unique_ptr<Element>> m_elementCache;
+    std::vector<bool> m_elementPresent;
     bool m_preloaded = false;
     std::vector<DictionaryEntry> m_elementDictionary;
     std::vector<DictionaryEntry> m_characterDictionary;
     std::vector<DictionaryEntry> m_categoryDictionary;
     std::uint32_t m_categoryDictionaryOffset = 0;
     // The whole file when it is small enough; otherwise the open file, read at offsets.
-    std::vector<std::uint8_t> m_contents;
+    std::unique_ptr<std::uint8_t[]> m_contents;
+    std::size_t m_contentsSize = 0;
     int m_descriptor = -1;
 
     // Elements being composed by the load in progress (guards against cycles and depth), the

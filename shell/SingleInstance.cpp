@@ -3,11 +3,15 @@
 #include <QApplication>
 #include <QCryptographicHash>
 #include <QDir>
-#include <QLocalServer>
-#include <QLocalSocket>
+#include <QFile>
+#include <QSocketNotifier>
 #include <QStandardPaths>
 #include <QWidget>
 
+#include <cerrno>
+#include <cstring>
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 namespace {
@@ -28,41 +32,101 @@ QString LockDirectory()
     return dir;
 }
 
+/// The socket's address; false when the path does not fit one.
+bool AddressFor(const QByteArray& path, sockaddr_un& address)
+{
+    address = {};
+    address.sun_family = AF_UNIX;
+    if (path.size() >= static_cast<qsizetype>(sizeof address.sun_path))
+        return false;
+    std::memcpy(address.sun_path, path.constData(), static_cast<std::size_t>(path.size()));
+    return true;
+}
+
+/// Asks the copy listening at `path` to come forward; nothing happens when none listens.
+void AskToComeForward(const QByteArray& path)
+{
+    sockaddr_un address{};
+    if (!AddressFor(path, address))
+        return;
+    const int fd = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    if (fd < 0)
+        return;
+    if (::connect(fd, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0) {
+        const char request[] = "raise\n";
+        const ssize_t written = ::send(fd, request, sizeof request - 1, MSG_NOSIGNAL);
+        (void)written; // a copy that went away meanwhile needs no answer
+    }
+    ::close(fd);
+}
+
+/// Reads one request from a connection that has something to say, then closes it.
+void ReadRequest(int fd, bool& raise)
+{
+    char buffer[16];
+    const ssize_t n = ::recv(fd, buffer, sizeof buffer, MSG_DONTWAIT);
+    raise = n >= 5 && std::memcmp(buffer, "raise", 5) == 0;
+}
+
 } // namespace
 
 SingleInstance::SingleInstance(QString name, QObject* parent) : QObject(parent), m_name(std::move(name)) { }
 
-SingleInstance::~SingleInstance() = default;
+SingleInstance::~SingleInstance()
+{
+    if (m_listener >= 0) {
+        ::close(m_listener);
+        ::unlink(m_socketPath.constData());
+    }
+}
 
 bool SingleInstance::Acquire()
 {
     const QString key = KeyFor(m_name);
     m_lock = std::make_unique<QLockFile>(QDir(LockDirectory()).filePath(key + QStringLiteral(".lock")));
     m_lock->setStaleLockTime(0);
+    m_socketPath = QFile::encodeName(QDir(LockDirectory()).filePath(key + QStringLiteral(".socket")));
     if (!m_lock->tryLock(0)) {
         // Another copy runs: ask it to come forward. Nothing is shown by this one.
-        QLocalSocket socket;
-        socket.connectToServer(key);
-        if (socket.waitForConnected(1000)) {
-            socket.write("raise\n");
-            socket.waitForBytesWritten(1000);
-            socket.disconnectFromServer();
-        }
+        AskToComeForward(m_socketPath);
         return false;
     }
-    m_server = new QLocalServer(this);
-    QLocalServer::removeServer(key); // a socket left by a copy that crashed
-    m_server->listen(key);
-    connect(m_server, &QLocalServer::newConnection, this, [this] {
-        while (QLocalSocket* socket = m_server->nextPendingConnection()) {
-            connect(socket, &QLocalSocket::readyRead, this, [this, socket] {
-                if (socket->readAll().startsWith("raise"))
-                    emit raiseRequested();
-            });
-            connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
-        }
-    });
+    sockaddr_un address{};
+    if (!AddressFor(m_socketPath, address))
+        return true; // runs alone all the same; a second copy simply cannot call it forward
+    m_listener = ::socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
+    if (m_listener < 0)
+        return true;
+    ::unlink(m_socketPath.constData()); // a socket left by a copy that crashed
+    if (::bind(m_listener, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0
+        || ::listen(m_listener, 4) != 0) {
+        ::close(m_listener);
+        m_listener = -1;
+        return true;
+    }
+    m_notifier = new QSocketNotifier(m_listener, QSocketNotifier::Read, this);
+    connect(m_notifier, &QSocketNotifier::activated, this, &SingleInstance::AcceptRequests);
     return true;
+}
+
+void SingleInstance::AcceptRequests()
+{
+    for (;;) {
+        const int connection = ::accept4(m_listener, nullptr, nullptr, SOCK_NONBLOCK | SOCK_CLOEXEC);
+        if (connection < 0)
+            return;
+        // The request follows the connection at once; wait for it without blocking the window.
+        auto* notifier = new QSocketNotifier(connection, QSocketNotifier::Read, this);
+        connect(notifier, &QSocketNotifier::activated, this, [this, notifier, connection] {
+            bool raise = false;
+            ReadRequest(connection, raise);
+            notifier->setEnabled(false);
+            notifier->deleteLater();
+            ::close(connection);
+            if (raise)
+                emit raiseRequested();
+        });
+    }
 }
 
 void BringToFront()

@@ -6,10 +6,10 @@
 
 #include <memory>
 
-class QLocalServer;
+class QSocketNotifier;
 
-/// One running copy per user: the first takes a lock file and listens on a local socket; a
-/// later one finds the lock taken, asks the first (through the socket) to bring its window
+/// One running copy per user: the first takes a lock file and listens on a Unix socket beside
+/// it; a later one finds the lock taken, asks the first (through the socket) to bring its window
 /// forward, and ends.
 class SingleInstance : public QObject {
     Q_OBJECT
@@ -28,9 +28,13 @@ signals:
     void raiseRequested();
 
 private:
+    void AcceptRequests();
+
     QString m_name;
     std::unique_ptr<QLockFile> m_lock;
-    QLocalServer* m_server = nullptr;
+    QByteArray m_socketPath;
+    int m_listener = -1;
+    QSocketNotifier* m_notifier = nullptr;
 };
 
 /// Brings the program's active modal dialog (or else its main window) to the front.

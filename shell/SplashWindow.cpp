@@ -45,8 +45,7 @@ void SplashWindow::ShowProgress(bool force)
 {
     constexpr qint64 FrameMs = 16;
     const qint64 span = qint64(m_bar->maximum()) - m_bar->minimum();
-    const int fill
-        = span > 0 ? static_cast<int>((qint64(m_position) - m_bar->minimum()) * m_bar->width() / span) : 0;
+    const int fill = span > 0 ? static_cast<int>((qint64(m_position) - m_bar->minimum()) * m_bar->width() / span) : 0;
     if (fill == m_shownFill || (!force && m_sinceRepaint.isValid() && m_sinceRepaint.elapsed() < FrameMs))
         return;
     m_shownFill = fill;

@@ -223,3 +223,52 @@ TEST_F(HostileDatabaseTest, ALargeFileThatShrinksGivesOnlyTheReadersMessages)
     EXPECT_EQ(LoadError([&] { db.LoadCategory(0); }), "Unable to load category");
     EXPECT_EQ(LoadError([&] { db.LoadCategory(1); }), "Unable to load category");
 }
+
+TEST_F(HostileDatabaseTest, PreloadOfALargeFileKeepsWhatItRead)
+{
+    RawDatabaseFile f;
+    f.elements.push_back({ElementRecord({StrokeFormBytes(10, 10).Stroke(0, 0).Line(1, 1).Line(2, 2).Build()})});
+    f.characters.push_back({CharacterRecord(0, "イチ", "", "one")});
+    const std::string path = Write(f.Build());
+    ASSERT_EQ(::truncate(path.c_str(), static_cast<off_t>(FileCharacterDatabase::MaxInMemorySize + 4096)), 0);
+    FileCharacterDatabase db(path);
+    db.Preload(nullptr);
+    ASSERT_EQ(::truncate(path.c_str(), 40), 0);
+    EXPECT_TRUE(db.ElementExists(0));
+    EXPECT_EQ(db.LoadElement(0)->GetForm(0).GetStroke(0).SegmentCount(), 2);
+    EXPECT_EQ(db.LoadCharacter(0)->ElementId(), 0);
+}
+
+TEST_F(HostileDatabaseTest, PreloadedElementsAreTheElementsReadBeforePreloading)
+{
+    RawDatabaseFile f;
+    f.elements.push_back({ElementRecord({StrokeFormBytes(10, 10).Stroke(0, 0).Line(1, 1).Build()})});
+    f.elements.push_back(
+        {ElementRecord({StrokeFormBytes(100, 50).Stroke(1, 2).Bezier(3, 4, 5, 6, 7, 8).Move(9, 10).Build(),
+            ComposedFormBytes(10, 10, {{2, 1, 0, 0, 5, 5}})})});
+    f.elements.push_back({ElementRecord({StrokeFormBytes(10, 10).Stroke(3, 3).Line(4, 4).Build()})});
+    f.elements.push_back({{}, true});
+    const std::string small = Write(f.Build(), "small");
+    FileCharacterDatabase plain(small);
+    FileCharacterDatabase preloaded(small);
+    preloaded.Preload(nullptr);
+    for (std::uint16_t id = 0; id < 3; ++id) {
+        const auto a = plain.LoadElement(id);
+        const auto b = preloaded.LoadElement(id);
+        ASSERT_EQ(a->FormCount(), b->FormCount());
+        for (std::uint8_t form = 0; form < a->FormCount(); ++form) {
+            const Form& x = a->GetForm(form);
+            const Form& y = b->GetForm(form);
+            ASSERT_EQ(x.StrokeCount(), y.StrokeCount());
+            EXPECT_EQ(x.Width(), y.Width());
+            for (std::uint16_t s = 0; s < x.StrokeCount(); ++s) {
+                EXPECT_EQ(x.GetStroke(s).Start(), y.GetStroke(s).Start());
+                ASSERT_EQ(x.GetStroke(s).SegmentCount(), y.GetStroke(s).SegmentCount());
+                for (std::uint8_t k = 0; k < x.GetStroke(s).SegmentCount(); ++k)
+                    EXPECT_EQ(x.GetStroke(s).GetSegment(k).P3(), y.GetStroke(s).GetSegment(k).P3());
+            }
+        }
+    }
+    EXPECT_FALSE(preloaded.ElementExists(3));
+    EXPECT_EQ(LoadError([&] { preloaded.LoadElement(3); }), "Element does not exist");
+}
