@@ -46,10 +46,16 @@ if [ "$have" != "$wanted" ]; then
     (cd "$root" && npm ci --no-audit --no-fund --loglevel=error)
 fi
 
+# Continuous integration treats every compiler warning in our code as an error.
+werror=OFF
+if [ -n "${CI:-}" ]; then
+    werror=ON
+fi
+
 configure() {
     local dir=$1; shift
     if [ ! -f "$dir/CMakeCache.txt" ]; then
-        cmake -S "$root" -B "$dir" -G Ninja "$@"
+        cmake -S "$root" -B "$dir" -G Ninja -DZAVOREN_WARNINGS_AS_ERRORS=$werror "$@"
     fi
 }
 
