@@ -48,19 +48,9 @@ QLabel* DrawingTestPage::MeaningLabel() const
 void DrawingTestPage::SetCharacter(const Character* character)
 {
     m_character = character;
-    m_revealed = m_peeked = false;
-    m_checker.reset();
-    m_glyph.reset();
-    if (character) {
-        m_glyph = LoadGlyphOrReport(m_database, character->ElementId(), this);
-        if (m_glyph) {
-            const QRect client = Input()->ClientRect();
-            m_checker = std::make_unique<StrokeChecker>(m_glyph->GetForm(0),
-                CanvasRect{
-                    0, 0, static_cast<std::uint16_t>(client.width()), static_cast<std::uint16_t>(client.height())},
-                StrokeChecker::PageSampleCount);
-        }
-    }
+    const QRect client = Input()->ClientRect();
+    m_quiz.Start(character ? LoadGlyphOrReport(m_database, character->ElementId(), this) : nullptr,
+        CanvasRect{0, 0, static_cast<std::uint16_t>(client.width()), static_cast<std::uint16_t>(client.height())});
     OnReadingLabel()->setText(TextOrNotAvailable(character ? character->OnReading() : nullptr));
     KunReadingLabel()->setText(TextOrNotAvailable(character ? character->KunReading() : nullptr));
     MeaningLabel()->setText(TextOrNotAvailable(character ? character->Meaning() : nullptr));
@@ -73,24 +63,21 @@ void DrawingTestPage::SetCharacter(const Character* character)
 
 bool DrawingTestPage::IsAnswered() const
 {
-    return m_glyph && Input()->StrokeCount() == m_glyph->GetForm(0).StrokeCount();
+    return m_quiz.IsComplete();
 }
 
 void DrawingTestPage::OnStrokeEnded()
 {
-    // A stroke beyond the glyph's last one is scored at that index too, which refuses it.
-    const int index = Input()->StrokeCount() - 1;
-    const float score
-        = m_checker ? m_checker->Score(Input()->CurrentStroke(), static_cast<std::uint16_t>(index)) : -1.0f;
-    if (score < 1.0f)
+    if (!m_quiz.Accepts(Input()->CurrentStroke()))
         Input()->Undo();
 }
 
 void DrawingTestPage::OnStrokeKept()
 {
-    if (!IsAnswered())
+    m_quiz.StrokeKept();
+    if (!m_quiz.IsComplete())
         return;
-    if (!m_peeked) {
+    if (!m_quiz.Peeked()) {
         Reveal();
         emit pageEvent(AnsweredCleanly, 0);
     } else {
@@ -100,20 +87,19 @@ void DrawingTestPage::OnStrokeKept()
 
 void DrawingTestPage::Reveal()
 {
-    if (!m_glyph)
-        return;
-    Display()->ShowGlyph(m_glyph->GetForm(0));
-    m_revealed = true;
-    if (!IsAnswered())
-        m_peeked = true;
+    if (const Form* glyph = m_quiz.Glyph()) {
+        Display()->ShowGlyph(*glyph);
+        m_quiz.Reveal();
+    }
 }
 
 void DrawingTestPage::OnDisplayClicked()
 {
-    if (!m_glyph)
+    const Form* glyph = m_quiz.Glyph();
+    if (!glyph)
         return;
-    if (!m_revealed)
+    if (!m_quiz.Revealed())
         Reveal();
     else
-        Display()->StartAnimation(m_glyph->GetForm(0), 10);
+        Display()->StartAnimation(*glyph, 10);
 }

@@ -2,7 +2,7 @@
 
 #include "Element.h"
 #include "QuestionPage.h"
-#include "StrokeChecker.h"
+#include "WritingQuiz.h"
 
 #include <memory>
 
@@ -26,9 +26,9 @@ public:
     void SetCharacter(const Character* character) override;
     bool IsAnswered() const override;
 
-    bool Revealed() const { return m_revealed; }
-    bool Peeked() const { return m_peeked; }
-    const Form* Glyph() const { return m_glyph ? &m_glyph->GetForm(0) : nullptr; }
+    bool Revealed() const { return m_quiz.Revealed(); }
+    bool Peeked() const { return m_quiz.Peeked(); }
+    const Form* Glyph() const { return m_quiz.Glyph(); }
     DisplayCanvas* Display() const;
     InputCanvas* Input() const;
     QLabel* OnReadingLabel() const;
@@ -44,8 +44,5 @@ private:
     std::unique_ptr<Ui::DrawingTestPage> m_ui;
     CharacterDatabase& m_database;
     const Character* m_character = nullptr;
-    std::unique_ptr<Element> m_glyph;
-    std::unique_ptr<StrokeChecker> m_checker;
-    bool m_revealed = false;
-    bool m_peeked = false;
+    WritingQuiz m_quiz;
 };

@@ -34,26 +34,27 @@ LessonPage::LessonPage(CharacterDatabase& database, QWidget* parent)
     connect(Input(), &InputCanvas::strokeEnded, this, &LessonPage::OnStrokeEnded, Qt::DirectConnection);
     connect(Input(), &InputCanvas::strokeKept, this, &LessonPage::OnStrokeKept, Qt::DirectConnection);
     connect(Display(), &DisplayCanvas::clicked, this, [this] {
-        if (m_glyph)
-            Display()->StartAnimation(m_glyph->GetForm(0), 10);
+        if (const Form* glyph = m_quiz.Glyph())
+            Display()->StartAnimation(*glyph, 10);
     });
     for (QCheckBox* box : {OnReadingBox(), KunReadingBox(), MeaningBox()})
         connect(box, &QCheckBox::toggled, this, &LessonPage::RefreshControls);
     connect(ClearButton(), &QPushButton::clicked, this, [this] {
         Input()->Clear();
-        m_hintShown = false;
+        m_quiz.Restart();
         RefreshControls();
     });
     connect(UndoButton(), &QPushButton::clicked, this, [this] {
         Input()->Undo();
-        m_hintShown = false;
+        m_quiz.StrokeUndone();
         RefreshControls();
     });
     connect(HintButton(), &QPushButton::clicked, this, [this] {
-        if (!m_glyph)
+        const Form* glyph = m_quiz.Glyph();
+        if (!glyph)
             return;
-        Input()->ShowHint(m_glyph->GetForm(0), static_cast<std::uint16_t>(Input()->StrokeCount()));
-        m_hintShown = true;
+        Input()->ShowHint(*glyph, m_quiz.Kept());
+        m_quiz.ShowHint();
         RefreshControls();
     });
     connect(AbortButton(), &QPushButton::clicked, this, &LessonPage::Cancel);
@@ -106,7 +107,7 @@ QPushButton* LessonPage::NextButton() const
 
 const Form* LessonPage::Glyph() const
 {
-    return m_glyph ? &m_glyph->GetForm(0) : nullptr;
+    return m_quiz.Glyph();
 }
 
 void LessonPage::StartLesson(const std::vector<std::uint16_t>& codes)
@@ -122,10 +123,8 @@ void LessonPage::LoadCharacter()
         const QSignalBlocker block(box);
         box->setChecked(false);
     }
-    m_checker.reset();
-    m_glyph.reset();
+    m_quiz.Start(nullptr, {});
     m_character.reset();
-    m_hintShown = false;
     Display()->StopAnimation();
     const auto code = m_session.Current();
     if (!code) {
@@ -138,13 +137,10 @@ void LessonPage::LoadCharacter()
     if (!loaded.glyph)
         return;
     m_character = std::move(loaded.character);
-    m_glyph = std::move(loaded.glyph);
-    const Form& form = m_glyph->GetForm(0);
-    Display()->ShowGlyph(form);
     const QRect client = Input()->ClientRect();
-    m_checker = std::make_unique<StrokeChecker>(form,
-        CanvasRect{0, 0, static_cast<std::uint16_t>(client.width()), static_cast<std::uint16_t>(client.height())},
-        StrokeChecker::PageSampleCount);
+    m_quiz.Start(std::move(loaded.glyph),
+        CanvasRect{0, 0, static_cast<std::uint16_t>(client.width()), static_cast<std::uint16_t>(client.height())});
+    Display()->ShowGlyph(*m_quiz.Glyph());
     SetCaption(OnReadingBox(), m_character->OnReading());
     SetCaption(KunReadingBox(), m_character->KunReading());
     SetCaption(MeaningBox(), m_character->Meaning());
@@ -154,10 +150,9 @@ void LessonPage::LoadCharacter()
 
 void LessonPage::RefreshControls()
 {
-    const int strokes = m_glyph ? m_glyph->GetForm(0).StrokeCount() : 0;
     const bool ticked = OnReadingBox()->isChecked() && KunReadingBox()->isChecked() && MeaningBox()->isChecked();
-    const LessonControlState s
-        = DecideLessonControls(m_glyph != nullptr, strokes, Input()->StrokeCount(), ticked, m_hintShown);
+    const LessonControlState s = DecideLessonControls(
+        m_quiz.Glyph() != nullptr, m_quiz.StrokeCount(), m_quiz.Kept(), ticked, m_quiz.HintShown());
     Input()->setEnabled(s.inputEnabled);
     NextButton()->setEnabled(s.nextEnabled);
     SetDefaultButton(s.nextIsDefault ? NextButton() : AbortButton());
@@ -168,17 +163,14 @@ void LessonPage::RefreshControls()
 
 void LessonPage::OnStrokeEnded()
 {
-    const int index = Input()->StrokeCount() - 1;
-    const float score
-        = m_checker ? m_checker->Score(Input()->CurrentStroke(), static_cast<std::uint16_t>(index)) : -1.0f;
-    if (score < 1.0f)
+    if (!m_quiz.Accepts(Input()->CurrentStroke()))
         Input()->Undo();
     RefreshControls();
 }
 
 void LessonPage::OnStrokeKept()
 {
-    m_hintShown = false;
+    m_quiz.StrokeKept();
     RefreshControls();
 }
 

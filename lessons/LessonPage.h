@@ -4,7 +4,7 @@
 #include "Element.h"
 #include "LessonSession.h"
 #include "Page.h"
-#include "StrokeChecker.h"
+#include "WritingQuiz.h"
 
 #include <memory>
 #include <vector>
@@ -61,8 +61,6 @@ private:
     std::unique_ptr<Ui::LessonPage> m_ui;
     CharacterDatabase& m_database;
     std::unique_ptr<Character> m_character;
-    std::unique_ptr<Element> m_glyph;
-    std::unique_ptr<StrokeChecker> m_checker;
+    WritingQuiz m_quiz;
     LessonSession m_session;
-    bool m_hintShown = false;
 };

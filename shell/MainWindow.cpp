@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "CategoryPage.h"
+#include "CategoryRules.h"
 #include "CharacterDatabase.h"
 #include "ConfigException.h"
 #include "ConfigStore.h"
@@ -8,6 +9,7 @@
 #include "HomePage.h"
 #include "LessonPage.h"
 #include "MessageBox.h"
+#include "ProgressRecorder.h"
 #include "TestContainer.h"
 #include "UserManagerDialog.h"
 
@@ -215,34 +217,26 @@ void MainWindow::OnPageEvent(Page* page, quint16 code, quint16 argument)
         CategoryProgress* progress = CurrentCategory();
         switch (code) {
         case CategoryPage::Lesson:
-            m_lesson->StartLesson(m_category->PickLessonCharacters(5));
+            m_lesson->StartLesson(m_category->PickLessonCharacters(LessonSize));
             ShowPage(m_lesson);
             break;
         case CategoryPage::Learn:
             m_lesson->StartLesson({argument});
             ShowPage(m_lesson);
             break;
-        case CategoryPage::Test: {
-            std::vector<std::uint16_t> codes;
-            if (progress)
-                for (std::size_t i = 0; i < progress->UntestedCount() && i < 5; ++i)
-                    codes.push_back(progress->UntestedAt(i));
-            m_test->StartTest(codes);
+        case CategoryPage::Test:
+            m_test->StartTest(progress ? ProgressRecorder(*progress).TestCharacters() : std::vector<std::uint16_t>{});
             ShowPage(m_test);
             break;
-        }
         case CategoryPage::Back:
             m_home->RefreshSelectedCategory();
             ShowPage(m_home);
             break;
         }
     } else if (page == m_lesson) {
-        if (code == LessonPage::Finished) {
-            // Every character of the lesson joins the untested list, in lesson order, as it is.
+        if (code == LessonPage::Finished)
             if (CategoryProgress* progress = CurrentCategory())
-                for (std::uint16_t id : m_lesson->DoneCodes())
-                    progress->AddUntested(id);
-        }
+                ProgressRecorder(*progress).LessonFinished(m_lesson->DoneCodes());
         if (code == LessonPage::Finished || code == LessonPage::Aborted)
             ShowCategoryPage();
     } else if (page == m_test) {
@@ -255,13 +249,8 @@ void MainWindow::OnPageEvent(Page* page, quint16 code, quint16 argument)
 
 void MainWindow::ApplyTestOutcome()
 {
-    if (CategoryProgress* progress = CurrentCategory()) {
-        for (std::uint16_t id : m_test->PassedCodes())
-            progress->MoveToLearned(id);
-        // A failed character counts as not learned again.
-        for (std::uint16_t id : m_test->FailedCodes())
-            progress->RemoveUntested(id);
-    }
+    if (CategoryProgress* progress = CurrentCategory())
+        ProgressRecorder(*progress).TestTaken(m_test->PassedCodes(), m_test->FailedCodes());
     m_test->StartTest({});
 }
 

@@ -1,0 +1,44 @@
+#include "WritingQuiz.h"
+
+void WritingQuiz::Start(std::unique_ptr<Element> glyph, CanvasRect canvas)
+{
+    m_checker.reset();
+    m_glyph = std::move(glyph);
+    if (m_glyph)
+        m_checker = std::make_unique<StrokeChecker>(m_glyph->GetForm(0), canvas, StrokeChecker::PageSampleCount);
+    m_kept = 0;
+    m_hintShown = m_revealed = m_peeked = false;
+}
+
+bool WritingQuiz::Accepts(const StrokePath& ink) const
+{
+    return m_checker && m_checker->Score(ink, m_kept) >= 1.0f;
+}
+
+void WritingQuiz::StrokeKept()
+{
+    ++m_kept;
+    m_hintShown = false;
+}
+
+void WritingQuiz::StrokeUndone()
+{
+    if (m_kept > 0)
+        --m_kept;
+    m_hintShown = false;
+}
+
+void WritingQuiz::Restart()
+{
+    m_kept = 0;
+    m_hintShown = false;
+}
+
+void WritingQuiz::Reveal()
+{
+    if (!m_glyph)
+        return;
+    m_revealed = true;
+    if (!IsComplete())
+        m_peeked = true;
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "CanvasRect.h"
+#include "Element.h"
+#include "StrokeChecker.h"
+#include "StrokePath.h"
+
+#include <cstdint>
+#include <memory>
+
+/// Writing one character stroke by stroke, as the lesson and the drawing test share it: which
+/// stroke comes next, whether a drawn stroke is accepted, whether the start of the next stroke
+/// is being hinted, and whether the model was revealed before the drawing was complete. It
+/// never draws; the pages keep their own rules on top and do the painting.
+class WritingQuiz {
+public:
+    /// Starts on the first form of `glyph` laid out on a canvas of this size (or clears the quiz
+    /// for a null glyph).
+    void Start(std::unique_ptr<Element> glyph, CanvasRect canvas);
+
+    /// The form being written, or null.
+    const Form* Glyph() const { return m_glyph ? &m_glyph->GetForm(0) : nullptr; }
+    /// Strokes the character has (0 without one).
+    std::uint16_t StrokeCount() const { return m_checker ? m_checker->StrokeCount() : 0; }
+    /// Strokes accepted and kept so far: the index of the stroke expected next.
+    std::uint16_t Kept() const { return m_kept; }
+    /// Every stroke has been written.
+    bool IsComplete() const { return m_glyph && m_kept >= StrokeCount(); }
+
+    /// Whether a drawn stroke is accepted as the stroke expected next: only a score of exactly
+    /// 1.0 is. A stroke after the last one is scored at that index too, which refuses it.
+    bool Accepts(const StrokePath& ink) const;
+    /// An accepted stroke was kept; the hint, if any, is spent.
+    void StrokeKept();
+    /// The last kept stroke was taken back.
+    void StrokeUndone();
+    /// Every stroke was wiped: the character starts again.
+    void Restart();
+
+    /// The start of the next stroke is being shown.
+    void ShowHint() { m_hintShown = true; }
+    bool HintShown() const { return m_hintShown; }
+
+    /// The model was shown; before the drawing is complete, that counts as peeking.
+    void Reveal();
+    bool Revealed() const { return m_revealed; }
+    bool Peeked() const { return m_peeked; }
+
+private:
+    std::unique_ptr<Element> m_glyph;
+    std::unique_ptr<StrokeChecker> m_checker;
+    std::uint16_t m_kept = 0;
+    bool m_hintShown = false;
+    bool m_revealed = false;
+    bool m_peeked = false;
+};
