@@ -53,9 +53,6 @@ void ReadingTestPage::SetCharacter(const Character* character)
 {
     m_character = character;
     m_glyph.reset();
-    m_selectedOn = m_selectedKun = -1;
-    m_onRight = m_kunRight = false;
-    m_perfect = true;
     Display()->StopAnimation();
     if (character) {
         m_glyph = LoadGlyphOrReport(m_database, character->ElementId(), this);
@@ -76,6 +73,9 @@ void ReadingTestPage::SetCharacter(const Character* character)
     } else {
         m_choices = {};
     }
+    auto text = [](const char* reading) { return std::string(reading ? reading : ""); };
+    m_judge.Start(character ? text(character->OnReading()) : std::string(),
+        character ? text(character->KunReading()) : std::string(), m_choices.on, m_choices.kun);
     for (int set = 0; set < 2; ++set) {
         const auto& buttons = set == 0 ? m_onButtons : m_kunButtons;
         const auto& texts = set == 0 ? m_choices.on : m_choices.kun;
@@ -100,31 +100,22 @@ void ReadingTestPage::SetCharacter(const Character* character)
 
 bool ReadingTestPage::IsAnswered() const
 {
-    return m_selectedOn >= 0 && m_selectedKun >= 0 && m_onRight && m_kunRight;
+    return m_judge.IsAnswered();
 }
 
 void ReadingTestPage::Pick(bool on, int index)
 {
     if (!m_character)
         return;
-    bool& right = on ? m_onRight : m_kunRight;
-    if (right)
-        return; // this set is already answered
-    const auto& texts = on ? m_choices.on : m_choices.kun;
-    if (static_cast<std::size_t>(index) >= texts.size())
+    const auto set = on ? ReadingJudge::Set::On : ReadingJudge::Set::Kun;
+    if (m_judge.Pick(set, static_cast<std::size_t>(index)) != ReadingJudge::Outcome::Right)
         return;
-    (on ? m_selectedOn : m_selectedKun) = index;
     const char* reading = on ? m_character->OnReading() : m_character->KunReading();
-    right = texts[static_cast<std::size_t>(index)] == (reading ? reading : "");
-    if (!right) {
-        m_perfect = false;
-        return;
-    }
     (on ? OnReadingLabel() : KunReadingLabel())->setText(TextOrNotAvailable(reading));
     const auto& buttons = on ? m_onButtons : m_kunButtons;
     for (int i = 0; i < 5; ++i)
         if (i != index)
             buttons[static_cast<std::size_t>(i)]->setEnabled(false);
-    if (IsAnswered())
-        emit pageEvent(m_perfect ? AnsweredCleanly : AnsweredWithMistakes, 0);
+    if (m_judge.IsAnswered())
+        emit pageEvent(m_judge.IsPerfect() ? AnsweredCleanly : AnsweredWithMistakes, 0);
 }

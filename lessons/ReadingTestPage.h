@@ -4,6 +4,7 @@
 #include "QuestionPage.h"
 #include "Random15.h"
 #include "ReadingChoices.h"
+#include "ReadingJudge.h"
 
 #include <array>
 #include <memory>
@@ -28,7 +29,7 @@ public:
     bool IsAnswered() const override;
 
     /// Whether no wrong pick was made for this question.
-    bool Perfect() const { return m_perfect; }
+    bool Perfect() const { return m_judge.IsPerfect(); }
     const ReadingChoices& Choices() const { return m_choices; }
     QRadioButton* OnButton(int i) const { return m_onButtons.at(static_cast<std::size_t>(i)); }
     QRadioButton* KunButton(int i) const { return m_kunButtons.at(static_cast<std::size_t>(i)); }
@@ -47,10 +48,6 @@ private:
     std::array<QRadioButton*, 5> m_onButtons{};
     std::array<QRadioButton*, 5> m_kunButtons{};
     ReadingChoices m_choices;
-    int m_selectedOn = -1;
-    int m_selectedKun = -1;
-    bool m_onRight = false;
-    bool m_kunRight = false;
-    bool m_perfect = true;
+    ReadingJudge m_judge;
     Random15 m_random;
 };
