@@ -10,10 +10,9 @@
 #include <QScrollBar>
 
 namespace {
-/// Space between the control's edge and its content, in pixels.
-constexpr int Margin = 10;
 /// Pen width of glyphs in cells.
 constexpr int CellPenWidth = 1;
+constexpr int Margin = GridGeometry::Margin;
 } // namespace
 
 CharacterGrid::CharacterGrid(QWidget* parent) : QAbstractScrollArea(parent)
@@ -43,12 +42,10 @@ void CharacterGrid::SetGlyphSource(GlyphSource source)
 void CharacterGrid::SetGroups(std::vector<Group> groups)
 {
     m_groups = std::move(groups);
-    m_cellCount = 0;
+    m_codes.clear();
     for (const Group& g : m_groups)
-        m_cellCount += static_cast<int>(g.codes.size());
-    m_selected.assign(static_cast<std::size_t>(m_cellCount), false);
-    m_focus = m_cellCount > 0 ? 0 : -1;
-    m_anchor = m_focus;
+        m_codes.insert(m_codes.end(), g.codes.begin(), g.codes.end());
+    m_selection.Reset(m_codes.size());
     Relayout();
     viewport()->update();
     emit selectionChanged();
@@ -67,117 +64,70 @@ int CharacterGrid::HeaderHeight() const
 
 int CharacterGrid::Columns() const
 {
-    return std::max(1, (viewport()->width() - 2 * Margin) / m_cellSide);
+    return static_cast<int>(m_geometry.Columns());
 }
 
 void CharacterGrid::Relayout()
 {
-    m_rows.clear();
-    const int columns = Columns();
-    int top = Margin;
-    int cell = 0;
-    for (int g = 0; g < static_cast<int>(m_groups.size()); ++g) {
-        if (!m_groups[g].title.isEmpty()) {
-            m_rows.push_back({g, true, cell, top, HeaderHeight()});
-            top += HeaderHeight();
-        }
-        const int count = static_cast<int>(m_groups[g].codes.size());
-        for (int first = 0; first < count; first += columns) {
-            m_rows.push_back({g, false, cell + first, top, m_cellSide});
-            top += m_cellSide;
-        }
-        cell += count;
+    std::vector<std::size_t> sizes;
+    std::vector<bool> titled;
+    for (const Group& g : m_groups) {
+        sizes.push_back(g.codes.size());
+        titled.push_back(!g.title.isEmpty());
     }
-    m_contentHeight = top + Margin;
+    m_geometry = GridGeometry(sizes, titled, viewport()->width(), m_cellSide, HeaderHeight());
+    const int contentHeight = m_geometry.ContentHeight();
     QScrollBar* bar = verticalScrollBar();
-    const int page = viewport()->height();
-    bar->setRange(0, std::max(0, m_contentHeight - page));
+    bar->setRange(0, std::max(0, contentHeight - viewport()->height()));
     // Line step a hundredth and page step a tenth of the content, each at least one pixel.
-    bar->setSingleStep(std::max(1, m_contentHeight / 100));
-    bar->setPageStep(std::max(1, m_contentHeight / 10));
+    bar->setSingleStep(std::max(1, contentHeight / 100));
+    bar->setPageStep(std::max(1, contentHeight / 10));
 }
 
 std::uint16_t CharacterGrid::CodeOfCell(int cell) const
 {
-    for (const Group& g : m_groups) {
-        if (cell < static_cast<int>(g.codes.size()))
-            return g.codes[static_cast<std::size_t>(cell)];
-        cell -= static_cast<int>(g.codes.size());
-    }
-    return 0;
-}
-
-int CharacterGrid::GroupOfCell(int cell) const
-{
-    for (int g = 0; g < static_cast<int>(m_groups.size()); ++g) {
-        if (cell < static_cast<int>(m_groups[g].codes.size()))
-            return g;
-        cell -= static_cast<int>(m_groups[g].codes.size());
-    }
-    return -1;
+    return cell >= 0 && static_cast<std::size_t>(cell) < m_codes.size() ? m_codes[static_cast<std::size_t>(cell)] : 0;
 }
 
 QRect CharacterGrid::CellRect(int cell) const
 {
-    const int columns = Columns();
-    for (const Row& row : m_rows) {
-        if (row.header || cell < row.firstCell || cell >= row.firstCell + columns)
-            continue;
-        const int groupEnd = [&] {
-            int start = 0;
-            for (int g = 0; g <= row.group; ++g)
-                start += static_cast<int>(m_groups[g].codes.size());
-            return start;
-        }();
-        if (cell >= groupEnd)
-            continue;
-        const int column = cell - row.firstCell;
-        return QRect(Margin + column * m_cellSide, row.top - verticalScrollBar()->value(), m_cellSide, m_cellSide);
-    }
-    return {};
+    if (cell < 0)
+        return {};
+    const GridGeometry::Rect r = m_geometry.CellRect(static_cast<std::size_t>(cell));
+    if (r.IsEmpty())
+        return {};
+    return QRect(r.x, r.y - verticalScrollBar()->value(), r.width, r.height);
 }
 
 int CharacterGrid::CellAt(const QPoint& p) const
 {
-    const int y = p.y() + verticalScrollBar()->value();
-    const int columns = Columns();
-    const int column = (p.x() - Margin) / m_cellSide;
-    if (p.x() < Margin || column >= columns)
-        return -1;
-    for (const Row& row : m_rows) {
-        if (row.header || y < row.top || y >= row.top + row.height)
-            continue;
-        const int cell = row.firstCell + column;
-        return CellRect(cell).contains(p) ? cell : -1;
-    }
-    return -1;
+    return m_geometry.CellAt(p.x(), p.y() + verticalScrollBar()->value());
 }
 
 std::vector<std::uint16_t> CharacterGrid::SelectedCodes() const
 {
     std::vector<std::uint16_t> codes;
-    for (int i = 0; i < m_cellCount; ++i)
-        if (m_selected[static_cast<std::size_t>(i)])
-            codes.push_back(CodeOfCell(i));
+    for (int cell : m_selection.Selected())
+        codes.push_back(CodeOfCell(cell));
     return codes;
 }
 
 int CharacterGrid::FirstSelectedGroup() const
 {
-    for (int i = 0; i < m_cellCount; ++i)
-        if (m_selected[static_cast<std::size_t>(i)])
-            return GroupOfCell(i);
-    return -1;
+    const int cell = m_selection.FirstSelected();
+    return cell < 0 ? -1 : static_cast<int>(m_geometry.GroupOf(static_cast<std::size_t>(cell)));
 }
 
 void CharacterGrid::SelectCell(int cell)
 {
-    std::fill(m_selected.begin(), m_selected.end(), false);
-    if (cell >= 0 && cell < m_cellCount) {
-        m_selected[static_cast<std::size_t>(cell)] = true;
-        m_focus = m_anchor = cell;
+    m_selection.SelectOnly(cell);
+    if (m_selection.IsSelected(cell))
         EnsureVisible(cell);
-    }
+    SelectionChanged();
+}
+
+void CharacterGrid::SelectionChanged()
+{
     viewport()->update();
     emit selectionChanged();
 }
@@ -215,7 +165,7 @@ void CharacterGrid::paintEvent(QPaintEvent* event)
     QPainter painter(viewport());
     const QPalette& pal = palette();
     painter.fillRect(event->rect(), pal.color(QPalette::Base));
-    if (m_cellCount == 0 && !m_emptyMessage.isEmpty()) {
+    if (m_codes.empty() && !m_emptyMessage.isEmpty()) {
         painter.setFont(m_itemFont);
         painter.setPen(pal.color(QPalette::PlaceholderText));
         painter.drawText(viewport()->rect().adjusted(Margin, Margin, -Margin, -Margin),
@@ -223,17 +173,9 @@ void CharacterGrid::paintEvent(QPaintEvent* event)
         return;
     }
     const int scroll = verticalScrollBar()->value();
-    const int columns = Columns();
     const QFontMetrics titleMetrics(m_titleFont);
-    int groupStart = 0;
-    int lastGroup = -1;
-    for (const Row& row : m_rows) {
-        if (row.group != lastGroup) {
-            groupStart = 0;
-            for (int g = 0; g < row.group; ++g)
-                groupStart += static_cast<int>(m_groups[g].codes.size());
-            lastGroup = row.group;
-        }
+    const int focus = hasFocus() ? m_selection.Focus() : -1;
+    for (const GridGeometry::Row& row : m_geometry.Rows()) {
         const int top = row.top - scroll;
         if (top + row.height < event->rect().top() || top > event->rect().bottom())
             continue; // only what is visible is drawn
@@ -250,14 +192,13 @@ void CharacterGrid::paintEvent(QPaintEvent* event)
             painter.fillRect(QRect(0, titleTop + titleMetrics.height() + 4, 300, 1), gradient);
             continue;
         }
-        const int groupEnd = groupStart + static_cast<int>(m_groups[row.group].codes.size());
-        for (int c = 0; c < columns && row.firstCell + c < groupEnd; ++c) {
-            const int cell = row.firstCell + c;
-            const QRect r(Margin + c * m_cellSide, top, m_cellSide, m_cellSide);
-            painter.drawImage(r.topLeft(), CellImage(CodeOfCell(cell), m_selected[static_cast<std::size_t>(cell)]));
+        for (std::size_t c = 0; c < row.cellCount; ++c) {
+            const int cell = static_cast<int>(row.firstCell + c);
+            const QRect r(Margin + static_cast<int>(c) * m_cellSide, top, m_cellSide, m_cellSide);
+            painter.drawImage(r.topLeft(), CellImage(CodeOfCell(cell), m_selection.IsSelected(cell)));
             painter.setPen(pal.color(QPalette::Mid));
             painter.drawRect(r.adjusted(0, 0, -1, -1));
-            if (cell == m_focus && hasFocus()) {
+            if (cell == focus) {
                 painter.setPen(QPen(pal.color(QPalette::Highlight), 1, Qt::DotLine));
                 painter.drawRect(r.adjusted(1, 1, -2, -2));
             }
@@ -275,27 +216,22 @@ void CharacterGrid::mousePressEvent(QMouseEvent* event)
 {
     setFocus();
     const int cell = CellAt(event->position().toPoint());
-    if (event->button() == Qt::RightButton && cell >= 0 && m_selected[static_cast<std::size_t>(cell)])
+    if (event->button() == Qt::RightButton && m_selection.IsSelected(cell))
         return; // keep the selection for the context menu
     if (cell < 0) {
         if (event->button() == Qt::LeftButton)
             SelectCell(-1);
         return;
     }
-    if (event->modifiers() & Qt::ControlModifier) {
-        m_selected[static_cast<std::size_t>(cell)] = !m_selected[static_cast<std::size_t>(cell)];
-        m_focus = m_anchor = cell;
-    } else if ((event->modifiers() & Qt::ShiftModifier) && m_anchor >= 0) {
-        std::fill(m_selected.begin(), m_selected.end(), false);
-        for (int i = std::min(m_anchor, cell); i <= std::max(m_anchor, cell); ++i)
-            m_selected[static_cast<std::size_t>(i)] = true;
-        m_focus = cell;
-    } else {
+    if (event->modifiers() & Qt::ControlModifier)
+        m_selection.Toggle(cell);
+    else if (event->modifiers() & Qt::ShiftModifier)
+        m_selection.ExtendTo(cell);
+    else {
         SelectCell(cell);
         return;
     }
-    viewport()->update();
-    emit selectionChanged();
+    SelectionChanged();
 }
 
 void CharacterGrid::keyPressEvent(QKeyEvent* event)
@@ -310,30 +246,30 @@ void CharacterGrid::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Up: key = Key::Up; break;
     case Qt::Key_Down: key = Key::Down; break;
     case Qt::Key_Space:
-        if (m_focus >= 0)
-            SelectCell(m_focus);
+        if (m_selection.Focus() >= 0)
+            SelectCell(m_selection.Focus());
         return;
     default: QAbstractScrollArea::keyPressEvent(event); return;
     }
-    if (m_cellCount == 0)
+    if (m_codes.empty())
         return;
     std::vector<std::size_t> sizes;
     for (const Group& g : m_groups)
         sizes.push_back(g.codes.size());
-    const GridLayout layout(sizes, static_cast<std::size_t>(Columns()));
-    const int target = static_cast<int>(layout.Move(static_cast<std::size_t>(std::max(0, m_focus)), key));
-    SelectCell(target);
+    const GridLayout layout(sizes, m_geometry.Columns());
+    SelectCell(static_cast<int>(layout.Move(static_cast<std::size_t>(std::max(0, m_selection.Focus())), key)));
 }
 
 void CharacterGrid::contextMenuEvent(QContextMenuEvent* event)
 {
     int cell = -1;
     if (event->reason() == QContextMenuEvent::Mouse) {
-        cell = CellAt(viewport()->mapFrom(this, event->pos()));
-        if (cell >= 0 && !m_selected[static_cast<std::size_t>(cell)])
+        // The scroll area hands on its viewport's events in viewport coordinates already.
+        cell = CellAt(event->pos());
+        if (cell >= 0 && !m_selection.IsSelected(cell))
             SelectCell(cell);
     } else {
-        cell = m_focus;
+        cell = m_selection.Focus();
     }
     emit contextMenuRequested(cell, event->globalPos());
 }

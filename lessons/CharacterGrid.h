@@ -1,5 +1,8 @@
 #pragma once
 
+#include "GridGeometry.h"
+#include "GridSelection.h"
+
 #include <QAbstractScrollArea>
 #include <QHash>
 #include <QImage>
@@ -13,7 +16,8 @@ class Form;
 /// An owner-drawn grid of characters in titled groups (each group starts on a new row), with
 /// scrolling, keyboard movement, mouse selection (Ctrl and Shift add) and a message shown when
 /// it is empty. Cells show the glyph smoothly; cell images are cached and only visible cells
-/// are drawn.
+/// are drawn. Where the cells lie and which are selected are decided by GridGeometry and
+/// GridSelection; the grid paints and forwards input.
 class CharacterGrid : public QAbstractScrollArea {
     Q_OBJECT
 public:
@@ -39,7 +43,7 @@ public:
     /// Group of the first selected cell, or -1 when nothing is selected.
     int FirstSelectedGroup() const;
     /// Cell with keyboard focus, or -1.
-    int FocusedCell() const { return m_focus; }
+    int FocusedCell() const { return m_selection.Focus(); }
     /// Selects one cell (and focuses it); -1 clears the selection.
     void SelectCell(int cell);
     /// The cell under a viewport position, or -1.
@@ -67,28 +71,19 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
-    struct Row {
-        int group;
-        bool header;
-        int firstCell; ///< for cell rows
-        int top; ///< in content coordinates
-        int height;
-    };
     void Relayout();
+    /// Selection changed: repaint and tell.
+    void SelectionChanged();
     void EnsureVisible(int cell);
     const QImage& CellImage(std::uint16_t code, bool selected);
     std::uint16_t CodeOfCell(int cell) const;
-    int GroupOfCell(int cell) const;
     int HeaderHeight() const;
 
     std::vector<Group> m_groups;
-    std::vector<Row> m_rows;
-    std::vector<bool> m_selected;
-    int m_cellCount = 0;
-    int m_focus = -1;
-    int m_anchor = -1;
+    std::vector<std::uint16_t> m_codes; ///< every cell's code, group after group
+    GridGeometry m_geometry{{}, {}, 0, 1, 0};
+    GridSelection m_selection;
     int m_cellSide = 40;
-    int m_contentHeight = 0;
     int m_rendered = 0;
     QString m_emptyMessage;
     GlyphSource m_glyphs;

@@ -5,6 +5,8 @@
 #include "TestSupport.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -195,6 +197,34 @@ private slots:
         m_page->LearnedMenu()->actions()[1]->trigger();
         QCOMPARE(events.count(), 1);
         QCOMPARE(m_progress.Learned(), before);
+    }
+
+    void rightClickActsOnTheCellUnderThePointer()
+    {
+        // Everything unlearned: one group of 80 cells, several rows.
+        m_page->SetCategory(0, &m_progress);
+        CharacterGrid* grid = m_page->Grid();
+        QVERIFY(grid->frameWidth() > 0); // the frame is what a wrong mapping shifts by
+        const int columns = grid->Columns();
+        QVERIFY(columns >= 3);
+        // The second row's third cell, clicked just inside its top-left corner.
+        const int cell = columns + 2;
+        const QPoint at = grid->CellRect(cell).topLeft();
+        QCOMPARE(grid->CellAt(at), cell);
+        QSignalSpy requests(grid, &CharacterGrid::contextMenuRequested);
+        QSignalSpy events(m_page.get(), &CategoryPage::pageEvent);
+        QContextMenuEvent click(QContextMenuEvent::Mouse, at, grid->viewport()->mapToGlobal(at));
+        QApplication::sendEvent(grid->viewport(), &click);
+        QCOMPARE(requests.count(), 1);
+        QCOMPARE(requests[0][0].toInt(), cell);
+        QCOMPARE(grid->SelectedCodes(), (Codes{m_grade1[static_cast<std::size_t>(cell)]}));
+        // The menu that opened acts on that character: Learn asks for its lesson.
+        QTRY_VERIFY(m_page->UnlearnedMenu()->isVisible());
+        m_page->UnlearnedMenu()->actions()[1]->trigger();
+        m_page->UnlearnedMenu()->close();
+        QCOMPARE(events.count(), 1);
+        QCOMPARE(events[0][0].toInt(), int(CategoryPage::Learn));
+        QCOMPARE(events[0][1].toInt(), int(m_grade1[static_cast<std::size_t>(cell)]));
     }
 
     void infoOpensTheKanjiInfoDialogForTheFirstSelected()

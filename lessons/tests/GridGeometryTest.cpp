@@ -1,0 +1,78 @@
+#include "GridGeometry.h"
+#include "GridSelection.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// Two groups: the first titled with 7 cells, the second untitled with 2; 3 columns of 40 px.
+GridGeometry Sample()
+{
+    return GridGeometry({7, 2}, {true, false}, 2 * GridGeometry::Margin + 3 * 40 + 5, 40, 20);
+}
+
+} // namespace
+
+TEST(GridGeometry, RowsFollowGroupsAndTitles)
+{
+    const GridGeometry g = Sample();
+    ASSERT_EQ(g.Columns(), 3u);
+    ASSERT_EQ(g.Rows().size(), 5u); // title, 3 + 3 + 1 cells, then 2 cells
+    EXPECT_TRUE(g.Rows()[0].header);
+    EXPECT_EQ(g.Rows()[0].top, GridGeometry::Margin);
+    EXPECT_EQ(g.Rows()[1].top, GridGeometry::Margin + 20);
+    EXPECT_EQ(g.Rows()[3].cellCount, 1u);
+    EXPECT_EQ(g.Rows()[4].firstCell, 7u);
+    EXPECT_EQ(g.Rows()[4].group, 1u);
+    EXPECT_EQ(g.ContentHeight(), GridGeometry::Margin + 20 + 4 * 40 + GridGeometry::Margin);
+    EXPECT_EQ(g.GroupOf(6), 0u);
+    EXPECT_EQ(g.GroupOf(7), 1u);
+    EXPECT_EQ(g.GroupOf(9), 2u); // no such cell
+}
+
+TEST(GridGeometry, CellRectsAndHitTestingAgree)
+{
+    const GridGeometry g = Sample();
+    for (std::size_t cell = 0; cell < g.CellCount(); ++cell) {
+        const GridGeometry::Rect r = g.CellRect(cell);
+        ASSERT_FALSE(r.IsEmpty()) << cell;
+        EXPECT_EQ(g.CellAt(r.x, r.y), static_cast<int>(cell));
+        EXPECT_EQ(g.CellAt(r.x + r.width - 1, r.y + r.height - 1), static_cast<int>(cell));
+    }
+    EXPECT_EQ(g.CellRect(7).y, GridGeometry::Margin + 20 + 3 * 40); // a group starts a new row
+    EXPECT_TRUE(g.CellRect(9).IsEmpty());
+    // Margins, the title row and the room after a group's last cell hold no cell.
+    EXPECT_EQ(g.CellAt(GridGeometry::Margin - 1, 50), -1);
+    EXPECT_EQ(g.CellAt(15, GridGeometry::Margin + 5), -1);
+    const GridGeometry::Rect last = g.CellRect(6);
+    EXPECT_EQ(g.CellAt(last.x + 40, last.y), -1);
+    EXPECT_EQ(g.CellAt(GridGeometry::Margin + 3 * 40, 50), -1); // past the last column
+}
+
+TEST(GridSelection, ClicksWithAndWithoutModifiers)
+{
+    GridSelection s;
+    s.Reset(6);
+    EXPECT_EQ(s.Focus(), 0);
+    EXPECT_EQ(s.FirstSelected(), -1);
+    s.SelectOnly(2);
+    EXPECT_EQ(s.Selected(), (std::vector<int>{2}));
+    s.Toggle(4);
+    EXPECT_EQ(s.Selected(), (std::vector<int>{2, 4}));
+    s.Toggle(2);
+    EXPECT_EQ(s.Selected(), (std::vector<int>{4}));
+    EXPECT_EQ(s.Anchor(), 2);
+    s.ExtendTo(5);
+    EXPECT_EQ(s.Selected(), (std::vector<int>{2, 3, 4, 5}));
+    EXPECT_EQ(s.Focus(), 5);
+    EXPECT_EQ(s.Anchor(), 2);
+    s.SelectOnly(-1);
+    EXPECT_TRUE(s.Selected().empty());
+    EXPECT_EQ(s.Focus(), 5); // clearing keeps the focus
+    s.SelectOnly(6); // no such cell
+    EXPECT_TRUE(s.Selected().empty());
+    s.Reset(0);
+    EXPECT_EQ(s.Focus(), -1);
+    s.ExtendTo(0);
+    EXPECT_TRUE(s.Selected().empty());
+}
