@@ -23,7 +23,7 @@ struct Fixture {
         database = std::make_unique<FileCharacterDatabase>(ZAVOREN_ALL_DATABASE);
         database->Preload(nullptr);
         std::ofstream(dir / "config.xml") << "<Zavoren><Users/></Zavoren>";
-        XmlConfigStore store((dir / "config.xml").string(), database.get());
+        XmlConfigStore store((dir / "config.xml").string(), *database);
         for (int i = 0; i < 100; ++i)
             store.AddUser("Learner " + std::to_string(i));
         // Learner 0 has every character of every category: most learned, the rest untested.
@@ -57,7 +57,7 @@ void BM_OpenStoreWith100Learners(benchmark::State& state)
 {
     Fixture& f = Shared();
     for (auto _ : state) {
-        XmlConfigStore store((f.dir / "config.xml").string(), f.database.get());
+        XmlConfigStore store((f.dir / "config.xml").string(), *f.database);
         benchmark::DoNotOptimize(store.UserCount());
     }
     state.counters["file_bytes"] = static_cast<double>(fs::file_size(f.dir / "config.xml"));
@@ -67,7 +67,7 @@ BENCHMARK(BM_OpenStoreWith100Learners)->Unit(benchmark::kMillisecond);
 void BM_LoadUserWithEveryCharacter(benchmark::State& state)
 {
     Fixture& f = Shared();
-    XmlConfigStore store((f.dir / "config.xml").string(), f.database.get());
+    XmlConfigStore store((f.dir / "config.xml").string(), *f.database);
     for (auto _ : state) {
         auto user = store.LoadUser("Learner 0");
         benchmark::DoNotOptimize(user->ProgressCount());
@@ -78,7 +78,7 @@ BENCHMARK(BM_LoadUserWithEveryCharacter)->Unit(benchmark::kMillisecond);
 void BM_SaveUserWithEveryCharacter(benchmark::State& state)
 {
     Fixture& f = Shared();
-    XmlConfigStore store((f.dir / "config.xml").string(), f.database.get());
+    XmlConfigStore store((f.dir / "config.xml").string(), *f.database);
     auto user = store.LoadUser("Learner 0");
     for (auto _ : state)
         store.SaveUser(*user);

@@ -8,6 +8,7 @@
 #include "GlyphRendering.h"
 #include "InputCanvas.h"
 #include "LessonPage.h"
+#include "MessageBoxPrompt.h"
 #include "ReadingChoices.h"
 #include "StrokeChecker.h"
 
@@ -25,10 +26,17 @@ FileCharacterDatabase& Database()
     return db;
 }
 
+/// Messages would show as boxes; none is expected while measuring.
+Prompt& Prompts()
+{
+    static MessageBoxPrompt prompt;
+    return prompt;
+}
+
 void BM_LessonPageLoadCharacter(benchmark::State& state)
 {
     FileCharacterDatabase& db = Database();
-    LessonPage page(db);
+    LessonPage page(db, Prompts());
     page.show();
     std::uint16_t id = 0;
     for (auto _ : state) {
@@ -83,7 +91,7 @@ void BM_CategoryPageFirstPaintSecondarySchool(benchmark::State& state)
     FileCharacterDatabase& db = Database();
     CategoryProgress progress;
     for (auto _ : state) {
-        CategoryPage page(db);
+        CategoryPage page(db, Prompts(), ClockSeed);
         page.show();
         page.SetCategory(6, &progress);
         benchmark::DoNotOptimize(page.grab());
@@ -95,7 +103,7 @@ void BM_CategoryPageScrollOnePage(benchmark::State& state)
 {
     FileCharacterDatabase& db = Database();
     CategoryProgress progress;
-    CategoryPage page(db);
+    CategoryPage page(db, Prompts(), ClockSeed);
     page.show();
     page.SetCategory(6, &progress);
     CharacterGrid* grid = page.Grid();

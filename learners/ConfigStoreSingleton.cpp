@@ -13,7 +13,7 @@ ConfigStore& GetConfigStore()
 {
     auto& store = Instance();
     if (!store)
-        store = std::make_unique<XmlConfigStore>("config.xml");
+        store = std::make_unique<XmlConfigStore>("config.xml", []() -> CharacterDatabase& { return GetDatabase(); });
     return *store;
 }
 

@@ -2,7 +2,7 @@
 
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
-#include "MessageBox.h"
+#include "Prompt.h"
 #include "User.h"
 #include "ui_HomePage.h"
 
@@ -12,8 +12,8 @@ constexpr int PageWidthUnits = 197;
 constexpr int PageHeightUnits = 264;
 } // namespace
 
-HomePage::HomePage(CharacterDatabase& database, QWidget* parent)
-    : Page(parent), m_ui(std::make_unique<Ui::HomePage>()), m_database(database)
+HomePage::HomePage(CharacterDatabase& database, Prompt& prompt, QWidget* parent)
+    : Page(parent), m_ui(std::make_unique<Ui::HomePage>()), m_database(database), m_prompt(prompt)
 {
     m_ui->setupUi(this);
     CategoryList()->setAccessibleName(tr("Categories"));
@@ -79,7 +79,7 @@ void HomePage::SetUser(User* user)
                 FillItem(item, i);
             }
         } catch (const ZavorenCommon::DatabaseLoadException& e) {
-            ShowStoreError(this, "Zavoren Database Error", e.what());
+            m_prompt.StoreError(this, "Zavoren Database Error", e.what());
         }
     }
     UpdateButtons();
@@ -93,7 +93,7 @@ void HomePage::RefreshSelectedCategory()
     try {
         FillItem(selected.front(), static_cast<std::uint16_t>(selected.front()->data(0, Qt::UserRole).toUInt()));
     } catch (const ZavorenCommon::DatabaseLoadException& e) {
-        ShowStoreError(this, "Zavoren Database Error", e.what());
+        m_prompt.StoreError(this, "Zavoren Database Error", e.what());
     }
 }
 

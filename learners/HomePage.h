@@ -5,6 +5,7 @@
 #include <memory>
 
 class CharacterDatabase;
+class Prompt;
 class QTreeWidget;
 class QTreeWidgetItem;
 class QLabel;
@@ -20,7 +21,7 @@ class HomePage : public Page {
 public:
     enum Event : quint16 { OpenCategory = 0 };
 
-    explicit HomePage(CharacterDatabase& database, QWidget* parent = nullptr);
+    HomePage(CharacterDatabase& database, Prompt& prompt, QWidget* parent = nullptr);
     ~HomePage() override;
 
     /// The learner whose progress is shown (not owned), or null when none is open.
@@ -46,6 +47,7 @@ private:
 
     std::unique_ptr<Ui::HomePage> m_ui;
     CharacterDatabase& m_database;
+    Prompt& m_prompt;
     User* m_user = nullptr;
     std::uint16_t m_chosenCategory = 0;
 };

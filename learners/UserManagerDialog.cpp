@@ -3,13 +3,14 @@
 #include "AddUserDialog.h"
 #include "ConfigException.h"
 #include "ConfigStore.h"
-#include "MessageBox.h"
+#include "Prompt.h"
 #include "TextRules.h"
 #include "ui_UserManagerDialog.h"
 
 #include <QTimer>
 
-UserManagerDialog::UserManagerDialog(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::UserManagerDialog>())
+UserManagerDialog::UserManagerDialog(ConfigStore& store, Prompt& prompt, QWidget* parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::UserManagerDialog>()), m_store(store), m_prompt(prompt)
 {
     m_ui->setupUi(this);
     UserList()->setAccessibleName(tr("Users"));
@@ -26,14 +27,6 @@ UserManagerDialog::UserManagerDialog(QWidget* parent) : QDialog(parent), m_ui(st
     connect(CloseButton(), &QPushButton::clicked, this, [this] { done(Closed); });
     connect(AddButton(), &QPushButton::clicked, this, &UserManagerDialog::OnAdd);
     connect(DeleteButton(), &QPushButton::clicked, this, &UserManagerDialog::OnDelete);
-    try {
-        m_store = &GetConfigStore();
-    } catch (const ZavorenCommon::ConfigException& e) {
-        ShowStoreError(this, "Zavoren Configuration Error", e.what());
-        // Closing as Cancel once the dialog runs.
-        QTimer::singleShot(0, this, [this] { done(Cancelled); });
-        return;
-    }
     Fill();
 }
 
@@ -69,10 +62,10 @@ void UserManagerDialog::Fill()
 {
     UserList()->clear();
     const QIcon icon(QStringLiteral(":/images/user.png"));
-    for (std::uint16_t i = 0; i < m_store->UserCount(); ++i) {
-        const std::string& name = m_store->UserName(i);
+    for (std::uint16_t i = 0; i < m_store.UserCount(); ++i) {
+        const std::string& name = m_store.UserName(i);
         UserList()->addItem(new QListWidgetItem(icon, QString::fromStdString(name)));
-        if (EqualsIgnoringAsciiCase(name, m_store->CurrentUserName()))
+        if (EqualsIgnoringAsciiCase(name, m_store.CurrentUserName()))
             SelectRow(i);
     }
 }
@@ -113,12 +106,8 @@ void UserManagerDialog::reject()
 
 void UserManagerDialog::OnAdd()
 {
-    if (!m_store)
-        return;
     AddUserDialog dialog(this);
     for (;;) {
-        if (m_addHook)
-            m_addHook(dialog);
         if (dialog.exec() != 1)
             return;
         if (dialog.Name().isEmpty())
@@ -126,19 +115,19 @@ void UserManagerDialog::OnAdd()
         const std::string name = dialog.Name().toStdString();
         if (name.find('\'') != std::string::npos) {
             // The learner file could never find such a name again: say why it is refused.
-            ShowMessage(this, QMessageBox::NoIcon, QStringLiteral("Can't create user"),
+            m_prompt.Ask(this, QMessageBox::NoIcon, QStringLiteral("Can't create user"),
                 QStringLiteral("A user name cannot contain an apostrophe ('). Try another user name"));
             continue;
         }
         bool added = false;
         try {
-            added = m_store->AddUser(name);
+            added = m_store.AddUser(name);
         } catch (const ZavorenCommon::ConfigException& e) {
             emit storeFailed(QString::fromUtf8(e.what()));
             return;
         }
         if (!added) {
-            ShowMessage(this, QMessageBox::NoIcon, QStringLiteral("Can't create user"),
+            m_prompt.Ask(this, QMessageBox::NoIcon, QStringLiteral("Can't create user"),
                 QStringLiteral("User already exists. Try another user name"));
             continue;
         }
@@ -151,10 +140,8 @@ void UserManagerDialog::OnAdd()
 
 void UserManagerDialog::OnDelete()
 {
-    if (!m_store)
-        return;
-    const bool current = EqualsIgnoringAsciiCase(m_selectedUserName, m_store->CurrentUserName());
-    const auto answer = ShowMessage(this, QMessageBox::Question, QStringLiteral("Delete User"),
+    const bool current = EqualsIgnoringAsciiCase(m_selectedUserName, m_store.CurrentUserName());
+    const auto answer = m_prompt.Ask(this, QMessageBox::Question, QStringLiteral("Delete User"),
         current ? QStringLiteral("Delete current user?") : QStringLiteral("Delete user?"),
         QMessageBox::Yes | QMessageBox::No);
     if (answer != QMessageBox::Yes)
@@ -165,7 +152,7 @@ void UserManagerDialog::OnDelete()
     int row = UserList()->row(selected.front());
     bool deleted = false;
     try {
-        deleted = m_store->DeleteUser(m_selectedUserName);
+        deleted = m_store.DeleteUser(m_selectedUserName);
     } catch (const ZavorenCommon::ConfigException& e) {
         emit storeFailed(QString::fromUtf8(e.what()));
         return;

@@ -7,6 +7,7 @@
 #include <string>
 
 class AddUserDialog;
+class Prompt;
 class ConfigStore;
 class QListWidget;
 class QPushButton;
@@ -21,7 +22,8 @@ class UserManagerDialog : public QDialog {
 public:
     enum Result { Open = 1, Cancelled = 2, Closed = 8 };
 
-    explicit UserManagerDialog(QWidget* parent = nullptr);
+    /// Lists and changes the learners of `store`; messages go through `prompt`.
+    UserManagerDialog(ConfigStore& store, Prompt& prompt, QWidget* parent = nullptr);
     ~UserManagerDialog() override;
 
     /// The selected learner's name; empty when none is selected.
@@ -33,8 +35,6 @@ public:
     QPushButton* CloseButton() const;
     /// The button that Enter presses: Open with a selection, otherwise Add.
     QPushButton* DefaultButton() const;
-    /// Test hook: called with the Add dialog each time before it runs.
-    void SetAddDialogHook(std::function<void(AddUserDialog&)> hook) { m_addHook = std::move(hook); }
 
 signals:
     /// The current learner was deleted; whoever shows the learner must drop it.
@@ -54,7 +54,7 @@ private:
     void OnDelete();
 
     std::unique_ptr<Ui::UserManagerDialog> m_ui;
-    ConfigStore* m_store = nullptr;
+    ConfigStore& m_store;
+    Prompt& m_prompt;
     std::string m_selectedUserName;
-    std::function<void(AddUserDialog&)> m_addHook;
 };

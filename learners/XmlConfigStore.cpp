@@ -106,7 +106,12 @@ bool WriteAll(int fd, const std::string& text)
 
 } // namespace
 
-XmlConfigStore::XmlConfigStore(std::string path, CharacterDatabase* database) : m_path(std::move(path))
+XmlConfigStore::XmlConfigStore(std::string path, CharacterDatabase& database)
+    : XmlConfigStore(std::move(path), [&database]() -> CharacterDatabase& { return database; })
+{
+}
+
+XmlConfigStore::XmlConfigStore(std::string path, DatabaseSource database) : m_path(std::move(path))
 {
     try {
         Open(database);
@@ -115,7 +120,7 @@ XmlConfigStore::XmlConfigStore(std::string path, CharacterDatabase* database) : 
     }
 }
 
-void XmlConfigStore::Open(CharacterDatabase* database)
+void XmlConfigStore::Open(const DatabaseSource& database)
 {
     struct stat info { };
     if (::stat(m_path.c_str(), &info) != 0)
@@ -137,7 +142,7 @@ void XmlConfigStore::Open(CharacterDatabase* database)
             node.attribute("encoding") = "UTF-8";
     RemoveStaleTemporaries(m_path);
     try {
-        m_database = database ? database : &GetDatabase();
+        m_database = &database();
     } catch (const ZavorenCommon::DatabaseLoadException& e) {
         throw ConfigException(e.what());
     }

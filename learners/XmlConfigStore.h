@@ -5,6 +5,7 @@
 
 #include <pugixml.hpp>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -16,8 +17,15 @@
 /// memory included, is a ConfigException.
 class XmlConfigStore : public ConfigStore {
 public:
-    /// Opens the file. `database` supplies the category count; null takes the process's database.
-    explicit XmlConfigStore(std::string path = "config.xml", CharacterDatabase* database = nullptr);
+    /// Gives the database whose categories the learners' progress follows; asked for once the
+    /// file has been found readable, and a DatabaseLoadException from it becomes a
+    /// ConfigException with the same message.
+    using DatabaseSource = std::function<CharacterDatabase&()>;
+
+    /// Opens the file.
+    XmlConfigStore(std::string path, DatabaseSource database);
+    /// Opens the file; `database` supplies the category count.
+    XmlConfigStore(std::string path, CharacterDatabase& database);
 
     std::unique_ptr<User> LoadUser(const std::string& name) override;
     bool AddUser(const std::string& name) override;
@@ -35,7 +43,7 @@ public:
     bool SaveFile();
 
 private:
-    void Open(CharacterDatabase* database);
+    void Open(const DatabaseSource& database);
     std::unique_ptr<User> ReadUser(const std::string& name);
     bool WriteUser(User& user);
     bool RewriteInPlace(const std::string& text);

@@ -5,7 +5,7 @@
 #include "CharacterGrid.h"
 #include "DatabaseLoadException.h"
 #include "KanjiInfoDialog.h"
-#include "MessageBox.h"
+#include "Prompt.h"
 #include "ui_CategoryPage.h"
 
 #include <QMenu>
@@ -18,8 +18,9 @@ const char* const LessonHint
 const char* const CategoryComplete = "Category complete";
 } // namespace
 
-CategoryPage::CategoryPage(CharacterDatabase& database, QWidget* parent)
-    : Page(parent), m_ui(std::make_unique<Ui::CategoryPage>()), m_database(database)
+CategoryPage::CategoryPage(CharacterDatabase& database, Prompt& prompt, SeedSource seeds, QWidget* parent)
+    : Page(parent), m_ui(std::make_unique<Ui::CategoryPage>()), m_database(database), m_prompt(prompt),
+      m_seeds(std::move(seeds))
 {
     m_ui->setupUi(this);
     Grid()->setAccessibleName(tr("Characters of the category"));
@@ -105,7 +106,7 @@ bool CategoryPage::SetCategory(std::uint16_t categoryId, CategoryProgress* progr
         m_category = m_database.LoadCategory(categoryId);
     } catch (const ZavorenCommon::DatabaseLoadException& e) {
         m_category.reset();
-        ShowStoreError(this, "Zavoren Database Error", e.what());
+        m_prompt.StoreError(this, "Zavoren Database Error", e.what());
         Refresh();
         return false;
     }
@@ -164,12 +165,9 @@ void CategoryPage::ShowInfo(CharacterGrid* grid)
     const std::vector<std::uint16_t> selected = grid->SelectedCodes();
     if (selected.empty())
         return;
-    KanjiInfoDialog dialog(m_database, this);
-    if (dialog.SetCode(selected.front())) {
-        if (m_infoHook)
-            m_infoHook(dialog);
+    KanjiInfoDialog dialog(m_database, m_prompt, this);
+    if (dialog.SetCode(selected.front()))
         dialog.exec();
-    }
     grid->setFocus();
     RefreshButtons();
 }
@@ -187,7 +185,7 @@ void CategoryPage::OnRetest()
 {
     if (!m_progress || !RetestButton()->isEnabled())
         return;
-    m_random.SeedFromClock();
+    m_random.Seed(m_seeds());
     ::Retest(*m_progress, m_random);
     Refresh();
     emit pageEvent(Test, 0);

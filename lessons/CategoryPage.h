@@ -12,6 +12,7 @@
 #include <vector>
 
 class CharacterDatabase;
+class Prompt;
 class CharacterGrid;
 class QLabel;
 class QMenu;
@@ -29,7 +30,8 @@ public:
     enum Event : quint16 { Lesson = 0, Learn = 1, Test = 2, Back = 3 };
     enum Group { LearnedGroup = 0, ToBeLearnedGroup = 1 };
 
-    explicit CategoryPage(CharacterDatabase& database, QWidget* parent = nullptr);
+    /// Messages go through `prompt`; random draws are seeded from `seeds`.
+    CategoryPage(CharacterDatabase& database, Prompt& prompt, SeedSource seeds, QWidget* parent = nullptr);
     ~CategoryPage() override;
 
     /// Shows a category with the learner's record of it (not owned; kept up to date here for
@@ -53,8 +55,6 @@ public:
     QMenu* UntestedMenu() const { return m_untestedMenu; }
     /// Opens the Kanji Info dialog for the first selected character of `grid` (modal).
     void ShowInfo(CharacterGrid* grid);
-    /// Test hook: called with each Kanji Info dialog before it runs.
-    void SetInfoDialogHook(std::function<void(QDialog&)> hook) { m_infoHook = std::move(hook); }
 
 protected:
     void Cancel() override;
@@ -69,6 +69,8 @@ private:
 
     std::unique_ptr<Ui::CategoryPage> m_ui;
     CharacterDatabase& m_database;
+    Prompt& m_prompt;
+    SeedSource m_seeds;
     std::unique_ptr<Category> m_category;
     CategoryProgress* m_progress = nullptr;
     QMenu* m_learnedMenu = nullptr;
@@ -77,5 +79,4 @@ private:
     QAction* m_learnAction = nullptr;
     QHash<std::uint16_t, std::shared_ptr<Element>> m_glyphs;
     Random15 m_random;
-    std::function<void(QDialog&)> m_infoHook;
 };

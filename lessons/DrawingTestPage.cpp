@@ -5,13 +5,13 @@
 #include "DisplayCanvas.h"
 #include "GlyphLoading.h"
 #include "InputCanvas.h"
-#include "MessageBox.h"
 #include "Page.h"
+#include "Prompt.h"
 #include "WritingCursor.h"
 #include "ui_DrawingTestPage.h"
 
-DrawingTestPage::DrawingTestPage(CharacterDatabase& database, QWidget* parent)
-    : QuestionPage(parent), m_ui(std::make_unique<Ui::DrawingTestPage>()), m_database(database)
+DrawingTestPage::DrawingTestPage(CharacterDatabase& database, Prompt& prompt, QWidget* parent)
+    : QuestionPage(parent), m_ui(std::make_unique<Ui::DrawingTestPage>()), m_database(database), m_prompt(prompt)
 {
     m_ui->setupUi(this);
     Display()->MakeSquare();
@@ -49,7 +49,7 @@ void DrawingTestPage::SetCharacter(const Character* character)
 {
     m_character = character;
     const QRect client = Input()->ClientRect();
-    m_quiz.Start(character ? LoadGlyphOrReport(m_database, character->ElementId(), this) : nullptr,
+    m_quiz.Start(character ? LoadGlyphOrReport(m_database, character->ElementId(), m_prompt, this) : nullptr,
         CanvasRect{0, 0, static_cast<std::uint16_t>(client.width()), static_cast<std::uint16_t>(client.height())});
     OnReadingLabel()->setText(TextOrNotAvailable(character ? character->OnReading() : nullptr));
     KunReadingLabel()->setText(TextOrNotAvailable(character ? character->KunReading() : nullptr));

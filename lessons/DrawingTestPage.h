@@ -7,6 +7,7 @@
 #include <memory>
 
 class CharacterDatabase;
+class Prompt;
 class DisplayCanvas;
 class InputCanvas;
 class QLabel;
@@ -20,7 +21,7 @@ class DrawingTestPage;
 class DrawingTestPage : public QuestionPage {
     Q_OBJECT
 public:
-    explicit DrawingTestPage(CharacterDatabase& database, QWidget* parent = nullptr);
+    DrawingTestPage(CharacterDatabase& database, Prompt& prompt, QWidget* parent = nullptr);
     ~DrawingTestPage() override;
 
     void SetCharacter(const Character* character) override;
@@ -43,6 +44,7 @@ private:
 
     std::unique_ptr<Ui::DrawingTestPage> m_ui;
     CharacterDatabase& m_database;
+    Prompt& m_prompt;
     const Character* m_character = nullptr;
     WritingQuiz m_quiz;
 };

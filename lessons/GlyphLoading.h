@@ -7,15 +7,18 @@
 #include <memory>
 
 class CharacterDatabase;
+class Prompt;
 class QWidget;
 
 /// A character's glyph element, with at least one form; null after the "Zavoren Database
-/// Error" box (owned by `parent`) when it cannot be read.
-std::unique_ptr<Element> LoadGlyphOrReport(CharacterDatabase& database, std::uint16_t elementId, QWidget* parent);
+/// Error" message (owned by `parent`) through `prompt` when it cannot be read.
+std::unique_ptr<Element> LoadGlyphOrReport(
+    CharacterDatabase& database, std::uint16_t elementId, Prompt& prompt, QWidget* parent);
 
 /// A character and its glyph; both null after the error box when either cannot be read.
 struct CharacterWithGlyph {
     std::unique_ptr<Character> character;
     std::unique_ptr<Element> glyph;
 };
-CharacterWithGlyph LoadCharacterOrReport(CharacterDatabase& database, std::uint16_t code, QWidget* parent);
+CharacterWithGlyph LoadCharacterOrReport(
+    CharacterDatabase& database, std::uint16_t code, Prompt& prompt, QWidget* parent);

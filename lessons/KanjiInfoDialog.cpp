@@ -4,12 +4,12 @@
 #include "DatabaseLoadException.h"
 #include "DisplayCanvas.h"
 #include "GlyphLoading.h"
-#include "MessageBox.h"
 #include "Page.h"
+#include "Prompt.h"
 #include "ui_KanjiInfoDialog.h"
 
-KanjiInfoDialog::KanjiInfoDialog(CharacterDatabase& database, QWidget* parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::KanjiInfoDialog>()), m_database(database)
+KanjiInfoDialog::KanjiInfoDialog(CharacterDatabase& database, Prompt& prompt, QWidget* parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::KanjiInfoDialog>()), m_database(database), m_prompt(prompt)
 {
     m_ui->setupUi(this);
     Display()->MakeSquare();
@@ -48,7 +48,7 @@ QPushButton* KanjiInfoDialog::CloseButton() const
 
 bool KanjiInfoDialog::SetCode(std::uint16_t code)
 {
-    CharacterWithGlyph loaded = LoadCharacterOrReport(m_database, code, parentWidget());
+    CharacterWithGlyph loaded = LoadCharacterOrReport(m_database, code, m_prompt, parentWidget());
     if (!loaded.glyph)
         return false;
     m_character = std::move(loaded.character);

@@ -8,6 +8,7 @@
 #include <memory>
 
 class CharacterDatabase;
+class Prompt;
 class DisplayCanvas;
 class QLabel;
 namespace Ui {
@@ -21,7 +22,7 @@ class KanjiInfoDialog : public QDialog {
 public:
     enum Result { Cancelled = 2, Closed = 8 };
 
-    explicit KanjiInfoDialog(CharacterDatabase& database, QWidget* parent = nullptr);
+    KanjiInfoDialog(CharacterDatabase& database, Prompt& prompt, QWidget* parent = nullptr);
     ~KanjiInfoDialog() override;
 
     /// Loads the character and its glyph; false (after an error box) when the database fails.
@@ -41,6 +42,7 @@ protected:
 private:
     std::unique_ptr<Ui::KanjiInfoDialog> m_ui;
     CharacterDatabase& m_database;
+    Prompt& m_prompt;
     std::unique_ptr<Character> m_character;
     std::unique_ptr<Element> m_glyph;
 };

@@ -5,7 +5,7 @@
 #include "DisplayCanvas.h"
 #include "GlyphLoading.h"
 #include "InputCanvas.h"
-#include "MessageBox.h"
+#include "Prompt.h"
 #include "WritingCursor.h"
 #include "ui_LessonPage.h"
 
@@ -24,8 +24,8 @@ void SetCaption(QCheckBox* box, const char* text)
 
 } // namespace
 
-LessonPage::LessonPage(CharacterDatabase& database, QWidget* parent)
-    : Page(parent), m_ui(std::make_unique<Ui::LessonPage>()), m_database(database)
+LessonPage::LessonPage(CharacterDatabase& database, Prompt& prompt, QWidget* parent)
+    : Page(parent), m_ui(std::make_unique<Ui::LessonPage>()), m_database(database), m_prompt(prompt)
 {
     m_ui->setupUi(this);
     Display()->MakeSquare();
@@ -133,7 +133,7 @@ void LessonPage::LoadCharacter()
         Input()->Clear();
         return;
     }
-    CharacterWithGlyph loaded = LoadCharacterOrReport(m_database, *code, this);
+    CharacterWithGlyph loaded = LoadCharacterOrReport(m_database, *code, m_prompt, this);
     if (!loaded.glyph)
         return;
     m_character = std::move(loaded.character);

@@ -10,6 +10,7 @@
 #include <vector>
 
 class CharacterDatabase;
+class Prompt;
 class DisplayCanvas;
 class InputCanvas;
 class QCheckBox;
@@ -25,7 +26,7 @@ class LessonPage : public Page {
 public:
     enum Event : quint16 { Finished = 0, Aborted = 1 };
 
-    explicit LessonPage(CharacterDatabase& database, QWidget* parent = nullptr);
+    LessonPage(CharacterDatabase& database, Prompt& prompt, QWidget* parent = nullptr);
     ~LessonPage() override;
 
     /// Starts a lesson on these character codes.
@@ -60,6 +61,7 @@ private:
 
     std::unique_ptr<Ui::LessonPage> m_ui;
     CharacterDatabase& m_database;
+    Prompt& m_prompt;
     std::unique_ptr<Character> m_character;
     WritingQuiz m_quiz;
     LessonSession m_session;

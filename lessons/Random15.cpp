@@ -2,14 +2,7 @@
 
 #include <ctime>
 
-void Random15::SeedFromClock()
+std::uint32_t ClockSeed()
 {
-    const std::uint32_t overridden = TestSeedOverride();
-    Seed(overridden ? overridden : static_cast<std::uint32_t>(std::time(nullptr)));
-}
-
-std::uint32_t& TestSeedOverride()
-{
-    static std::uint32_t seed = 0;
-    return seed;
+    return static_cast<std::uint32_t>(std::time(nullptr));
 }

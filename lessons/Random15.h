@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 /// The program's pseudo-random generator: results 0..32767, like the classic C library rand()
 /// (seed * 214013 + 2531011, bits 16..30), so that lo + floor(r * (hi - lo + 1) / 32768) is a
@@ -12,8 +13,6 @@ public:
     explicit Random15(std::uint32_t seed = 1) : m_state(seed) { }
     /// Restarts the sequence.
     void Seed(std::uint32_t seed) { m_state = seed; }
-    /// Seeds with the current time in seconds.
-    void SeedFromClock();
     /// The next value, 0..32767.
     int Next()
     {
@@ -30,5 +29,8 @@ private:
     std::uint32_t m_state;
 };
 
-/// Seed that the pages use; tests replace it to make draws repeatable (0 means the clock).
-std::uint32_t& TestSeedOverride();
+/// Where the pages take a fresh seed right before they draw (the clock in the program).
+using SeedSource = std::function<std::uint32_t()>;
+
+/// The current time in seconds, as a seed.
+std::uint32_t ClockSeed();

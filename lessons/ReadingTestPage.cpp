@@ -4,8 +4,8 @@
 #include "DatabaseLoadException.h"
 #include "DisplayCanvas.h"
 #include "GlyphLoading.h"
-#include "MessageBox.h"
 #include "Page.h"
+#include "Prompt.h"
 #include "ui_ReadingTestPage.h"
 
 namespace {
@@ -13,8 +13,9 @@ namespace {
 constexpr int ChoiceWidth = 190;
 } // namespace
 
-ReadingTestPage::ReadingTestPage(CharacterDatabase& database, QWidget* parent)
-    : QuestionPage(parent), m_ui(std::make_unique<Ui::ReadingTestPage>()), m_database(database)
+ReadingTestPage::ReadingTestPage(CharacterDatabase& database, Prompt& prompt, SeedSource seeds, QWidget* parent)
+    : QuestionPage(parent), m_ui(std::make_unique<Ui::ReadingTestPage>()), m_database(database), m_prompt(prompt),
+      m_seeds(std::move(seeds))
 {
     m_ui->setupUi(this);
     Display()->MakeSquare();
@@ -55,7 +56,7 @@ void ReadingTestPage::SetCharacter(const Character* character)
     m_glyph.reset();
     Display()->StopAnimation();
     if (character) {
-        m_glyph = LoadGlyphOrReport(m_database, character->ElementId(), this);
+        m_glyph = LoadGlyphOrReport(m_database, character->ElementId(), m_prompt, this);
         OnReadingLabel()->setText(QStringLiteral("?"));
         KunReadingLabel()->setText(QStringLiteral("?"));
         MeaningLabel()->setText(TextOrNotAvailable(character->Meaning()));
@@ -63,12 +64,12 @@ void ReadingTestPage::SetCharacter(const Character* character)
             Display()->ShowGlyph(m_glyph->GetForm(0));
         else
             Display()->Wipe();
-        m_random.SeedFromClock();
+        m_random.Seed(m_seeds());
         try {
             m_choices = ReadingChoices::Build(m_database, *character, m_random);
         } catch (const ZavorenCommon::DatabaseLoadException& e) {
             m_choices = {};
-            ShowStoreError(this, "Zavoren Database Error", e.what());
+            m_prompt.StoreError(this, "Zavoren Database Error", e.what());
         }
     } else {
         m_choices = {};

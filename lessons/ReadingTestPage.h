@@ -10,6 +10,7 @@
 #include <memory>
 
 class CharacterDatabase;
+class Prompt;
 class DisplayCanvas;
 class QLabel;
 class QRadioButton;
@@ -22,7 +23,8 @@ class ReadingTestPage;
 class ReadingTestPage : public QuestionPage {
     Q_OBJECT
 public:
-    explicit ReadingTestPage(CharacterDatabase& database, QWidget* parent = nullptr);
+    /// Messages go through `prompt`; random draws are seeded from `seeds`.
+    ReadingTestPage(CharacterDatabase& database, Prompt& prompt, SeedSource seeds, QWidget* parent = nullptr);
     ~ReadingTestPage() override;
 
     void SetCharacter(const Character* character) override;
@@ -43,6 +45,8 @@ private:
 
     std::unique_ptr<Ui::ReadingTestPage> m_ui;
     CharacterDatabase& m_database;
+    Prompt& m_prompt;
+    SeedSource m_seeds;
     const Character* m_character = nullptr;
     std::unique_ptr<Element> m_glyph;
     std::array<QRadioButton*, 5> m_onButtons{};

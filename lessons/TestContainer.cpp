@@ -3,16 +3,17 @@
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
 #include "DrawingTestPage.h"
-#include "MessageBox.h"
+#include "Prompt.h"
 #include "ReadingTestPage.h"
 #include "ui_TestContainer.h"
 
-TestContainer::TestContainer(CharacterDatabase& database, QWidget* parent)
-    : Page(parent), m_ui(std::make_unique<Ui::TestContainer>()), m_database(database)
+TestContainer::TestContainer(CharacterDatabase& database, Prompt& prompt, SeedSource seeds, QWidget* parent)
+    : Page(parent), m_ui(std::make_unique<Ui::TestContainer>()), m_database(database), m_prompt(prompt),
+      m_seeds(std::move(seeds))
 {
     m_ui->setupUi(this);
-    m_reading = new ReadingTestPage(database, m_ui->questions);
-    m_drawing = new DrawingTestPage(database, m_ui->questions);
+    m_reading = new ReadingTestPage(database, prompt, m_seeds, m_ui->questions);
+    m_drawing = new DrawingTestPage(database, prompt, m_ui->questions);
     m_ui->questions->addWidget(new QWidget(m_ui->questions)); // shown while no question is asked
     m_ui->questions->addWidget(m_reading);
     m_ui->questions->addWidget(m_drawing);
@@ -66,7 +67,7 @@ void TestContainer::AskQuestion()
         m_character.reset();
         m_character = m_database.LoadCharacter(*code);
     } catch (const ZavorenCommon::DatabaseLoadException& e) {
-        ShowStoreError(this, "Zavoren Database Error", e.what());
+        m_prompt.StoreError(this, "Zavoren Database Error", e.what());
     }
     QuestionPage* page = m_schedule.CurrentPage() == Reading ? static_cast<QuestionPage*>(m_reading)
                                                              : static_cast<QuestionPage*>(m_drawing);

@@ -2,12 +2,14 @@
 
 #include "Character.h"
 #include "Page.h"
+#include "Random15.h"
 #include "TestSchedule.h"
 
 #include <memory>
 #include <vector>
 
 class CharacterDatabase;
+class Prompt;
 class DrawingTestPage;
 class QuestionPage;
 class ReadingTestPage;
@@ -24,7 +26,8 @@ public:
     enum Event : quint16 { Finished = 0, Aborted = 1 };
     enum PageIndex : std::uint16_t { Reading = 0, Drawing = 1 };
 
-    explicit TestContainer(CharacterDatabase& database, QWidget* parent = nullptr);
+    /// Messages go through `prompt`; random draws are seeded from `seeds`.
+    TestContainer(CharacterDatabase& database, Prompt& prompt, SeedSource seeds, QWidget* parent = nullptr);
     ~TestContainer() override;
 
     /// Starts a test of these codes.
@@ -53,6 +56,8 @@ private:
 
     std::unique_ptr<Ui::TestContainer> m_ui;
     CharacterDatabase& m_database;
+    Prompt& m_prompt;
+    SeedSource m_seeds;
     ReadingTestPage* m_reading = nullptr;
     DrawingTestPage* m_drawing = nullptr;
     TestSchedule m_schedule{2};

@@ -8,7 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-AboutDialog::AboutDialog(QWidget* owner) : QDialog(owner)
+AboutDialog::AboutDialog(UrlOpener open, QWidget* owner) : QDialog(owner)
 {
     setWindowTitle(tr("About Zavoren!"));
     setModal(true);
@@ -22,9 +22,9 @@ AboutDialog::AboutDialog(QWidget* owner) : QDialog(owner)
     m_version = new QLabel(QStringLiteral("v1.0"), this);
     m_version->setText(VersionText());
     auto* notice = new QLabel(tr("Copyright \u00A9 Quelmar Software. Teaches kanji by writing."), this);
-    m_site = new HyperlinkLabel(this);
+    m_site = new HyperlinkLabel(open, this);
     m_site->SetLink(QString::fromLatin1(MakerSite));
-    m_support = new HyperlinkLabel(this);
+    m_support = new HyperlinkLabel(open, this);
     m_support->SetLink(tr("Support"), QString::fromLatin1(SupportAddress));
     auto* credits = new QLabel(
         tr("Stroke data: KanjiVG, \u00A9 Ulrich Apel, CC BY-SA 3.0.\n"

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UrlOpener.h"
+
 #include <QDialog>
 
 class HyperlinkLabel;
@@ -10,7 +12,8 @@ class QPushButton;
 class AboutDialog : public QDialog {
     Q_OBJECT
 public:
-    explicit AboutDialog(QWidget* owner = nullptr);
+    /// The links open through `open`.
+    explicit AboutDialog(UrlOpener open, QWidget* owner = nullptr);
 
     QLabel* VersionLabel() const { return m_version; }
     HyperlinkLabel* SiteLink() const { return m_site; }

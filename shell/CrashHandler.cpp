@@ -1,6 +1,6 @@
 #include "CrashHandler.h"
 
-#include "MessageBox.h"
+#include "Prompt.h"
 
 #include <QApplication>
 #include <QDir>
@@ -31,7 +31,7 @@ constexpr int FatalSignals[] = {SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT};
 constexpr int MaxFrames = 128;
 
 /// Set up before any fault, so that the handlers allocate nothing.
-char g_programPath[4096];
+char g_helperPath[4096];
 std::atomic<bool> g_handling{false};
 char g_alternateStack[64 * 1024];
 
@@ -123,8 +123,8 @@ int StartHelper(pid_t& helper)
     if (helper == 0) {
         ::dup2(fds[0], STDIN_FILENO);
         char mode[] = "--crash-report";
-        char* argv[] = {g_programPath, mode, nullptr};
-        ::execve(g_programPath, argv, environ);
+        char* argv[] = {g_helperPath, mode, nullptr};
+        ::execve(g_helperPath, argv, environ);
         ::_exit(127);
     }
     ::close(fds[0]);
@@ -166,8 +166,13 @@ void OnFatalSignal(int signal, siginfo_t* info, void*)
             FinishReport(fd, helper);
         }
     }
-    // End the process as the signal would have.
+    // End the process as the signal would have: default action, and the signal unblocked (it is
+    // blocked while its handler runs, so raising it alone would only leave it pending).
     ::signal(signal, SIG_DFL);
+    sigset_t only;
+    sigemptyset(&only);
+    sigaddset(&only, signal);
+    ::sigprocmask(SIG_UNBLOCK, &only, nullptr);
     ::raise(signal);
     ::_exit(128 + signal);
 }
@@ -209,14 +214,14 @@ void OnFatalSignal(int signal, siginfo_t* info, void*)
 
 } // namespace
 
-void InstallCrashHandler(const char* programPath)
+void InstallCrashHandler(const char* helper)
 {
-    // The helper is this same executable.
-    const ssize_t n = ::readlink("/proc/self/exe", g_programPath, sizeof g_programPath - 1);
-    if (n > 0)
-        g_programPath[n] = '\0';
-    else
-        std::snprintf(g_programPath, sizeof g_programPath, "%s", programPath);
+    if (helper) {
+        std::snprintf(g_helperPath, sizeof g_helperPath, "%s", helper);
+    } else {
+        const ssize_t n = ::readlink("/proc/self/exe", g_helperPath, sizeof g_helperPath - 1);
+        g_helperPath[n > 0 ? n : 0] = '\0';
+    }
     // backtrace() loads its unwinder on first use; do that now, not inside a handler.
     void* warmUp[2];
     ::backtrace(warmUp, 2);
@@ -240,8 +245,6 @@ QString CrashReportFileName(const QDateTime& localTime)
 
 QString CrashReportFolder()
 {
-    if (const char* folder = std::getenv("ZAVOREN_CRASH_FOLDER"); folder && *folder)
-        return QString::fromUtf8(folder);
     return QCoreApplication::applicationDirPath();
 }
 
@@ -276,28 +279,34 @@ QByteArray DemangleStackTrace(const QByteArray& report)
     return out;
 }
 
-int RunCrashReportHelper()
+int RunCrashReportHelper(Prompt& prompt, const QString& folder)
 {
     // Everything the crashed process sent first, so that it is never left blocked writing.
     QFile input;
     QByteArray report;
     if (input.open(stdin, QIODevice::ReadOnly))
-        report = DemangleStackTrace(input.readAll());
+        report = input.readAll();
+    return AskAndWriteCrashReport(prompt, folder, report);
+}
+
+int AskAndWriteCrashReport(Prompt& prompt, const QString& folder, const QByteArray& captured)
+{
+    const QByteArray report = DemangleStackTrace(captured);
     const QDateTime now = QDateTime::currentDateTime();
     const QString question
         = QStringLiteral("Oops...\r\nFatal error in Zavoren.\r\n\r\nDo you want to get minidump for it?");
     // The box shows the line breaks as line breaks.
     QString shown = question;
     shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    const auto answer = ShowMessage(nullptr, QMessageBox::Critical, QStringLiteral("Unhandled Exception"), shown,
+    const auto answer = prompt.Ask(nullptr, QMessageBox::Critical, QStringLiteral("Unhandled Exception"), shown,
         QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
     if (answer != QMessageBox::Yes)
         return 0;
-    if (!report.isEmpty() && WriteCrashReport(CrashReportFolder(), now, report))
-        ShowMessage(nullptr, QMessageBox::Information, QStringLiteral("MiniDump"),
+    if (!report.isEmpty() && WriteCrashReport(folder, now, report))
+        prompt.Ask(nullptr, QMessageBox::Information, QStringLiteral("MiniDump"),
             QStringLiteral("Minidump successfuly created in application folder."));
     else
-        ShowMessage(
+        prompt.Ask(
             nullptr, QMessageBox::Critical, QStringLiteral("Error"), QStringLiteral("Unable to generate minidump."));
     return 0;
 }

@@ -2,26 +2,25 @@
 
 #include "AboutDialog.h"
 
-#include <QDesktopServices>
 #include <QFileInfo>
 #include <QUrl>
 
-bool OpenHelpContents()
+bool OpenHelpContents(const UrlOpener& open)
 {
     const QFileInfo document(QStringLiteral("Zavoren.html"));
     if (!document.isFile())
         return false;
-    return QDesktopServices::openUrl(QUrl::fromLocalFile(document.absoluteFilePath()));
+    return open(QUrl::fromLocalFile(document.absoluteFilePath()));
 }
 
-void OpenMakerSite()
+void OpenMakerSite(const UrlOpener& open)
 {
-    QDesktopServices::openUrl(QUrl(QString::fromLatin1(MakerSite)));
+    open(QUrl(QString::fromLatin1(MakerSite)));
 }
 
-void ShowAbout(QWidget* owner)
+void ShowAbout(const UrlOpener& open, QWidget* owner)
 {
-    AboutDialog about(owner);
+    AboutDialog about(open, owner);
     about.exec();
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UrlOpener.h"
+
 #include <QString>
 
 class QWidget;
@@ -8,12 +10,12 @@ class QWidget;
 inline const char* const MakerSite = "https://quelmar.example.org/zavoren";
 inline const char* const SupportAddress = "mailto:support@quelmar.example.org";
 
-/// Help > Contents: opens "Zavoren.html" from the current folder in the desktop's viewer. A
-/// missing document does nothing. Returns whether something was opened.
-bool OpenHelpContents();
+/// Help > Contents: opens "Zavoren.html" from the current folder through `open`. A missing
+/// document does nothing. Returns whether something was opened.
+bool OpenHelpContents(const UrlOpener& open);
 /// Help > Links > Quelmar Software site.
-void OpenMakerSite();
-/// Help > About: the modal About box, centred over `owner`.
-void ShowAbout(QWidget* owner);
+void OpenMakerSite(const UrlOpener& open);
+/// Help > About: the modal About box, centred over `owner`; its links open through `open`.
+void ShowAbout(const UrlOpener& open, QWidget* owner);
 /// "v1.2.3" from the version compiled in, or "unknown version".
 QString VersionText();

@@ -5,15 +5,12 @@
 #include <QMouseEvent>
 #include <QUrl>
 
-namespace {
-std::function<bool(const QUrl&)>& Opener()
+bool OpenWithDesktop(const QUrl& url)
 {
-    static std::function<bool(const QUrl&)> opener = [](const QUrl& url) { return QDesktopServices::openUrl(url); };
-    return opener;
+    return QDesktopServices::openUrl(url);
 }
-} // namespace
 
-HyperlinkLabel::HyperlinkLabel(QWidget* parent) : QLabel(parent)
+HyperlinkLabel::HyperlinkLabel(UrlOpener open, QWidget* parent) : QLabel(parent), m_open(std::move(open))
 {
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::StrongFocus);
@@ -21,11 +18,6 @@ HyperlinkLabel::HyperlinkLabel(QWidget* parent) : QLabel(parent)
     underlined.setUnderline(true);
     setFont(underlined);
     UpdateLook();
-}
-
-void HyperlinkLabel::SetOpener(std::function<bool(const QUrl&)> opener)
-{
-    Opener() = std::move(opener);
 }
 
 void HyperlinkLabel::SetLink(const QString& caption, const QString& target)
@@ -53,7 +45,7 @@ void HyperlinkLabel::UpdateLook()
 
 void HyperlinkLabel::Open()
 {
-    if (Opener()(QUrl(Target()))) {
+    if (m_open(QUrl(Target()))) {
         m_visited = true;
         UpdateLook();
         repaint();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UrlOpener.h"
+
 #include <QLabel>
 
 /// A link in a dialog: underlined text in the link colour (blue), purple once visited for the
@@ -8,7 +10,8 @@
 class HyperlinkLabel : public QLabel {
     Q_OBJECT
 public:
-    explicit HyperlinkLabel(QWidget* parent = nullptr);
+    /// A click opens the target through `open`.
+    explicit HyperlinkLabel(UrlOpener open, QWidget* parent = nullptr);
 
     /// Sets the caption and the address opened on click (the caption when `target` is empty).
     void SetLink(const QString& caption, const QString& target = QString());
@@ -18,8 +21,6 @@ public:
     bool Visited() const { return m_visited; }
     /// The colour the caption is painted in now.
     QColor CurrentColour() const { return m_visited ? m_visitedColour : m_linkColour; }
-    /// How the target is opened (the desktop by default; tests replace it).
-    static void SetOpener(std::function<bool(const QUrl&)> opener);
 
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -29,6 +30,7 @@ private:
     void Open();
     void UpdateLook();
 
+    UrlOpener m_open;
     QString m_target;
     bool m_visited = false;
     QColor m_linkColour{0, 0, 255};

@@ -8,8 +8,8 @@
 #include "HelpActions.h"
 #include "HomePage.h"
 #include "LessonPage.h"
-#include "MessageBox.h"
 #include "ProgressRecorder.h"
+#include "Prompt.h"
 #include "TestContainer.h"
 #include "UserManagerDialog.h"
 
@@ -49,8 +49,10 @@ const QKeySequence IgnoredKeys[] = {
 
 } // namespace
 
-MainWindow::MainWindow(CharacterDatabase& database, ConfigStore& store, QWidget* parent)
-    : QMainWindow(parent), m_database(database), m_store(store)
+MainWindow::MainWindow(
+    CharacterDatabase& database, ConfigStore& store, Prompt& prompt, SeedSource seeds, UrlOpener open, QWidget* parent)
+    : QMainWindow(parent), m_database(database), m_store(store), m_prompt(prompt), m_seeds(std::move(seeds)),
+      m_open(std::move(open))
 {
     setObjectName(QStringLiteral("Zavoren Mainframe Class"));
     setWindowTitle(QStringLiteral("Zavoren!"));
@@ -58,10 +60,10 @@ MainWindow::MainWindow(CharacterDatabase& database, ConfigStore& store, QWidget*
     BuildMenu();
     m_pageArea = new QWidget(this);
     setCentralWidget(m_pageArea);
-    m_home = new HomePage(database, m_pageArea);
-    m_lesson = new LessonPage(database, m_pageArea);
-    m_test = new TestContainer(database, m_pageArea);
-    m_category = new CategoryPage(database, m_pageArea);
+    m_home = new HomePage(database, prompt, m_pageArea);
+    m_lesson = new LessonPage(database, prompt, m_pageArea);
+    m_test = new TestContainer(database, prompt, m_seeds, m_pageArea);
+    m_category = new CategoryPage(database, prompt, m_seeds, m_pageArea);
     for (Page* page : {static_cast<Page*>(m_home), static_cast<Page*>(m_lesson), static_cast<Page*>(m_test),
              static_cast<Page*>(m_category)}) {
         page->adjustSize();
@@ -87,12 +89,12 @@ void MainWindow::BuildMenu()
     file->addSeparator();
     m_exitAction = file->addAction(QStringLiteral("Exit"), this, &QWidget::close);
     QMenu* help = menuBar()->addMenu(tr("&Help"));
-    m_contentsAction = help->addAction(QStringLiteral("Contents"), this, [] { OpenHelpContents(); });
+    m_contentsAction = help->addAction(QStringLiteral("Contents"), this, [this] { OpenHelpContents(m_open); });
     QMenu* links = help->addMenu(QStringLiteral("Links"));
-    m_siteAction = links->addAction(QStringLiteral("Quelmar Software site"), this, [] { OpenMakerSite(); });
+    m_siteAction = links->addAction(QStringLiteral("Quelmar Software site"), this, [this] { OpenMakerSite(m_open); });
     m_siteAction->setStatusTip(QStringLiteral("Open Quelmar Software web site"));
     help->addSeparator();
-    m_aboutAction = help->addAction(QStringLiteral("About"), this, [this] { ShowAbout(this); });
+    m_aboutAction = help->addAction(QStringLiteral("About"), this, [this] { ShowAbout(m_open, this); });
     m_aboutAction->setStatusTip(QStringLiteral("About Zavoren"));
 }
 
@@ -105,19 +107,17 @@ CategoryProgress* MainWindow::CurrentCategory() const
 
 void MainWindow::ReportStoreError(const char* message)
 {
-    ShowStoreError(this, ConfigErrorTitle, message);
+    m_prompt.StoreError(this, ConfigErrorTitle, message);
     QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }
 
 int MainWindow::RunUserManager()
 {
     QWidget* owner = QApplication::activeWindow();
-    UserManagerDialog manager(owner && owner->isVisible() ? owner : (isVisible() ? this : nullptr));
+    UserManagerDialog manager(m_store, m_prompt, owner && owner->isVisible() ? owner : (isVisible() ? this : nullptr));
     connect(&manager, &UserManagerDialog::currentUserDeleted, this, [this] { SetLearner(nullptr); });
     connect(&manager, &UserManagerDialog::storeFailed, this,
         [this](const QString& message) { ReportStoreError(message.toUtf8().constData()); });
-    if (m_managerHook)
-        m_managerHook(manager);
     const int result = manager.exec();
     m_managerChoice = manager.SelectedUserName();
     return result;
@@ -136,7 +136,7 @@ bool MainWindow::ChooseLearnerAtStart()
             m_chosenAtStart = m_store.LoadUser(m_managerChoice);
         }
     } catch (const ConfigException& e) {
-        ShowStoreError(nullptr, ConfigErrorTitle, e.what());
+        m_prompt.StoreError(nullptr, ConfigErrorTitle, e.what());
         return false;
     }
     // Sized to the home page, centred; a stored position wins.
@@ -268,7 +268,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         try {
             m_store.SaveUser(*m_learner);
         } catch (const ConfigException& e) {
-            ShowStoreError(this, ConfigErrorTitle, e.what());
+            m_prompt.StoreError(this, ConfigErrorTitle, e.what());
         }
     }
     SavePlacement();

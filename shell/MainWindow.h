@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Random15.h"
+#include "UrlOpener.h"
 #include "User.h"
 
 #include <QMainWindow>
@@ -13,6 +15,7 @@ class ConfigStore;
 class HomePage;
 class LessonPage;
 class Page;
+class Prompt;
 class TestContainer;
 class UserManagerDialog;
 
@@ -22,7 +25,10 @@ class UserManagerDialog;
 class MainWindow : public QMainWindow {
     Q_OBJECT
 public:
-    MainWindow(CharacterDatabase& database, ConfigStore& store, QWidget* parent = nullptr);
+    /// Messages go through `prompt`, random draws are seeded from `seeds`, help and links open
+    /// through `open`.
+    MainWindow(CharacterDatabase& database, ConfigStore& store, Prompt& prompt, SeedSource seeds, UrlOpener open,
+        QWidget* parent = nullptr);
     ~MainWindow() override;
 
     /// Chooses the learner to open: the recorded current one, else the only one, else the User
@@ -51,8 +57,6 @@ public:
     User* Learner() const { return m_learner.get(); }
     /// The learner's record of the opened category, or null.
     CategoryProgress* CurrentCategory() const;
-    /// Test hook: called with the User Manager each time before it runs.
-    void SetUserManagerHook(std::function<void(UserManagerDialog&)> hook) { m_managerHook = std::move(hook); }
     /// The window's menu actions, for tests and accessibility.
     QAction* UsersAction() const { return m_usersAction; }
     QAction* ExitAction() const { return m_exitAction; }
@@ -77,6 +81,9 @@ private:
 
     CharacterDatabase& m_database;
     ConfigStore& m_store;
+    Prompt& m_prompt;
+    SeedSource m_seeds;
+    UrlOpener m_open;
     QWidget* m_pageArea = nullptr;
     HomePage* m_home = nullptr;
     LessonPage* m_lesson = nullptr;
@@ -87,7 +94,6 @@ private:
     std::unique_ptr<User> m_chosenAtStart;
     std::optional<std::uint16_t> m_categoryId;
     std::string m_managerChoice;
-    std::function<void(UserManagerDialog&)> m_managerHook;
     QAction* m_usersAction = nullptr;
     QAction* m_exitAction = nullptr;
     QAction* m_contentsAction = nullptr;

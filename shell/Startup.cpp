@@ -5,7 +5,7 @@
 #include "ConfigStore.h"
 #include "HomePage.h"
 #include "MainWindow.h"
-#include "MessageBox.h"
+#include "Prompt.h"
 #include "SingleInstance.h"
 #include "SplashWindow.h"
 
@@ -57,16 +57,12 @@ StartupOptions OptionsFromArguments(const QStringList& arguments)
     return options;
 }
 
-int RunZavoren(const StartupOptions& options)
+int RunZavoren(const StartupOptions& options, Prompt& prompt)
 {
     SingleInstance instance(options.instanceName);
     if (!instance.Acquire())
         return 0;
-    QObject::connect(&instance, &SingleInstance::raiseRequested, [] {
-        if (std::getenv("ZAVOREN_TRACE"))
-            std::fprintf(stderr, "another start asked this one to come forward\n");
-        BringToFront();
-    });
+    QObject::connect(&instance, &SingleInstance::raiseRequested, [] { BringToFront(); });
 
     SplashWindow splash;
     if (splash.HasPicture()) {
@@ -84,13 +80,13 @@ int RunZavoren(const StartupOptions& options)
         store = &GetConfigStore();
     } catch (const ZavorenCommon::ConfigException& e) {
         splash.close();
-        ShowStoreError(nullptr, "Zavoren Configuration Error", e.what());
+        prompt.StoreError(nullptr, "Zavoren Configuration Error", e.what());
         ReleaseDataStores();
         return 0;
     }
     int result = 0;
     {
-        MainWindow window(database, *store);
+        MainWindow window(database, *store, prompt, ClockSeed, OpenWithDesktop);
         if (!window.ChooseLearnerAtStart()) {
             splash.close();
             ReleaseDataStores();
@@ -105,8 +101,6 @@ int RunZavoren(const StartupOptions& options)
         if (options.quitAfterFirstPaint)
             new FirstPaintWatcher(window.Home(), &window);
         window.ShowChosenLearner();
-        if (std::getenv("ZAVOREN_TRACE"))
-            std::fprintf(stderr, "window shown\n");
         if (!window.Learner()) {
             ReleaseDataStores();
             return 0;

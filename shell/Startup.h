@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+class Prompt;
+
 /// What a run of the program is asked to do beyond the ordinary.
 struct StartupOptions {
     /// Close the window right after the home page is first painted (start-up measurements).
@@ -14,7 +16,7 @@ struct StartupOptions {
 /// Starts the program in the current folder (which holds `database` and `config.xml`), runs it
 /// until its window closes and returns the exit code: 1 after a normal close, 0 for a second
 /// copy or a start that failed or was cancelled. A QApplication must exist.
-int RunZavoren(const StartupOptions& options);
+int RunZavoren(const StartupOptions& options, Prompt& prompt);
 
 /// Reads the options from the command line (the program's name first):
 /// `--quit-after-first-paint` closes the window normally right after the home page's first

@@ -2,6 +2,7 @@
 
 #include "CrashHandler.h"
 #include "DisplayCheck.h"
+#include "MessageBoxPrompt.h"
 #include "Startup.h"
 
 #include <QApplication>
@@ -43,16 +44,17 @@ int main(int argc, char** argv)
         return 2;
     }
     if (!reportHelper)
-        InstallCrashHandler(argv[0]);
+        InstallCrashHandler();
     DisplayStartWatch watch(reportHelper ? 0 : 2, reportHelper);
     QApplication app(argc, argv);
     watch.Started();
     QApplication::setApplicationName(QStringLiteral("Zavoren!"));
     QApplication::setOrganizationName(QStringLiteral("Zavoren"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/zavoren.png")));
+    MessageBoxPrompt prompt;
     if (reportHelper)
-        return RunCrashReportHelper();
+        return RunCrashReportHelper(prompt, CrashReportFolder());
     if (argc >= 3 && std::strcmp(argv[1], "--crash-test") == 0)
         CrashOnPurpose(argv[2]);
-    return RunZavoren(OptionsFromArguments(QApplication::arguments()));
+    return RunZavoren(OptionsFromArguments(QApplication::arguments()), prompt);
 }

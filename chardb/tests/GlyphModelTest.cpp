@@ -221,7 +221,8 @@ TEST(GlyphModel, EncodedStrokeFormReadsBack)
     Element element(0);
     LoadBudget budget;
     const Element none(0);
-    ParseElementRecord(reader, element, [&](std::uint16_t) -> const Element& { return none; }, budget);
+    ParseElementRecord(
+        reader, element, [&](std::uint16_t) -> const Element& { return none; }, budget);
     EXPECT_EQ(budget.spent, 3u); // one stroke, two segments
     ASSERT_EQ(element.FormCount(), 1);
     EXPECT_EQ(element.GetForm(0).GetStroke(0).GetSegment(0).P3(), (Point{5, 6}));

@@ -2,7 +2,8 @@
 #include "CharacterDatabase.h"
 #include "ConfigStore.h"
 #include "HomePage.h"
-#include "MessageBox.h"
+#include "ModalAnswerer.h"
+#include "RecordingPrompt.h"
 #include "TestSupport.h"
 #include "UserManagerDialog.h"
 
@@ -52,16 +53,12 @@ private slots:
         std::filesystem::copy_file(ZAVOREN_STANDARD_DATABASE, "database");
         WriteConfig("<Zavoren><Users/></Zavoren>");
         ReleaseDataStores();
-        m_messages.clear();
-        TestMessageHook() = [this](QMessageBox::Icon, const QString& title, const QString& text) {
-            m_messages << title + ": " + text;
-            return m_answer;
-        };
-        m_answer = QMessageBox::Yes;
+        m_prompt = RecordingPrompt();
+        m_prompt.answer = QMessageBox::Yes;
     }
     void cleanup()
     {
-        TestMessageHook() = nullptr;
+        m_typing.reset();
         ReleaseDataStores();
         QDir::setCurrent(m_previous);
         m_dir.reset();
@@ -69,7 +66,7 @@ private slots:
 
     void emptyManagerOffersOnlyAdd()
     {
-        UserManagerDialog manager;
+        UserManagerDialog manager(GetConfigStore(), m_prompt);
         QCOMPARE(manager.windowTitle(), QStringLiteral("User Manager"));
         manager.show();
         QCOMPARE(manager.UserList()->count(), 0);
@@ -83,7 +80,7 @@ private slots:
     {
         WriteConfig(
             R"(<Z><Users currentUser="ben"><User name="Chiyo"/><User name="Ben"/><User name="Anna"/></Users></Z>)");
-        UserManagerDialog manager;
+        UserManagerDialog manager(GetConfigStore(), m_prompt);
         manager.show();
         QCOMPARE(Items(manager.UserList()), (QStringList{"Chiyo", "Ben", "Anna"}));
         QCOMPARE(Selected(manager.UserList()), QStringLiteral("Ben"));
@@ -104,29 +101,29 @@ private slots:
     void addingAnnaBesideAnnaAndDeletingTheCurrentOne()
     {
         WriteConfig(R"(<Z><Users currentUser="Anna"><User name="Anna"/></Users></Z>)");
-        UserManagerDialog manager;
+        UserManagerDialog manager(GetConfigStore(), m_prompt);
         manager.show();
-        Type(manager, {"anna"});
+        Type({"anna"});
         QTest::mouseClick(manager.AddButton(), Qt::LeftButton);
         QCOMPARE(Items(manager.UserList()), (QStringList{"Anna", "anna"}));
         QCOMPARE(Selected(manager.UserList()), QStringLiteral("anna"));
-        QVERIFY(m_messages.isEmpty());
+        QVERIFY(m_prompt.messages.isEmpty());
         QCOMPARE(GetConfigStore().CurrentUserName(), std::string("Anna")); // adding does not make current
         QSignalSpy deleted(&manager, &UserManagerDialog::currentUserDeleted);
         QTest::mouseClick(manager.DeleteButton(), Qt::LeftButton);
-        QCOMPARE(m_messages, QStringList{"Delete User: Delete current user?"});
+        QCOMPARE(m_prompt.messages, QStringList{"Delete User: Delete current user?"});
         QCOMPARE(Items(manager.UserList()), QStringList{"Anna"});
         QCOMPARE(GetConfigStore().CurrentUserName(), std::string());
         QCOMPARE(deleted.count(), 1);
         // Another learner: the plain question, no notice.
-        m_messages.clear();
-        Type(manager, {"Ben"});
+        m_prompt.messages.clear();
+        Type({"Ben"});
         QTest::mouseClick(manager.AddButton(), Qt::LeftButton);
         QTest::mouseClick(manager.DeleteButton(), Qt::LeftButton);
-        QCOMPARE(m_messages, QStringList{"Delete User: Delete user?"});
+        QCOMPARE(m_prompt.messages, QStringList{"Delete User: Delete user?"});
         QCOMPARE(deleted.count(), 1);
         // Answering No keeps the learner.
-        m_answer = QMessageBox::No;
+        m_prompt.answer = QMessageBox::No;
         QTest::mouseClick(manager.DeleteButton(), Qt::LeftButton);
         QCOMPARE(Items(manager.UserList()), QStringList{"Anna"});
     }
@@ -134,7 +131,7 @@ private slots:
     void deletingTheLastOrOnlyItem()
     {
         WriteConfig(R"(<Z><Users><User name="A"/><User name="B"/><User name="C"/></Users></Z>)");
-        UserManagerDialog manager;
+        UserManagerDialog manager(GetConfigStore(), m_prompt);
         manager.show();
         manager.UserList()->setCurrentRow(2);
         QTest::mouseClick(manager.DeleteButton(), Qt::LeftButton);
@@ -153,43 +150,41 @@ private slots:
     void blankNamesEmptyNamesAndRejectedNames()
     {
         WriteConfig(R"(<Z><Users><User name="Anna"/></Users></Z>)");
-        UserManagerDialog manager;
+        UserManagerDialog manager(GetConfigStore(), m_prompt);
         manager.show();
         // Only blanks: accepted as typed.
-        Type(manager, {"   "});
+        Type({"   "});
         QTest::mouseClick(manager.AddButton(), Qt::LeftButton);
         QCOMPARE(Items(manager.UserList()), (QStringList{"Anna", "   "}));
         // A taken name: the message, then the dialog again with the name selected; Cancel ends.
         QStringList seenAgain;
         int shown = 0;
-        manager.SetAddDialogHook([&](AddUserDialog& dialog) {
+        m_typing = std::make_unique<ModalAnswerer<AddUserDialog>>([&](AddUserDialog& dialog) {
             ++shown;
-            QTimer::singleShot(0, &dialog, [&dialog, &shown, &seenAgain] {
-                if (shown == 1) {
-                    QVERIFY(!dialog.OkButton()->isEnabled()); // empty: OK disabled
-                    dialog.NameEdit()->setText(QStringLiteral("Anna"));
-                    QVERIFY(dialog.OkButton()->isEnabled());
-                    QTest::mouseClick(dialog.OkButton(), Qt::LeftButton);
-                } else {
-                    seenAgain << dialog.NameEdit()->text() << dialog.NameEdit()->selectedText();
-                    QTest::mouseClick(dialog.CancelButton(), Qt::LeftButton);
-                }
-            });
+            if (shown == 1) {
+                QVERIFY(!dialog.OkButton()->isEnabled()); // empty: OK disabled
+                dialog.NameEdit()->setText(QStringLiteral("Anna"));
+                QVERIFY(dialog.OkButton()->isEnabled());
+                QTest::mouseClick(dialog.OkButton(), Qt::LeftButton);
+            } else {
+                seenAgain << dialog.NameEdit()->text() << dialog.NameEdit()->selectedText();
+                QTest::mouseClick(dialog.CancelButton(), Qt::LeftButton);
+            }
         });
         QTest::mouseClick(manager.AddButton(), Qt::LeftButton);
         QCOMPARE(shown, 2);
-        QCOMPARE(m_messages, QStringList{"Can't create user: User already exists. Try another user name"});
+        QCOMPARE(m_prompt.messages, QStringList{"Can't create user: User already exists. Try another user name"});
         QCOMPARE(seenAgain, (QStringList{"Anna", "Anna"}));
         QCOMPARE(Items(manager.UserList()), (QStringList{"Anna", "   "}));
     }
 
     void apostropheNamesAreRefusedWithTheReason()
     {
-        UserManagerDialog manager;
+        UserManagerDialog manager(GetConfigStore(), m_prompt);
         manager.show();
-        Type(manager, {"O'Brien", "OBrien"});
+        Type({"O'Brien", "OBrien"});
         QTest::mouseClick(manager.AddButton(), Qt::LeftButton);
-        QCOMPARE(m_messages,
+        QCOMPARE(m_prompt.messages,
             QStringList{"Can't create user: A user name cannot contain an apostrophe ('). Try another user name"});
         QCOMPARE(Items(manager.UserList()), QStringList{"OBrien"});
     }
@@ -210,7 +205,7 @@ private slots:
     void homePageShowsProgressPerCategory()
     {
         FileCharacterDatabase& db = static_cast<FileCharacterDatabase&>(GetDatabase());
-        HomePage home(db);
+        HomePage home(db, m_prompt);
         home.show();
         User user;
         user.SetName("Anna");
@@ -250,7 +245,7 @@ private slots:
     void learnerWithoutProgressSeesBareNames()
     {
         FileCharacterDatabase& db = static_cast<FileCharacterDatabase&>(GetDatabase());
-        HomePage home(db);
+        HomePage home(db, m_prompt);
         User user;
         user.SetName("New");
         home.SetUser(&user);
@@ -267,26 +262,24 @@ private:
         std::ofstream("config.xml", std::ios::trunc) << text;
     }
     /// Answers the next Add dialogs with these names.
-    void Type(UserManagerDialog& manager, std::vector<std::string> names)
+    void Type(std::vector<std::string> names)
     {
         auto queue = std::make_shared<std::vector<std::string>>(std::move(names));
-        manager.SetAddDialogHook([queue](AddUserDialog& dialog) {
-            QTimer::singleShot(0, &dialog, [&dialog, queue] {
-                if (queue->empty()) {
-                    QTest::mouseClick(dialog.CancelButton(), Qt::LeftButton);
-                    return;
-                }
-                dialog.NameEdit()->setText(QString::fromStdString(queue->front()));
-                queue->erase(queue->begin());
-                QTest::mouseClick(dialog.OkButton(), Qt::LeftButton);
-            });
+        m_typing = std::make_unique<ModalAnswerer<AddUserDialog>>([queue](AddUserDialog& dialog) {
+            if (queue->empty()) {
+                QTest::mouseClick(dialog.CancelButton(), Qt::LeftButton);
+                return;
+            }
+            dialog.NameEdit()->setText(QString::fromStdString(queue->front()));
+            queue->erase(queue->begin());
+            QTest::mouseClick(dialog.OkButton(), Qt::LeftButton);
         });
     }
 
     QString m_previous;
     std::unique_ptr<QTemporaryDir> m_dir;
-    QStringList m_messages;
-    QMessageBox::StandardButton m_answer = QMessageBox::Yes;
+    RecordingPrompt m_prompt;
+    std::unique_ptr<ModalAnswerer<AddUserDialog>> m_typing;
 };
 
 QTEST_MAIN(ScreensTest)

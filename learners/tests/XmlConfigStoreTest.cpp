@@ -1,5 +1,6 @@
 #include "XmlConfigStore.h"
 #include "ConfigException.h"
+#include "DatabaseLoadException.h"
 #include "DatabaseWriter.h"
 #include "FileCharacterDatabase.h"
 
@@ -72,10 +73,7 @@ protected:
         fs::remove_all(m_dir, ec);
     }
     fs::path Config() const { return m_dir / "config.xml"; }
-    std::unique_ptr<XmlConfigStore> Open()
-    {
-        return std::make_unique<XmlConfigStore>(Config().string(), m_database.get());
-    }
+    std::unique_ptr<XmlConfigStore> Open() { return std::make_unique<XmlConfigStore>(Config().string(), *m_database); }
 
     fs::path m_dir;
     std::unique_ptr<FileCharacterDatabase> m_database;
@@ -126,12 +124,12 @@ TEST_F(StoreTest, UnreadableFile)
 
 TEST_F(StoreTest, DatabaseFailureBecomesAConfigExceptionWithItsMessage)
 {
-    const fs::path previous = fs::current_path();
-    fs::current_path(m_dir);
-    fs::remove("database");
-    ReleaseDatabase();
-    EXPECT_CONFIG_ERROR(XmlConfigStore("config.xml"), "Unable to open database");
-    fs::current_path(previous);
+    auto broken = []() -> CharacterDatabase& { throw ZavorenCommon::DatabaseLoadException("Unable to open database"); };
+    EXPECT_CONFIG_ERROR(XmlConfigStore(Config().string(), broken), "Unable to open database");
+    // Asked for only once the file is known to be readable: a missing file says so first.
+    fs::remove(Config());
+    EXPECT_CONFIG_ERROR(
+        XmlConfigStore(Config().string(), broken), "Config file does not exist. Try to reinstall Zavoren.");
 }
 
 TEST_F(StoreTest, AddLoadAndListLearners)

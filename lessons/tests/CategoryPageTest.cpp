@@ -1,12 +1,15 @@
 #include "CategoryPage.h"
 #include "CharacterGrid.h"
 #include "KanjiInfoDialog.h"
+#include "ModalAnswerer.h"
 #include "Random15.h"
+#include "RecordingPrompt.h"
 #include "TestSupport.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -22,18 +25,16 @@ class CategoryPageTest : public QObject {
 private slots:
     void initTestCase()
     {
-        TestSeedOverride() = 777;
         m_standard = std::make_unique<FileCharacterDatabase>(ZAVOREN_STANDARD_DATABASE);
         m_standard->Preload(nullptr);
         m_grade1 = m_standard->LoadCategory(0)->Characters();
     }
-    void cleanupTestCase() { TestSeedOverride() = 0; }
 
     void init()
     {
         m_progress = CategoryProgress();
         m_progress.SetCategoryId(0);
-        m_page = std::make_unique<CategoryPage>(*m_standard);
+        m_page = std::make_unique<CategoryPage>(*m_standard, m_prompt, [] { return 777u; });
         m_page->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_page.get()));
     }
@@ -163,10 +164,9 @@ private slots:
     {
         m_page->SetCategory(0, &m_progress);
         QSignalSpy events(m_page.get(), &CategoryPage::pageEvent);
-        bool opened = false;
-        m_page->SetInfoDialogHook([&](QDialog&) { opened = true; });
+        ModalAnswerer<KanjiInfoDialog> info([](KanjiInfoDialog& dialog) { dialog.reject(); });
         m_page->ShowInfo(m_page->Grid());
-        QVERIFY(!opened);
+        QCOMPARE(info.Shown(), 0);
         m_page->UnlearnedMenu()->actions()[1]->trigger(); // Learn
         QCOMPARE(events.count(), 0);
     }
@@ -233,12 +233,17 @@ private slots:
         m_page->SetCategory(0, &m_progress);
         m_page->Strip()->SelectCell(0);
         QString title;
-        m_page->SetInfoDialogHook([&](QDialog& dialog) {
+        QString meaning;
+        ModalAnswerer<KanjiInfoDialog> info([&](KanjiInfoDialog& dialog) {
             title = dialog.windowTitle();
-            QTimer::singleShot(0, &dialog, [&dialog] { QTest::keyClick(&dialog, Qt::Key_Escape); });
+            meaning = dialog.findChild<QLabel*>(QStringLiteral("meaning"))->text();
+            QTest::keyClick(&dialog, Qt::Key_Escape);
         });
         m_page->UntestedMenu()->actions()[0]->trigger();
+        QCOMPARE(info.Shown(), 1);
         QCOMPARE(title, QStringLiteral(" Kanji Info"));
+        // It shows the selected character.
+        QCOMPARE(meaning, QString::fromUtf8(m_standard->LoadCharacter(m_grade1[7])->Meaning()));
         QCOMPARE(m_page->focusWidget(), m_page->Strip()); // focus goes back to the strip
     }
 
@@ -267,6 +272,7 @@ private slots:
 
 private:
     std::unique_ptr<FileCharacterDatabase> m_standard;
+    RecordingPrompt m_prompt;
     Codes m_grade1;
     CategoryProgress m_progress;
     std::unique_ptr<CategoryPage> m_page;

@@ -1,5 +1,6 @@
 #include "KanjiInfoDialog.h"
 #include "DisplayCanvas.h"
+#include "RecordingPrompt.h"
 #include "TestSupport.h"
 
 #include <QLabel>
@@ -24,7 +25,7 @@ private slots:
 
     void showsTheCharacterWithNotAvailableForAMissingReading()
     {
-        KanjiInfoDialog dialog(*m_db);
+        KanjiInfoDialog dialog(*m_db, m_prompt);
         QCOMPARE(dialog.windowTitle(), QStringLiteral(" Kanji Info"));
         QVERIFY(dialog.SetCode(0));
         dialog.show();
@@ -38,7 +39,7 @@ private slots:
 
     void clickingTwiceRestartsTheAnimation()
     {
-        KanjiInfoDialog dialog(*m_db);
+        KanjiInfoDialog dialog(*m_db, m_prompt);
         dialog.SetCode(0);
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
@@ -56,7 +57,7 @@ private slots:
     void closingWhileAnimatingStopsTheTimer()
     {
         for (bool escape : {false, true}) {
-            KanjiInfoDialog dialog(*m_db);
+            KanjiInfoDialog dialog(*m_db, m_prompt);
             dialog.SetCode(0);
             bool animatingWhenEnded = true;
             QTimer::singleShot(0, &dialog, [&] {
@@ -76,7 +77,7 @@ private slots:
 
     void badCodeReportsAndReturnsFalse()
     {
-        KanjiInfoDialog dialog(*m_db);
+        KanjiInfoDialog dialog(*m_db, m_prompt);
         // The error box is modal: close it as soon as it shows.
         QTimer::singleShot(0, [] {
             if (QWidget* box = QApplication::activeModalWidget())
@@ -88,6 +89,7 @@ private slots:
 private:
     SmallDatabase m_small;
     std::unique_ptr<FileCharacterDatabase> m_db;
+    RecordingPrompt m_prompt;
 };
 
 QTEST_MAIN(KanjiInfoDialogTest)

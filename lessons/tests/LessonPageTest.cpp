@@ -1,6 +1,7 @@
 #include "LessonPage.h"
 #include "DisplayCanvas.h"
 #include "InputCanvas.h"
+#include "RecordingPrompt.h"
 #include "TestSupport.h"
 
 #include <QCheckBox>
@@ -30,7 +31,7 @@ private slots:
 
     void init()
     {
-        m_page = std::make_unique<LessonPage>(*m_db);
+        m_page = std::make_unique<LessonPage>(*m_db, m_prompt);
         m_page->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_page.get()));
     }
@@ -203,7 +204,7 @@ private slots:
             }
         }
         QCOMPARE(codes.size(), 3u);
-        LessonPage page(*m_standard);
+        LessonPage page(*m_standard, m_prompt);
         page.show();
         QVERIFY(QTest::qWaitForWindowExposed(&page));
         QSignalSpy events(&page, &LessonPage::pageEvent);
@@ -258,6 +259,7 @@ private:
 
     SmallDatabase m_small;
     std::unique_ptr<FileCharacterDatabase> m_db;
+    RecordingPrompt m_prompt;
     std::unique_ptr<FileCharacterDatabase> m_standard;
     std::unique_ptr<LessonPage> m_page;
 };

@@ -3,6 +3,7 @@
 #include "InputCanvas.h"
 #include "Random15.h"
 #include "ReadingTestPage.h"
+#include "RecordingPrompt.h"
 #include "TestContainer.h"
 #include "TestSupport.h"
 
@@ -39,13 +40,18 @@ void DrawAll(DrawingTestPage& page)
 
 } // namespace
 
+/// Repeatable distractors.
+std::uint32_t RepeatableSeeds()
+{
+    return 4242;
+}
+
 class TestPagesTest : public QObject {
     Q_OBJECT
 
 private slots:
     void initTestCase()
     {
-        TestSeedOverride() = 4242; // repeatable distractors
         // 0: no ON reading; 1..: varied readings so that distractors exist.
         const Form two = SmallDatabase::Lines({{10, 30, 99, 30}, {54, 10, 54, 99}});
         const auto element = m_small.writer.AddStrokeElement(two);
@@ -57,11 +63,10 @@ private slots:
         m_standard = std::make_unique<FileCharacterDatabase>(ZAVOREN_STANDARD_DATABASE);
         m_standard->Preload(nullptr);
     }
-    void cleanupTestCase() { TestSeedOverride() = 0; }
 
     void readingWithoutOnReadingOffersNotAvailable()
     {
-        ReadingTestPage page(*m_db);
+        ReadingTestPage page(*m_db, m_prompt, RepeatableSeeds);
         page.show();
         auto character = m_db->LoadCharacter(0);
         page.SetCharacter(character.get());
@@ -82,7 +87,7 @@ private slots:
 
     void rightAfterTwoWrongPicksIsAnAnswerWithMistakes()
     {
-        ReadingTestPage page(*m_db);
+        ReadingTestPage page(*m_db, m_prompt, RepeatableSeeds);
         page.show();
         QSignalSpy events(&page, &QuestionPage::pageEvent);
         auto character = m_db->LoadCharacter(5);
@@ -113,7 +118,7 @@ private slots:
 
     void bothRightAtTheFirstTryIsClean()
     {
-        ReadingTestPage page(*m_db);
+        ReadingTestPage page(*m_db, m_prompt, RepeatableSeeds);
         page.show();
         QSignalSpy events(&page, &QuestionPage::pageEvent);
         auto character = m_db->LoadCharacter(4); // no KUN reading: its right choice is N/A
@@ -132,7 +137,7 @@ private slots:
 
     void drawingCompletedWithoutPeekingRevealsAndIsClean()
     {
-        DrawingTestPage page(*m_db);
+        DrawingTestPage page(*m_db, m_prompt);
         page.show();
         QVERIFY(QTest::qWaitForWindowExposed(&page));
         QSignalSpy events(&page, &QuestionPage::pageEvent);
@@ -158,7 +163,7 @@ private slots:
 
     void peekingBeforeTheEndIsAMistakeAndASecondClickAnimates()
     {
-        DrawingTestPage page(*m_db);
+        DrawingTestPage page(*m_db, m_prompt);
         page.show();
         QVERIFY(QTest::qWaitForWindowExposed(&page));
         QSignalSpy events(&page, &QuestionPage::pageEvent);
@@ -180,7 +185,7 @@ private slots:
 
     void emptyTestAsksNothing()
     {
-        TestContainer test(*m_db);
+        TestContainer test(*m_db, m_prompt, RepeatableSeeds);
         test.show();
         QSignalSpy events(&test, &TestContainer::pageEvent);
         test.StartTest({});
@@ -194,7 +199,7 @@ private slots:
 
     void aWholeTestOnTwoRealCharacters()
     {
-        TestContainer test(*m_standard);
+        TestContainer test(*m_standard, m_prompt, RepeatableSeeds);
         test.show();
         QVERIFY(QTest::qWaitForWindowExposed(&test));
         QSignalSpy events(&test, &TestContainer::pageEvent);
@@ -243,6 +248,7 @@ private slots:
 private:
     SmallDatabase m_small;
     std::unique_ptr<FileCharacterDatabase> m_db;
+    RecordingPrompt m_prompt;
     std::unique_ptr<FileCharacterDatabase> m_standard;
 };
 

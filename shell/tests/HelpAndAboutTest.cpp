@@ -39,13 +39,15 @@ private slots:
         QTemporaryDir folder;
         const QString previous = QDir::currentPath();
         QDir::setCurrent(folder.path());
-        m_catcher.opened.clear();
-        QVERIFY(!OpenHelpContents()); // missing: nothing, silently
-        QVERIFY(m_catcher.opened.isEmpty());
+        m_opened.clear();
+        QVERIFY(!OpenHelpContents(Opener())); // missing: nothing, silently
+        QVERIFY(m_opened.isEmpty());
         QVERIFY(QFile::copy(QStringLiteral(ZAVOREN_HELP_DOCUMENT), QStringLiteral("Zavoren.html")));
-        QVERIFY(OpenHelpContents());
-        QCOMPARE(m_catcher.opened.size(), 1);
-        QCOMPARE(m_catcher.opened.front(), QUrl::fromLocalFile(folder.filePath(QStringLiteral("Zavoren.html"))));
+        QVERIFY(OpenHelpContents(Opener()));
+        QCOMPARE(m_opened.size(), 1);
+        QCOMPARE(m_opened.front(), QUrl::fromLocalFile(folder.filePath(QStringLiteral("Zavoren.html"))));
+        // Whether it opened is what the opener says.
+        QVERIFY(!OpenHelpContents([](const QUrl&) { return false; }));
         QDir::setCurrent(previous);
     }
 
@@ -61,9 +63,15 @@ private slots:
 
     void linksOpenTheMakersSite()
     {
-        m_catcher.opened.clear();
-        OpenMakerSite();
-        QCOMPARE(m_catcher.opened, QList<QUrl>{QUrl(QString::fromLatin1(MakerSite))});
+        m_opened.clear();
+        OpenMakerSite(Opener());
+        QCOMPARE(m_opened, QList<QUrl>{QUrl(QString::fromLatin1(MakerSite))});
+    }
+
+    void theDesktopOpenerHandsTheAddressToTheDesktop()
+    {
+        QVERIFY(OpenWithDesktop(QUrl(QStringLiteral("https://example.invalid/page"))));
+        QCOMPARE(m_catcher.opened, QList<QUrl>{QUrl(QStringLiteral("https://example.invalid/page"))});
     }
 
     void aboutShowsProductVersionLinksAndCredits()
@@ -71,7 +79,7 @@ private slots:
         QMainWindow owner;
         owner.setGeometry(100, 100, 400, 300);
         owner.show();
-        AboutDialog about(&owner);
+        AboutDialog about(Opener(), &owner);
         about.show();
         QVERIFY(QTest::qWaitForWindowExposed(&about));
         QVERIFY(about.isModal());
@@ -96,15 +104,15 @@ private slots:
         QCOMPARE(site->CurrentColour(), QColor(0, 0, 255));
         QCOMPARE(about.SupportLink()->Target(), QString::fromLatin1(SupportAddress));
         QVERIFY(about.SupportLink()->Target().startsWith(QStringLiteral("mailto:")));
-        m_catcher.opened.clear();
+        m_opened.clear();
         QTest::mouseClick(site, Qt::LeftButton);
-        QCOMPARE(m_catcher.opened.size(), 1);
+        QCOMPARE(m_opened, QList<QUrl>{QUrl(QString::fromLatin1(MakerSite))});
         QVERIFY(site->Visited());
         QCOMPARE(site->CurrentColour(), QColor(128, 0, 128));
         QTest::mouseClick(site, Qt::LeftButton);
         QCOMPARE(site->CurrentColour(), QColor(128, 0, 128));
         QVERIFY(!about.SupportLink()->Visited());
-        AboutDialog another(&owner);
+        AboutDialog another(Opener(), &owner);
         QVERIFY(!another.SiteLink()->Visited());
         QCOMPARE(another.SiteLink()->CurrentColour(), QColor(0, 0, 255));
         QTest::mouseClick(about.OkButton(), Qt::LeftButton);
@@ -113,35 +121,35 @@ private slots:
 
     void aFailedOpenLeavesTheLinkUnvisited()
     {
-        HyperlinkLabel::SetOpener([](const QUrl&) { return false; });
-        HyperlinkLabel link;
+        int tries = 0;
+        HyperlinkLabel link([&tries](const QUrl&) {
+            ++tries;
+            return false;
+        });
         link.SetLink(QStringLiteral("https://example.invalid"));
         link.show();
         QTest::mouseClick(&link, Qt::LeftButton);
+        QCOMPARE(tries, 1);
         QVERIFY(!link.Visited());
-        HyperlinkLabel::SetOpener([](const QUrl& url) { return QDesktopServices::openUrl(url); });
-    }
-
-    void controlsWithoutHelpTextShowNothing()
-    {
-        QWidget window;
-        auto* withHelp = new QPushButton(QStringLiteral("A"), &window);
-        withHelp->setWhatsThis(QStringLiteral("Explains A."));
-        auto* without = new QPushButton(QStringLiteral("B"), &window);
-        without->move(0, 40);
-        window.show();
-        QWhatsThis::hideText();
-        QHelpEvent ask(QEvent::WhatsThis, QPoint(5, 5), without->mapToGlobal(QPoint(5, 5)));
-        QCoreApplication::sendEvent(without, &ask);
-        QVERIFY(!ask.isAccepted() || QApplication::activePopupWidget() == nullptr);
-        QHelpEvent askA(QEvent::WhatsThis, QPoint(5, 5), withHelp->mapToGlobal(QPoint(5, 5)));
-        QCoreApplication::sendEvent(withHelp, &askA);
-        QVERIFY(askA.isAccepted());
-        QWhatsThis::hideText();
+        QCOMPARE(link.CurrentColour(), QColor(0, 0, 255));
+        // The keyboard opens it too.
+        link.setFocus();
+        QTest::keyClick(&link, Qt::Key_Space);
+        QCOMPARE(tries, 2);
     }
 
 private:
+    /// Records what is asked to open instead of opening it.
+    UrlOpener Opener()
+    {
+        return [this](const QUrl& url) {
+            m_opened << url;
+            return true;
+        };
+    }
+
     UrlCatcher m_catcher;
+    QList<QUrl> m_opened;
 };
 
 QTEST_MAIN(HelpAndAboutTest)

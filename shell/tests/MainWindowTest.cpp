@@ -5,10 +5,13 @@
 #include "CharacterGrid.h"
 #include "ConfigStore.h"
 #include "DrawingTestPage.h"
+#include "HelpActions.h"
 #include "HomePage.h"
 #include "InputCanvas.h"
 #include "LessonPage.h"
+#include "ModalAnswerer.h"
 #include "ReadingTestPage.h"
+#include "RecordingPrompt.h"
 #include "ShellTestSupport.h"
 #include "SplashWindow.h"
 #include "TestContainer.h"
@@ -28,11 +31,19 @@
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
+#include <QWhatsThis>
 #include <QtEndian>
 
 #include <pugixml.hpp>
 
 using namespace testsupport;
+
+namespace {
+std::uint32_t FixedSeed()
+{
+    return 99;
+}
+} // namespace
 using Codes = std::vector<std::uint16_t>;
 
 namespace {
@@ -92,6 +103,11 @@ class MainWindowTest : public QObject {
     Q_OBJECT
 
 private slots:
+    void init()
+    {
+        m_prompt = RecordingPrompt();
+        m_opened.clear();
+    }
     void aLearnersWholePathSurvivesARestart()
     {
         DataFolder folder;
@@ -99,23 +115,18 @@ private slots:
         Codes taught;
         {
             // An empty learner file: the User Manager opens; add Anna and open her.
-            MainWindow window(GetDatabase(), GetConfigStore());
-            bool managerShown = false;
-            window.SetUserManagerHook([&](UserManagerDialog& manager) {
-                managerShown = true;
-                manager.SetAddDialogHook([](AddUserDialog& add) {
-                    QTimer::singleShot(0, &add, [&add] {
-                        add.NameEdit()->setText(QStringLiteral("Anna"));
-                        QTest::mouseClick(add.OkButton(), Qt::LeftButton);
-                    });
-                });
-                QTimer::singleShot(0, &manager, [&manager] {
-                    QTest::mouseClick(manager.AddButton(), Qt::LeftButton);
-                    QTest::mouseClick(manager.OpenButton(), Qt::LeftButton);
-                });
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
+            ModalAnswerer<AddUserDialog> add([](AddUserDialog& dialog) {
+                dialog.NameEdit()->setText(QStringLiteral("Anna"));
+                QTest::mouseClick(dialog.OkButton(), Qt::LeftButton);
+            });
+            ModalAnswerer<UserManagerDialog> manager([](UserManagerDialog& dialog) {
+                QTest::mouseClick(dialog.AddButton(), Qt::LeftButton);
+                QTest::mouseClick(dialog.OpenButton(), Qt::LeftButton);
             });
             QVERIFY(window.ChooseLearnerAtStart());
-            QVERIFY(managerShown);
+            QCOMPARE(manager.Shown(), 1);
+            QCOMPARE(add.Shown(), 1);
             window.ShowChosenLearner();
             QVERIFY(QTest::qWaitForWindowExposed(&window));
             QCOMPARE(window.ShownPage(), window.Home());
@@ -177,11 +188,11 @@ private slots:
         QCOMPARE(progresses, int(GetDatabase().CategoryCount()));
         ReleaseDataStores();
         // Started again: Anna opens directly and the home page shows her progress.
-        MainWindow again(GetDatabase(), GetConfigStore());
-        bool managerShown = false;
-        again.SetUserManagerHook([&](UserManagerDialog&) { managerShown = true; });
+        MainWindow again(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
+        ModalAnswerer<UserManagerDialog> manager(
+            [](UserManagerDialog& dialog) { QTest::mouseClick(dialog.CloseButton(), Qt::LeftButton); });
         QVERIFY(again.ChooseLearnerAtStart());
-        QVERIFY(!managerShown);
+        QCOMPARE(manager.Shown(), 0);
         again.ShowChosenLearner();
         QCOMPARE(again.Home()->CategoryList()->topLevelItem(0)->text(0),
             QStringLiteral("Grade 1 (5 of %1)").arg(grade1Size));
@@ -191,7 +202,7 @@ private slots:
     void theOnlyLearnerOpensWithoutAsking()
     {
         DataFolder folder(R"(<Z><Users><User name="Solo"/></Users></Z>)");
-        MainWindow window(GetDatabase(), GetConfigStore());
+        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
         QVERIFY(window.ChooseLearnerAtStart());
         window.ShowChosenLearner();
         QCOMPARE(QString::fromUtf8(window.Learner()->Name()), QStringLiteral("Solo"));
@@ -201,18 +212,18 @@ private slots:
     void cancellingTheManagerAtStartEndsTheProgram()
     {
         DataFolder folder(R"(<Z><Users><User name="A"/><User name="B"/></Users></Z>)");
-        MainWindow window(GetDatabase(), GetConfigStore());
-        window.SetUserManagerHook([](UserManagerDialog& manager) {
-            QTimer::singleShot(0, &manager, [&manager] { QTest::mouseClick(manager.CloseButton(), Qt::LeftButton); });
-        });
+        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
+        ModalAnswerer<UserManagerDialog> manager(
+            [](UserManagerDialog& dialog) { QTest::mouseClick(dialog.CloseButton(), Qt::LeftButton); });
         QVERIFY(!window.ChooseLearnerAtStart());
+        QCOMPARE(manager.Shown(), 1);
         QVERIFY(!window.isVisible());
     }
 
     void testsTakeAtMostFiveUntestedInListOrder()
     {
         DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
-        MainWindow window(GetDatabase(), GetConfigStore());
+        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
         QVERIFY(window.ChooseLearnerAtStart());
         window.ShowChosenLearner();
         OpenCategory(window, 0);
@@ -247,7 +258,7 @@ private slots:
         DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
         const Codes grade1 = GetDatabase().LoadCategory(0)->Characters();
         {
-            MainWindow window(GetDatabase(), GetConfigStore());
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
             QVERIFY(window.ChooseLearnerAtStart());
             window.ShowChosenLearner();
             OpenCategory(window, 0);
@@ -298,21 +309,19 @@ private slots:
     void deletingTheCurrentLearnerHidesTheWindowUntilOneIsChosen()
     {
         DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/><User name="B"/></Users></Z>)");
-        TestMessageHook() = [](QMessageBox::Icon, const QString&, const QString&) { return QMessageBox::Yes; };
-        MainWindow window(GetDatabase(), GetConfigStore());
+        m_prompt.answer = QMessageBox::Yes;
+        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
         QVERIFY(window.ChooseLearnerAtStart());
         window.ShowChosenLearner();
         QVERIFY(window.isVisible());
         bool hiddenDuring = false;
-        window.SetUserManagerHook([&](UserManagerDialog& manager) {
-            QTimer::singleShot(0, &manager, [&] {
-                QCOMPARE(manager.SelectedUserName(), std::string("A"));
-                QTest::mouseClick(manager.DeleteButton(), Qt::LeftButton);
-                hiddenDuring = !window.isVisible();
-                QCOMPARE(window.Home()->UserNameLabel()->text(), QStringLiteral("N/A"));
-                QCOMPARE(manager.SelectedUserName(), std::string("B"));
-                QTest::mouseClick(manager.OpenButton(), Qt::LeftButton);
-            });
+        ModalAnswerer<UserManagerDialog> managerAnswer([&](UserManagerDialog& manager) {
+            QCOMPARE(manager.SelectedUserName(), std::string("A"));
+            QTest::mouseClick(manager.DeleteButton(), Qt::LeftButton);
+            hiddenDuring = !window.isVisible();
+            QCOMPARE(window.Home()->UserNameLabel()->text(), QStringLiteral("N/A"));
+            QCOMPARE(manager.SelectedUserName(), std::string("B"));
+            QTest::mouseClick(manager.OpenButton(), Qt::LeftButton);
         });
         window.UsersAction()->trigger();
         QVERIFY(hiddenDuring);
@@ -326,7 +335,7 @@ private slots:
     {
         DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
         {
-            MainWindow window(GetDatabase(), GetConfigStore());
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
             QVERIFY(window.ChooseLearnerAtStart());
             window.ShowChosenLearner();
             window.move(123, 45);
@@ -346,7 +355,7 @@ private slots:
         settings.sync();
         ReleaseDataStores();
         {
-            MainWindow window(GetDatabase(), GetConfigStore());
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
             QVERIFY(window.ChooseLearnerAtStart());
             QCOMPARE(window.pos(), QPoint(-5000, 9000));
         }
@@ -355,7 +364,7 @@ private slots:
         settings.sync();
         ReleaseDataStores();
         {
-            MainWindow window(GetDatabase(), GetConfigStore());
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
             QVERIFY(window.ChooseLearnerAtStart());
             const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
             QVERIFY(qAbs(window.frameGeometry().center().x() - screen.center().x()) <= 1);
@@ -365,7 +374,7 @@ private slots:
     void menuAndIgnoredKeys()
     {
         DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
-        MainWindow window(GetDatabase(), GetConfigStore());
+        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
         QVERIFY(window.ChooseLearnerAtStart());
         window.ShowChosenLearner();
         QCOMPARE(window.objectName(), QStringLiteral("Zavoren Mainframe Class"));
@@ -379,8 +388,23 @@ private slots:
         QCOMPARE(window.ContentsAction()->text(), QStringLiteral("Contents"));
         QCOMPARE(window.SiteAction()->text(), QStringLiteral("Quelmar Software site"));
         QCOMPARE(window.AboutAction()->text(), QStringLiteral("About"));
-        // Contents without the help document does nothing.
+        // Contents without the help document opens nothing; with it, the document itself.
         window.ContentsAction()->trigger();
+        QVERIFY(m_opened.isEmpty());
+        std::ofstream("Zavoren.html") << "<html></html>";
+        window.ContentsAction()->trigger();
+        QCOMPARE(
+            m_opened, QList<QUrl>{QUrl::fromLocalFile(QDir(folder.Path()).filePath(QStringLiteral("Zavoren.html")))});
+        // The site link opens the maker's site.
+        window.SiteAction()->trigger();
+        QCOMPARE(m_opened.size(), 2);
+        QCOMPARE(m_opened.last(), QUrl(QString::fromLatin1(MakerSite)));
+        // Shift+F1 asks for context help: the next click shows a control's help text.
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QTest::keyClick(&window, Qt::Key_F1, Qt::ShiftModifier);
+        QVERIFY(QWhatsThis::inWhatsThisMode());
+        QWhatsThis::leaveWhatsThisMode();
         // The ignored keys never reach a page: Ctrl+Z does not undo a stroke.
         OpenCategory(window, 0);
         QTest::mouseClick(window.Category()->LessonButton(), Qt::LeftButton);
@@ -446,6 +470,19 @@ private slots:
         QCOMPARE(splash.Bar()->maximum(), int(db.CharacterCount()) + int(db.ElementCount()));
         QCOMPARE(splash.Bar()->value(), int(db.CharacterCount()) + int(db.ElementCount()) - 1);
     }
+
+private:
+    /// Records what the window asks to open instead of opening it.
+    UrlOpener Opener()
+    {
+        return [this](const QUrl& url) {
+            m_opened << url;
+            return true;
+        };
+    }
+
+    RecordingPrompt m_prompt;
+    QList<QUrl> m_opened;
 };
 
 QTEST_MAIN(MainWindowTest)

@@ -4,7 +4,6 @@
 // kept in the folder too.
 
 #include "ConfigStore.h"
-#include "MessageBox.h"
 
 #include <QDir>
 #include <QSettings>
@@ -28,7 +27,6 @@ public:
     ~DataFolder()
     {
         ReleaseDataStores();
-        TestMessageHook() = nullptr;
         QDir::setCurrent(m_previous);
     }
     void WriteConfig(const char* text) { std::ofstream("config.xml", std::ios::trunc) << text; }

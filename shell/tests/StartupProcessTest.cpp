@@ -1,5 +1,6 @@
-// Starts the real program as a learner would, in a data folder, and watches what it says and
-// how it ends. Message boxes are answered through the test switch ZAVOREN_TEST_ANSWER.
+// Starts the real program as a learner would, in a data folder, and watches how it ends and what
+// it leaves. What it says in message boxes is tested in-process (StartupTest), where a prompt
+// answers for the learner; a box shown here would wait for ever, so these runs show none.
 
 #include <QDir>
 #include <QFile>
@@ -40,7 +41,6 @@ private slots:
         QCOMPARE(o.status, QProcess::NormalExit);
         QCOMPARE(o.exitCode, 1);
         QVERIFY2(o.errors.contains(QStringLiteral("home page painted")), qPrintable(o.errors));
-        QVERIFY(!o.errors.contains(QStringLiteral("MESSAGE")));
         // The learner was saved at close: a Progress per category now.
         QVERIFY(ReadConfig().contains("categoryId=\"7\""));
     }
@@ -53,66 +53,21 @@ private slots:
         QCOMPARE(Run({}, {}, {QStringLiteral("--quit-after-first-paint")}).exitCode, 1);
     }
 
-    void missingConfig()
-    {
-        QFile::remove(m_dir->filePath(QStringLiteral("config.xml")));
-        const Outcome o = Run({});
-        QCOMPARE(o.exitCode, 0);
-        QCOMPARE(o.errors.count(QStringLiteral("MESSAGE")), 1);
-        QVERIFY2(o.errors.contains(QStringLiteral(
-                     "MESSAGE Zavoren Configuration Error: Config file does not exist. Try to reinstall Zavoren.")),
-            qPrintable(o.errors));
-        QVERIFY(!o.errors.contains(QStringLiteral("window shown")));
-    }
-
-    void readOnlyConfig()
-    {
-        QFile::setPermissions(
-            m_dir->filePath(QStringLiteral("config.xml")), QFileDevice::ReadOwner | QFileDevice::ReadGroup);
-        const Outcome o = Run({});
-        QCOMPARE(o.exitCode, 0);
-        QVERIFY2(
-            o.errors.contains(QStringLiteral(
-                "Zavoren Configuration Error: Config file is ReadOnly. Check file attirbutes or reinstall Zavoren.")),
-            qPrintable(o.errors));
-    }
-
-    void malformedConfigGivesOneBoxAndNoWindow()
-    {
-        WriteConfig("<Zavoren><Users>");
-        const Outcome o = Run({});
-        QCOMPARE(o.exitCode, 0);
-        QCOMPARE(o.errors.count(QStringLiteral("MESSAGE")), 1);
-        QVERIFY(o.errors.contains(QStringLiteral("Zavoren Configuration Error: Unable to load config")));
-        QVERIFY(!o.errors.contains(QStringLiteral("window shown")));
-        QCOMPARE(ReadConfig(), QByteArray("<Zavoren><Users>"));
-    }
-
-    void brokenDatabaseEndsInTheFatalErrorPath()
-    {
-        QFile::remove(m_dir->filePath(QStringLiteral("database")));
-        const Outcome o = Run({{"ZAVOREN_TEST_ANSWER", "no"}});
-        QVERIFY2(o.errors.contains(QStringLiteral("Unable to open database")), qPrintable(o.errors));
-        QVERIFY(!o.errors.contains(QStringLiteral("window shown")));
-        QVERIFY(o.status == QProcess::CrashExit || o.exitCode != 1);
-    }
-
-    void secondStartBringsTheFirstForwardAndEndsWithZero()
+    void aSecondStartEndsWithZeroAndLeavesTheFirstRunning()
     {
         QProcess first;
         Prepare(first, {});
         first.start(QStringLiteral(ZAVOREN_PROGRAM), Arguments());
         QVERIFY(first.waitForStarted());
-        QString firstErrors;
-        QTRY_VERIFY_WITH_TIMEOUT(
-            (firstErrors += first.readAllStandardError()).contains(QStringLiteral("window shown")), 20000);
+        // The first copy is up once it listens beside its lock.
+        QTRY_VERIFY_WITH_TIMEOUT(!QDir(m_dir->filePath(QStringLiteral("runtime")))
+                                      .entryList({QStringLiteral("*.socket")}, QDir::System)
+                                      .isEmpty(),
+            20000);
         const Outcome second = Run({});
+        QCOMPARE(second.status, QProcess::NormalExit);
         QCOMPARE(second.exitCode, 0);
-        QVERIFY(!second.errors.contains(QStringLiteral("window shown")));
-        QVERIFY(!second.errors.contains(QStringLiteral("MESSAGE")));
-        QTRY_VERIFY_WITH_TIMEOUT(
-            (firstErrors += first.readAllStandardError()).contains(QStringLiteral("asked this one to come forward")),
-            10000);
+        QCOMPARE(first.state(), QProcess::Running);
         first.terminate();
         first.waitForFinished(5000);
         if (first.state() != QProcess::NotRunning)
@@ -163,7 +118,7 @@ private slots:
         }
     }
 
-    void aFileSizeLimitGivesTheSaveErrorAndKeepsTheFile()
+    void aFileSizeLimitDoesNotEndTheProgramAndKeepsTheFile()
     {
         const QByteArray before = ReadConfig();
         QProcess process;
@@ -174,11 +129,16 @@ private slots:
             ::setrlimit(RLIMIT_FSIZE, &limit);
         });
         process.start(QStringLiteral(ZAVOREN_PROGRAM), Arguments({QStringLiteral("--quit-after-first-paint")}));
-        QVERIFY(process.waitForFinished(30000));
-        const QString errors = QString::fromUtf8(process.readAllStandardError());
-        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-        QVERIFY2(errors.contains(QStringLiteral("MESSAGE Zavoren Configuration Error: Unable to save config")),
-            qPrintable(errors));
+        QString errors;
+        QTRY_VERIFY_WITH_TIMEOUT(
+            (errors += QString::fromUtf8(process.readAllStandardError())).contains(QStringLiteral("home page painted")),
+            20000);
+        // The save at close fails: the program is still there, telling the learner (the box waits
+        // for an answer), rather than ended by the file-size signal.
+        QTest::qWait(1500);
+        QCOMPARE(process.state(), QProcess::Running);
+        process.kill();
+        process.waitForFinished(5000);
         QCOMPARE(ReadConfig(), before);
         QCOMPARE(QDir(m_dir->path()).entryList({QStringLiteral("config.xml*")}, QDir::Files | QDir::Hidden),
             QStringList{QStringLiteral("config.xml")});
@@ -215,8 +175,6 @@ private:
     {
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        env.insert(QStringLiteral("ZAVOREN_TEST_ANSWER"), QStringLiteral("ok"));
-        env.insert(QStringLiteral("ZAVOREN_TRACE"), QStringLiteral("1"));
         env.insert(QStringLiteral("XDG_CONFIG_HOME"), m_dir->filePath(QStringLiteral("settings")));
         env.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_dir->filePath(QStringLiteral("runtime")));
         for (const auto& [name, value] : extra)
