@@ -4,6 +4,7 @@
 #include "Flattening.h"
 #include "GlyphRendering.h"
 #include "StrokeChecker.h"
+#include "StrokeVerdict.h"
 
 #include <benchmark/benchmark.h>
 
@@ -57,6 +58,27 @@ void BM_CheckerConstruction(benchmark::State& state)
     state.SetLabel("averaged over all characters");
 }
 BENCHMARK(BM_CheckerConstruction)->Unit(benchmark::kMicrosecond);
+
+void BM_VerdictForARefusedStroke(benchmark::State& state)
+{
+    // The costliest refusals: the first stroke of a glyph, drawn 0.15 x width too low on the
+    // 298 px canvas, is scored against every later stroke before the place test names it.
+    // arg 0: a glyph with the average stroke count; arg 1: the glyph with the most strokes.
+    const Form* glyph = &AverageGlyph();
+    if (state.range(0) == 1)
+        for (const Form& f : Glyphs())
+            if (f.StrokeCount() > glyph->StrokeCount())
+                glyph = &f;
+    constexpr float Side = 298;
+    const StrokeChecker checker(*glyph, CanvasRect{0, 0, 298, 298});
+    StrokePath ink(FlattenStroke(glyph->GetStroke(0)));
+    ink.ScaleAndOffset(Side / glyph->Width(), Side / glyph->Height(), 0, 0.15f * Side);
+    ink.ResampleInPlace(static_cast<std::uint32_t>(std::lround(ink.Length() / 3)) + 2);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(JudgeStroke(checker, ink, 0));
+    state.SetLabel(std::to_string(glyph->StrokeCount()) + " strokes");
+}
+BENCHMARK(BM_VerdictForARefusedStroke)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 void BM_ScoreOneStroke(benchmark::State& state)
 {

@@ -2,6 +2,7 @@
 
 #include "Flattening.h"
 
+#include <algorithm>
 #include <cmath>
 
 StrokePath StrokeChecker::MapStroke(
@@ -76,6 +77,52 @@ float StrokeChecker::Score(const StrokePath& ink, std::uint16_t index) const
     if (ratio < SizeTolerance)
         return -1.0f;
     return Match(m_templates[index], drawn);
+}
+
+StrokeChecker::Measures StrokeChecker::Measure(const StrokePath& ink, std::uint16_t index) const
+{
+    // Step for step the tests of Score, so that a verdict never disagrees with it.
+    Measures m;
+    StrokePath drawn;
+    ink.Resample(m_sampleCount, drawn);
+    if (drawn.Count() == 0 || index >= m_templates.size())
+        return m;
+    m.hasLength = true;
+    const CanvasRect t = m_bounds[index];
+    // The way to the expected place is measured on the points themselves: ink dragged past the
+    // canvas's edge has negative coordinates, which the box above cannot hold.
+    float left = drawn.Points().front().x, right = left, top = drawn.Points().front().y, bottom = top;
+    for (Point p : drawn.Points()) {
+        left = std::min(left, p.x);
+        right = std::max(right, p.x);
+        top = std::min(top, p.y);
+        bottom = std::max(bottom, p.y);
+    }
+    m.dx = (t.x + t.width * 0.5f) - (left + right) * 0.5f;
+    m.dy = (t.y + t.height * 0.5f) - (top + bottom) * 0.5f;
+    m.placeFits = PlaceFits(drawn.Bounds(), index);
+    drawn.Centre();
+    m.drawnLength = drawn.Length();
+    m.expectedLength = m_templates[index].Length();
+    const float ratio
+        = m.drawnLength <= m.expectedLength ? m.drawnLength / m.expectedLength : m.expectedLength / m.drawnLength;
+    m.sizeFits = !(ratio < SizeTolerance);
+    return m;
+}
+
+CanvasRect StrokeChecker::DrawnBounds(const StrokePath& ink) const
+{
+    StrokePath drawn;
+    ink.Resample(m_sampleCount, drawn);
+    return drawn.Count() == 0 ? CanvasRect{} : drawn.Bounds();
+}
+
+bool StrokeChecker::PlaceFits(CanvasRect b, std::uint16_t index) const
+{
+    const CanvasRect t = m_bounds.at(index);
+    const float dx = (b.x + b.width * 0.5f) - (t.x + t.width * 0.5f);
+    const float dy = (b.y + b.height * 0.5f) - (t.y + t.height * 0.5f);
+    return !(std::sqrt(dx * dx + dy * dy) > PositionTolerance * m_canvas.width);
 }
 
 float StrokeChecker::Match(const StrokePath& expected, const StrokePath& drawn) const

@@ -31,6 +31,25 @@ public:
     /// Scores learner ink (canvas pixels) against expected stroke `index`: -1.0 when refused
     /// outright (no such stroke, misplaced, wrong size), else a similarity where only 1.0 accepts.
     float Score(const StrokePath& ink, std::uint16_t index) const;
+    /// What Score's place and size tests see of learner ink drawn as stroke `index`, with the
+    /// same arithmetic: where its box centre lies from the expected one, and how long it is.
+    struct Measures {
+        bool hasLength = false; ///< false for ink without length (a click): nothing else is set
+        float dx = 0; ///< expected box centre minus drawn box centre, canvas pixels
+        float dy = 0;
+        bool placeFits = false; ///< the place test passes
+        float drawnLength = 0;
+        float expectedLength = 0;
+        bool sizeFits = false; ///< the size test passes
+    };
+    /// The place and size tests of Score for a stroke that exists (`index` below StrokeCount).
+    Measures Measure(const StrokePath& ink, std::uint16_t index) const;
+    /// The box Score's place test sees of the ink (resampled as Score does); empty for ink
+    /// without length.
+    CanvasRect DrawnBounds(const StrokePath& ink) const;
+    /// Score's place test for ink with these bounds, drawn as stroke `index` (below StrokeCount).
+    bool PlaceFits(CanvasRect drawnBounds, std::uint16_t index) const;
+
     /// Piecewise shape comparison of a centred template (carrying breaks) and a centred path.
     float Match(const StrokePath& expected, const StrokePath& drawn) const;
     /// Sum of a[i].x * b[i].x + a[i].y * b[i].y over count points from first; -1.0 when the paths

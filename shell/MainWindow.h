@@ -57,7 +57,7 @@ public:
     User* Learner() const { return m_learner.get(); }
     /// The learner's record of the opened category, or null.
     CategoryProgress* CurrentCategory() const;
-    /// The window's menu actions, for tests and accessibility.
+    /// The window's menu actions.
     QAction* UsersAction() const { return m_usersAction; }
     QAction* ExitAction() const { return m_exitAction; }
     QAction* ContentsAction() const { return m_contentsAction; }

@@ -9,7 +9,7 @@ class Prompt;
 struct StartupOptions {
     /// Close the window right after the home page is first painted (start-up measurements).
     bool quitAfterFirstPaint = false;
-    /// Name of the single-instance lock (tests use their own).
+    /// Name of the single-instance lock: copies started with different names run side by side.
     QString instanceName = QStringLiteral("Quelmar Zavoren! Kanji Learning Program");
 };
 

@@ -6,6 +6,7 @@
 #include "FileCharacterDatabase.h"
 #include "InkFile.h"
 #include "StrokeChecker.h"
+#include "StrokeVerdict.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -26,7 +27,8 @@ const char* const Usage
       "  zavoren-db build --kanjivg DIR --kanjidic FILE --out PATH [--lang en|fr|es|pt] [--set standard|all]\n"
       "  zavoren-db dump [--json] PATH\n"
       "  zavoren-db info PATH\n"
-      "  zavoren-db score --db PATH --char ID --canvas X,Y,W,H --stroke K --ink FILE\n";
+      "  zavoren-db score --db PATH --char ID --canvas X,Y,W,H --stroke K --ink FILE\n"
+      "      prints the checker's score, then its verdict (\"accepted\" or why it was refused)\n";
 
 int Fail(const std::string& message)
 {
@@ -240,7 +242,12 @@ int Score(const std::vector<std::string>& args)
         const CanvasRect canvas{static_cast<std::uint16_t>(rect[0]), static_cast<std::uint16_t>(rect[1]),
             static_cast<std::uint16_t>(rect[2]), static_cast<std::uint16_t>(rect[3])};
         const StrokeChecker checker(element->GetForm(0), canvas, StrokeChecker::PageSampleCount);
-        std::cout << checker.Score(ink, static_cast<std::uint16_t>(stroke)) << '\n';
+        const auto index = static_cast<std::uint16_t>(stroke);
+        std::cout << checker.Score(ink, index) << '\n';
+        // The verdict a learner would read, on a line of its own ("accepted" when it is).
+        const StrokeVerdict verdict = JudgeStroke(checker, ink, index);
+        std::cout << (verdict.kind == StrokeVerdict::Kind::Accepted ? std::string("accepted") : VerdictText(verdict))
+                  << '\n';
     } catch (const ZavorenCommon::DatabaseLoadException& e) {
         return Fail(o["--db"] + ": " + e.what());
     } catch (const std::out_of_range&) {

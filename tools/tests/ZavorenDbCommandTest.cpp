@@ -129,12 +129,16 @@ TEST(ZavorenDb, ScorePrintsTheCheckersScore)
     }
     Result r = RunTool("score --db " + Standard + " --char 0 --canvas 0,0,300,300 --stroke 0 --ink " + ink);
     EXPECT_EQ(r.exitCode, 0) << r.output;
-    EXPECT_EQ(r.output, "1\n");
-    // The same ink judged as a later stroke of the character is misplaced or misshapen.
+    EXPECT_EQ(r.output, "1\naccepted\n");
+    // The same ink judged as a later stroke of the character: refused, and why.
     r = RunTool("score --db " + Standard + " --char 0 --canvas 0,0,300,300 --stroke 2 --ink " + ink);
-    EXPECT_NE(r.output, "1\n");
+    EXPECT_NE(r.output.substr(0, 2), "1\n");
+    EXPECT_NE(r.output.find("\nWrong "), std::string::npos) << r.output;
     r = RunTool("score --db " + Standard + " --char 0 --canvas 0,0,109,109 --stroke 1 --ink " + ink);
-    EXPECT_EQ(r.output, "-1\n");
+    EXPECT_EQ(r.output, "-1\nWrong place: this stroke belongs further up.\n");
+    // Past the last stroke.
+    r = RunTool("score --db " + Standard + " --char 0 --canvas 0,0,300,300 --stroke 60 --ink " + ink);
+    EXPECT_EQ(r.output, "-1\nThe character is already complete.\n");
     std::ofstream(dir / "bad.json") << "[[1,2],[3]";
     r = RunTool(
         "score --db " + Standard + " --char 0 --canvas 0,0,109,109 --stroke 0 --ink " + (dir / "bad.json").string());

@@ -1,0 +1,197 @@
+// The verdict beside the score: its words, and on every stroke of Grade 1 and Grade 2 of the
+// standard database, the intended verdict for the usual mistakes of a learner.
+
+#include "StrokeVerdict.h"
+#include "FileCharacterDatabase.h"
+#include "Flattening.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <iostream>
+#include <map>
+
+namespace {
+
+constexpr std::uint16_t Side = 298;
+const CanvasRect Canvas{0, 0, Side, Side};
+
+/// The stroke as learner ink on the canvas: points about 3 px apart.
+StrokePath AsInk(const Stroke& stroke, const Form& form)
+{
+    StrokePath ink(FlattenStroke(stroke));
+    ink.ScaleAndOffset(float(Side) / form.Width(), float(Side) / form.Height(), 0, 0);
+    ink.ResampleInPlace(std::max<std::uint32_t>(2, static_cast<std::uint32_t>(std::lround(ink.Length() / 3.0f)) + 1));
+    return ink;
+}
+
+StrokePath Transformed(const StrokePath& ink, float scale, float shiftX, float shiftY)
+{
+    const CanvasRect b = ink.Bounds();
+    const float cx = b.x + b.width * 0.5f, cy = b.y + b.height * 0.5f;
+    std::vector<Point> points;
+    for (Point p : ink.Points())
+        points.push_back({cx + (p.x - cx) * scale + shiftX, cy + (p.y - cy) * scale + shiftY});
+    return StrokePath(std::move(points));
+}
+
+StrokePath Reversed(const StrokePath& ink)
+{
+    return StrokePath(std::vector<Point>(ink.Points().rbegin(), ink.Points().rend()));
+}
+
+/// One horizontal stroke across the middle, then one down the middle.
+Form Cross()
+{
+    Form form(100, 100);
+    Stroke across(Point{30, 50});
+    across.AppendSegment(Segment(SegmentType::Line, Point{70, 50}));
+    Stroke down(Point{50, 10});
+    down.AppendSegment(Segment(SegmentType::Line, Point{50, 90}));
+    form.AppendStroke(across);
+    form.AppendStroke(down);
+    return form;
+}
+
+} // namespace
+
+TEST(StrokeVerdict, DirectionWords)
+{
+    EXPECT_EQ(PlaceDirection(-10, 2), "left");
+    EXPECT_EQ(PlaceDirection(10, -4.9f), "right");
+    EXPECT_EQ(PlaceDirection(1, -10), "up");
+    EXPECT_EQ(PlaceDirection(0, 10), "down");
+    EXPECT_EQ(PlaceDirection(-10, -10), "up and to the left");
+    EXPECT_EQ(PlaceDirection(10, -5), "up and to the right"); // twice, not more: both
+    EXPECT_EQ(PlaceDirection(-6, 10), "down and to the left");
+    EXPECT_EQ(PlaceDirection(8, 9), "down and to the right");
+}
+
+TEST(StrokeVerdict, Texts)
+{
+    StrokeVerdict v;
+    EXPECT_EQ(VerdictText(v), "");
+    v.kind = StrokeVerdict::Kind::WrongOrder;
+    v.expected = 1;
+    v.drawnAs = 3;
+    EXPECT_EQ(VerdictText(v), "Wrong order: that is stroke 4. Write stroke 2 first.");
+    v.kind = StrokeVerdict::Kind::WrongDirection;
+    EXPECT_EQ(VerdictText(v), "Wrong direction: start this stroke from the other end.");
+    v.kind = StrokeVerdict::Kind::WrongPlace;
+    v.dx = -30;
+    v.dy = 1;
+    EXPECT_EQ(VerdictText(v), "Wrong place: this stroke belongs further left.");
+    EXPECT_EQ(VerdictText(v, false), "Wrong place.");
+    v.kind = StrokeVerdict::Kind::TooShort;
+    EXPECT_EQ(VerdictText(v), "Too short: this stroke is longer.");
+    v.kind = StrokeVerdict::Kind::TooLong;
+    EXPECT_EQ(VerdictText(v), "Too long: this stroke is shorter.");
+    v.kind = StrokeVerdict::Kind::WrongShape;
+    EXPECT_EQ(VerdictText(v), "Wrong shape: compare it with the model.");
+    v.kind = StrokeVerdict::Kind::CharacterComplete;
+    EXPECT_EQ(VerdictText(v), "The character is already complete.");
+}
+
+TEST(StrokeVerdict, EachKindOnASimpleCharacter)
+{
+    const Form form = Cross();
+    const StrokeChecker checker(form, Canvas);
+    const StrokePath across = AsInk(form.GetStroke(0), form);
+    const StrokePath down = AsInk(form.GetStroke(1), form);
+    using Kind = StrokeVerdict::Kind;
+    EXPECT_EQ(JudgeStroke(checker, across, 0).kind, Kind::Accepted);
+    const StrokeVerdict order = JudgeStroke(checker, down, 0);
+    EXPECT_EQ(order.kind, Kind::WrongOrder);
+    EXPECT_EQ(order.drawnAs, 1);
+    EXPECT_EQ(JudgeStroke(checker, Reversed(across), 0).kind, Kind::WrongDirection);
+    const StrokeVerdict place = JudgeStroke(checker, Transformed(across, 1, 0, 60), 0);
+    EXPECT_EQ(place.kind, Kind::WrongPlace);
+    EXPECT_NEAR(place.dy, -60, 2);
+    EXPECT_EQ(PlaceDirection(place.dx, place.dy), "up");
+    EXPECT_EQ(JudgeStroke(checker, Transformed(across, 0.4f, 0, 0), 0).kind, Kind::TooShort);
+    EXPECT_EQ(JudgeStroke(checker, Transformed(across, 1.9f, 0, 0), 0).kind, Kind::TooLong);
+    // Right place and size, zigzagging.
+    const StrokePath bent(std::vector<Point>{{89, 149}, {119, 129}, {149, 169}, {179, 129}, {209, 149}});
+    EXPECT_EQ(JudgeStroke(checker, bent, 0).kind, Kind::WrongShape);
+    EXPECT_EQ(JudgeStroke(checker, across, 2).kind, Kind::CharacterComplete);
+    EXPECT_EQ(JudgeStroke(checker, StrokePath(std::vector<Point>{{5, 5}}), 0).kind, Kind::TooShort); // a click
+}
+
+TEST(StrokeVerdict, AcceptedExactlyWhenTheScoreAccepts)
+{
+    const Form form = Cross();
+    const StrokeChecker checker(form, Canvas);
+    for (float shift = -40; shift <= 40; shift += 4) {
+        const StrokePath ink = Transformed(AsInk(form.GetStroke(0), form), 1, shift, shift / 2);
+        EXPECT_EQ(JudgeStroke(checker, ink, 0).kind == StrokeVerdict::Kind::Accepted, checker.Score(ink, 0) >= 1.0f);
+    }
+}
+
+TEST(StrokeVerdict, UsualMistakesOnGradeOneAndTwo)
+{
+    FileCharacterDatabase db(ZAVOREN_STANDARD_DATABASE);
+    db.Preload(nullptr);
+    using Kind = StrokeVerdict::Kind;
+    struct Tally {
+        int tried = 0, intended = 0;
+        std::string exceptions;
+    };
+    std::map<std::string, Tally> tallies;
+    std::map<std::string, int> landedOnALaterStroke;
+    auto count = [&](const std::string& name, bool ok, const std::string& where) {
+        Tally& t = tallies[name];
+        ++t.tried;
+        t.intended += ok;
+        if (!ok && t.exceptions.size() < 600)
+            t.exceptions += where + " ";
+    };
+    const float shift = 0.15f * Side;
+    const struct {
+        const char* name;
+        float x, y;
+        const char* word;
+    } moves[] = {{"moved right", shift, 0, "left"}, {"moved left", -shift, 0, "right"}, {"moved down", 0, shift, "up"},
+        {"moved up", 0, -shift, "down"}};
+    for (std::uint16_t category : {0, 1}) {
+        const auto members = db.LoadCategory(category);
+        for (std::uint16_t code : members->Characters()) {
+            const auto character = db.LoadCharacter(code);
+            const auto element = db.LoadElement(character->ElementId());
+            const Form& form = element->GetForm(0);
+            const StrokeChecker checker(form, Canvas);
+            for (std::uint16_t k = 0; k < form.StrokeCount(); ++k) {
+                const std::string where = std::to_string(code) + ":" + std::to_string(k + 1);
+                const StrokePath ink = AsInk(form.GetStroke(k), form);
+                count("exact stroke accepted", JudgeStroke(checker, ink, k).kind == Kind::Accepted, where);
+                count("reversed: wrong direction", JudgeStroke(checker, Reversed(ink), k).kind == Kind::WrongDirection,
+                    where);
+                for (const auto& move : moves) {
+                    const StrokeVerdict v = JudgeStroke(checker, Transformed(ink, 1, move.x, move.y), k);
+                    // Moved onto the place of a later stroke, the ink is that stroke to the
+                    // checker: the order comes first, and says so truly.
+                    const bool ok = (v.kind == Kind::WrongPlace && PlaceDirection(v.dx, v.dy) == move.word)
+                        || (v.kind == Kind::WrongOrder && v.drawnAs > k);
+                    count(std::string(move.name) + ": wrong place, further " + move.word, ok, where);
+                    if (v.kind == Kind::WrongOrder)
+                        ++landedOnALaterStroke[move.name];
+                }
+                count("40 %: too short", JudgeStroke(checker, Transformed(ink, 0.4f, 0, 0), k).kind == Kind::TooShort,
+                    where);
+                if (k + 1 < form.StrokeCount()) {
+                    const StrokeVerdict v = JudgeStroke(checker, AsInk(form.GetStroke(k + 1), form), k);
+                    count("next stroke first: wrong order", v.kind == Kind::WrongOrder && v.drawnAs == k + 1, where);
+                }
+            }
+        }
+    }
+    for (const auto& [name, n] : landedOnALaterStroke)
+        std::cout << name << ": " << n << " landed on a later stroke's place (wrong order)\n";
+    for (const auto& [name, t] : tallies) {
+        const double share = double(t.intended) / t.tried;
+        std::cout << name << ": " << t.intended << " of " << t.tried << " (" << share * 100 << " %)";
+        if (!t.exceptions.empty())
+            std::cout << "; not: " << t.exceptions;
+        std::cout << "\n";
+        EXPECT_GE(share, 0.99) << name;
+    }
+}
