@@ -4,6 +4,7 @@
 #include "Element.h"
 #include "StrokeChecker.h"
 #include "StrokePath.h"
+#include "StrokeVerdict.h"
 
 #include <cstdint>
 #include <memory>
@@ -30,6 +31,12 @@ public:
     /// Whether a drawn stroke is accepted as the stroke expected next: only a score of exactly
     /// 1.0 is. A stroke after the last one is scored at that index too, which refuses it.
     bool Accepts(const StrokePath& ink) const;
+    /// Why a drawn stroke is refused (or that it is accepted, exactly when Accepts says so).
+    StrokeVerdict Judge(const StrokePath& ink) const;
+    /// A drawn stroke was refused: one more miss of the stroke expected next.
+    void StrokeRefused() { ++m_misses; }
+    /// Refusals of the stroke expected next since it became next.
+    int Misses() const { return m_misses; }
     /// An accepted stroke was kept; the hint, if any, is spent.
     void StrokeKept();
     /// The last kept stroke was taken back.
@@ -50,6 +57,7 @@ private:
     std::unique_ptr<Element> m_glyph;
     std::unique_ptr<StrokeChecker> m_checker;
     std::uint16_t m_kept = 0;
+    int m_misses = 0;
     bool m_hintShown = false;
     bool m_revealed = false;
     bool m_peeked = false;

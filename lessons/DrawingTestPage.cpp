@@ -3,6 +3,7 @@
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
 #include "DisplayCanvas.h"
+#include "FeedbackLine.h"
 #include "GlyphLoading.h"
 #include "InputCanvas.h"
 #include "Page.h"
@@ -17,6 +18,11 @@ DrawingTestPage::DrawingTestPage(CharacterDatabase& database, Prompt& prompt, QW
     Display()->MakeSquare();
     Input()->MakeSquare();
     Input()->setCursor(WritingCursor());
+    // Right under the writing canvas, in the grid's free row.
+    m_feedback = new FeedbackLine(this);
+    m_ui->grid->addWidget(m_feedback, 1, 1);
+    m_coach = std::make_unique<WritingCoach>(Input(), m_feedback, WritingCoach::Mode::Test);
+    connect(Input(), &InputCanvas::strokeStarted, this, [this] { m_coach->Quiet(); });
     connect(Input(), &InputCanvas::strokeEnded, this, &DrawingTestPage::OnStrokeEnded, Qt::DirectConnection);
     connect(Input(), &InputCanvas::strokeKept, this, &DrawingTestPage::OnStrokeKept, Qt::DirectConnection);
     connect(Display(), &DisplayCanvas::clicked, this, &DrawingTestPage::OnDisplayClicked);
@@ -54,6 +60,7 @@ void DrawingTestPage::SetCharacter(const Character* character)
     OnReadingLabel()->setText(TextOrNotAvailable(character ? character->OnReading() : nullptr));
     KunReadingLabel()->setText(TextOrNotAvailable(character ? character->KunReading() : nullptr));
     MeaningLabel()->setText(TextOrNotAvailable(character ? character->Meaning() : nullptr));
+    m_coach->Quiet();
     Display()->StopAnimation();
     Display()->Wipe();
     Input()->Wipe();
@@ -66,10 +73,20 @@ bool DrawingTestPage::IsAnswered() const
     return m_quiz.IsComplete();
 }
 
+void DrawingTestPage::SetCoaching(const CoachingPreferences& preferences)
+{
+    m_coach->SetPreferences(preferences);
+}
+
 void DrawingTestPage::OnStrokeEnded()
 {
-    if (!m_quiz.Accepts(Input()->CurrentStroke()))
+    const StrokePath ink = Input()->CurrentStroke();
+    if (!m_quiz.Accepts(ink)) {
+        const StrokeVerdict verdict = m_quiz.Judge(ink);
         Input()->Undo();
+        m_quiz.StrokeRefused();
+        m_coach->Refused(verdict, ink, m_quiz.Glyph());
+    }
 }
 
 void DrawingTestPage::OnStrokeKept()

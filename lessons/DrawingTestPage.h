@@ -2,6 +2,7 @@
 
 #include "Element.h"
 #include "QuestionPage.h"
+#include "WritingCoach.h"
 #include "WritingQuiz.h"
 
 #include <memory>
@@ -9,6 +10,7 @@
 class CharacterDatabase;
 class Prompt;
 class DisplayCanvas;
+class FeedbackLine;
 class InputCanvas;
 class QLabel;
 namespace Ui {
@@ -30,6 +32,10 @@ public:
     bool Revealed() const { return m_quiz.Revealed(); }
     bool Peeked() const { return m_quiz.Peeked(); }
     const Form* Glyph() const { return m_quiz.Glyph(); }
+    /// The line under the writing canvas that says why a stroke was refused.
+    FeedbackLine* Feedback() const { return m_feedback; }
+    /// Switches the writing aids (there is no hint after misses in a test).
+    void SetCoaching(const CoachingPreferences& preferences);
     DisplayCanvas* Display() const;
     InputCanvas* Input() const;
     QLabel* OnReadingLabel() const;
@@ -47,4 +53,6 @@ private:
     Prompt& m_prompt;
     const Character* m_character = nullptr;
     WritingQuiz m_quiz;
+    FeedbackLine* m_feedback = nullptr;
+    std::unique_ptr<WritingCoach> m_coach;
 };

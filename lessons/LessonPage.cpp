@@ -3,6 +3,7 @@
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
 #include "DisplayCanvas.h"
+#include "FeedbackLine.h"
 #include "GlyphLoading.h"
 #include "InputCanvas.h"
 #include "Prompt.h"
@@ -31,6 +32,11 @@ LessonPage::LessonPage(CharacterDatabase& database, Prompt& prompt, QWidget* par
     Display()->MakeSquare();
     Input()->MakeSquare();
     Input()->setCursor(WritingCursor());
+    // Right under the writing canvas: its column grows by the line, nothing else moves.
+    m_feedback = new FeedbackLine(this);
+    m_ui->rightColumn->insertWidget(m_ui->rightColumn->indexOf(Input()) + 1, m_feedback);
+    m_coach = std::make_unique<WritingCoach>(Input(), m_feedback, WritingCoach::Mode::Lesson);
+    connect(Input(), &InputCanvas::strokeStarted, this, [this] { m_coach->Quiet(); });
     connect(Input(), &InputCanvas::strokeEnded, this, &LessonPage::OnStrokeEnded, Qt::DirectConnection);
     connect(Input(), &InputCanvas::strokeKept, this, &LessonPage::OnStrokeKept, Qt::DirectConnection);
     connect(Display(), &DisplayCanvas::clicked, this, [this] {
@@ -49,14 +55,7 @@ LessonPage::LessonPage(CharacterDatabase& database, Prompt& prompt, QWidget* par
         m_quiz.StrokeUndone();
         RefreshControls();
     });
-    connect(HintButton(), &QPushButton::clicked, this, [this] {
-        const Form* glyph = m_quiz.Glyph();
-        if (!glyph)
-            return;
-        Input()->ShowHint(*glyph, m_quiz.Kept());
-        m_quiz.ShowHint();
-        RefreshControls();
-    });
+    connect(HintButton(), &QPushButton::clicked, this, &LessonPage::ShowHint);
     connect(AbortButton(), &QPushButton::clicked, this, &LessonPage::Cancel);
     connect(NextButton(), &QPushButton::clicked, this, &LessonPage::OnNext);
     RefreshControls();
@@ -124,6 +123,7 @@ void LessonPage::LoadCharacter()
         box->setChecked(false);
     }
     m_quiz.Start(nullptr, {});
+    m_coach->Quiet();
     m_character.reset();
     Display()->StopAnimation();
     const auto code = m_session.Current();
@@ -161,10 +161,34 @@ void LessonPage::RefreshControls()
     UndoButton()->setEnabled(s.clearAndUndoEnabled);
 }
 
+void LessonPage::SetCoaching(const CoachingPreferences& preferences)
+{
+    m_coach->SetPreferences(preferences);
+}
+
+void LessonPage::ShowHint()
+{
+    const Form* glyph = m_quiz.Glyph();
+    if (!glyph)
+        return;
+    Input()->ShowHint(*glyph, m_quiz.Kept());
+    m_quiz.ShowHint();
+    RefreshControls();
+}
+
 void LessonPage::OnStrokeEnded()
 {
-    if (!m_quiz.Accepts(Input()->CurrentStroke()))
+    const StrokePath ink = Input()->CurrentStroke();
+    if (!m_quiz.Accepts(ink)) {
+        const StrokeVerdict verdict = m_quiz.Judge(ink);
         Input()->Undo();
+        m_quiz.StrokeRefused();
+        m_coach->Refused(verdict, ink, m_quiz.Glyph());
+        // Three misses of one stroke: its start is shown, as Hint would show it.
+        if (m_coach->Preferences().hintAfterMisses && m_quiz.Misses() >= 3 && !m_quiz.HintShown()
+            && m_quiz.Kept() < m_quiz.StrokeCount())
+            ShowHint();
+    }
     RefreshControls();
 }
 

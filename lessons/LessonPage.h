@@ -4,6 +4,7 @@
 #include "Element.h"
 #include "LessonSession.h"
 #include "Page.h"
+#include "WritingCoach.h"
 #include "WritingQuiz.h"
 
 #include <memory>
@@ -12,6 +13,7 @@
 class CharacterDatabase;
 class Prompt;
 class DisplayCanvas;
+class FeedbackLine;
 class InputCanvas;
 class QCheckBox;
 namespace Ui {
@@ -46,6 +48,10 @@ public:
     QPushButton* NextButton() const;
     /// The glyph being taught, or null.
     const Form* Glyph() const;
+    /// The line under the writing canvas that says why a stroke was refused.
+    FeedbackLine* Feedback() const { return m_feedback; }
+    /// Switches the writing aids.
+    void SetCoaching(const CoachingPreferences& preferences);
 
 protected:
     void Cancel() override;
@@ -55,6 +61,7 @@ protected:
 private:
     void LoadCharacter();
     void RefreshControls();
+    void ShowHint();
     void OnStrokeEnded();
     void OnStrokeKept();
     void OnNext();
@@ -64,5 +71,7 @@ private:
     Prompt& m_prompt;
     std::unique_ptr<Character> m_character;
     WritingQuiz m_quiz;
+    FeedbackLine* m_feedback = nullptr;
+    std::unique_ptr<WritingCoach> m_coach;
     LessonSession m_session;
 };

@@ -116,3 +116,24 @@ TEST(WritingQuiz, StartingAgainForgetsTheLastCharacter)
     EXPECT_EQ(quiz.Kept(), 0);
     EXPECT_FALSE(quiz.HintShown());
 }
+
+TEST(WritingQuiz, MissesCountRefusalsOfTheStrokeExpectedNext)
+{
+    WritingQuiz quiz;
+    quiz.Start(TwoStrokes(), Canvas);
+    EXPECT_EQ(quiz.Judge(Ink(quiz, 1)).kind, StrokeVerdict::Kind::WrongOrder);
+    EXPECT_EQ(quiz.Judge(Ink(quiz, 0)).kind, StrokeVerdict::Kind::Accepted);
+    quiz.StrokeRefused();
+    quiz.StrokeRefused();
+    EXPECT_EQ(quiz.Misses(), 2);
+    quiz.StrokeKept();
+    EXPECT_EQ(quiz.Misses(), 0); // a new stroke is expected
+    quiz.StrokeRefused();
+    quiz.Restart();
+    EXPECT_EQ(quiz.Misses(), 0);
+    quiz.StrokeKept();
+    quiz.StrokeKept();
+    EXPECT_EQ(quiz.Judge(Ink(quiz, 1)).kind, StrokeVerdict::Kind::CharacterComplete);
+    quiz.Start(nullptr, Canvas);
+    EXPECT_EQ(quiz.Judge(StrokePath(std::vector<Point>{{1, 1}, {50, 50}})).kind, StrokeVerdict::Kind::CharacterComplete);
+}

@@ -1,0 +1,54 @@
+#include "WritingCoach.h"
+
+#include "FeedbackLine.h"
+#include "InputCanvas.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+WritingCoach::WritingCoach(InputCanvas* canvas, FeedbackLine* line, Mode mode)
+    : m_canvas(canvas), m_line(line), m_mode(mode)
+{
+    SetPreferences(m_preferences);
+}
+
+void WritingCoach::SetPreferences(const CoachingPreferences& preferences)
+{
+    m_preferences = preferences;
+    m_line->setVisible(preferences.explainRefusals);
+    m_line->Clear();
+    m_canvas->SetGuideLines(preferences.practiceGrid);
+}
+
+void WritingCoach::Refused(const StrokeVerdict& verdict, const StrokePath& ink, const Form* glyph)
+{
+    if (!m_preferences.explainRefusals)
+        return;
+    const bool lesson = m_mode == Mode::Lesson;
+    m_line->Say(QCoreApplication::translate("WritingCoach", VerdictText(verdict, lesson).c_str()));
+    InputCanvas::Refusal refusal;
+    refusal.ink = ink.Points();
+    if (lesson && verdict.kind == StrokeVerdict::Kind::WrongPlace && !ink.Points().empty()) {
+        float left = ink.Points().front().x, right = left, top = ink.Points().front().y, bottom = top;
+        for (Point p : ink.Points()) {
+            left = std::min(left, p.x);
+            right = std::max(right, p.x);
+            top = std::min(top, p.y);
+            bottom = std::max(bottom, p.y);
+        }
+        const QPointF from((left + right) / 2, (top + bottom) / 2);
+        refusal.arrowFrom = from;
+        refusal.arrowTo = from + QPointF(verdict.dx, verdict.dy);
+    }
+    if (lesson && verdict.kind == StrokeVerdict::Kind::WrongDirection && glyph) {
+        refusal.startOf = glyph;
+        refusal.strokeIndex = verdict.expected;
+    }
+    m_canvas->ShowRefusal(std::move(refusal));
+}
+
+void WritingCoach::Quiet()
+{
+    m_line->Clear();
+}

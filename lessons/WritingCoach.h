@@ -1,0 +1,35 @@
+#pragma once
+
+#include "CoachingPreferences.h"
+#include "Form.h"
+#include "StrokePath.h"
+#include "StrokeVerdict.h"
+
+class FeedbackLine;
+class InputCanvas;
+
+/// The aids around a writing canvas, as the lesson and the drawing test give them: the line that
+/// says why a stroke was refused, the refusal shown on the canvas for a moment, and the guide
+/// lines. In the drawing test nothing gives the character away: a misplaced stroke is only
+/// "Wrong place." and no arrow or start mark is drawn.
+class WritingCoach {
+public:
+    enum class Mode { Lesson, Test };
+
+    WritingCoach(InputCanvas* canvas, FeedbackLine* line, Mode mode);
+
+    /// Switches the aids; all off, the canvas and the page are as they always were.
+    void SetPreferences(const CoachingPreferences& preferences);
+    const CoachingPreferences& Preferences() const { return m_preferences; }
+
+    /// A stroke was refused with this verdict; `ink` is what was drawn, `glyph` the model.
+    void Refused(const StrokeVerdict& verdict, const StrokePath& ink, const Form* glyph);
+    /// A stroke begins, or the character changes: the line empties.
+    void Quiet();
+
+private:
+    InputCanvas* m_canvas;
+    FeedbackLine* m_line;
+    Mode m_mode;
+    CoachingPreferences m_preferences;
+};

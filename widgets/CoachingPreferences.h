@@ -1,0 +1,16 @@
+#pragma once
+
+/// The writing aids a learner can switch off (Tools > Preferences). All on by default; all off,
+/// the pages behave exactly as the program always has.
+struct CoachingPreferences {
+    /// Say why a stroke was refused, show the refused ink fading, the way to a misplaced
+    /// stroke's place and the start of a reversed one.
+    bool explainRefusals = true;
+    /// Faint guide lines through the middle of the writing canvas.
+    bool practiceGrid = true;
+    /// In a lesson, after three refusals of the same stroke, show where it starts.
+    bool hintAfterMisses = true;
+
+    static CoachingPreferences AllOff() { return {false, false, false}; }
+    bool operator==(const CoachingPreferences&) const = default;
+};
