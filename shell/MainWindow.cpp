@@ -5,9 +5,11 @@
 #include "CharacterDatabase.h"
 #include "ConfigException.h"
 #include "ConfigStore.h"
+#include "DrawingTestPage.h"
 #include "HelpActions.h"
 #include "HomePage.h"
 #include "LessonPage.h"
+#include "PreferencesDialog.h"
 #include "ProgressRecorder.h"
 #include "Prompt.h"
 #include "TestContainer.h"
@@ -73,6 +75,7 @@ MainWindow::MainWindow(
             page, &Page::pageEvent, this,
             [this, page](quint16 code, quint16 argument) { OnPageEvent(page, code, argument); }, Qt::DirectConnection);
     }
+    ApplyPreferences(LoadCoachingPreferences());
     for (const QKeySequence& keys : IgnoredKeys)
         new QShortcut(
             keys, this, [] {}, Qt::WindowShortcut);
@@ -82,12 +85,41 @@ MainWindow::MainWindow(
 
 MainWindow::~MainWindow() = default;
 
+void MainWindow::ApplyPreferences(const CoachingPreferences& preferences)
+{
+    m_preferences = preferences;
+    m_lesson->SetCoaching(preferences);
+    m_test->DrawingPage()->SetCoaching(preferences);
+    // The feedback line shows or hides under the canvases: the pages take their new sizes.
+    for (Page* page : {static_cast<Page*>(m_lesson), static_cast<Page*>(m_test)}) {
+        page->setMinimumSize(0, 0);
+        page->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        page->adjustSize();
+        page->setFixedSize(page->size());
+    }
+    if (Page* shown = m_shown) {
+        m_shown = nullptr;
+        ShowPage(shown);
+    }
+}
+
+void MainWindow::ChangePreferences()
+{
+    PreferencesDialog dialog(m_preferences, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    ApplyPreferences(dialog.Chosen());
+    SaveCoachingPreferences(m_preferences);
+}
+
 void MainWindow::BuildMenu()
 {
     QMenu* file = menuBar()->addMenu(tr("&File"));
     m_usersAction = file->addAction(QStringLiteral("Users"), this, &MainWindow::ChooseLearner);
     file->addSeparator();
     m_exitAction = file->addAction(QStringLiteral("Exit"), this, &QWidget::close);
+    QMenu* tools = menuBar()->addMenu(tr("&Tools"));
+    m_preferencesAction = tools->addAction(tr("Preferences…"), this, &MainWindow::ChangePreferences);
     QMenu* help = menuBar()->addMenu(tr("&Help"));
     m_contentsAction = help->addAction(QStringLiteral("Contents"), this, [this] { OpenHelpContents(m_open); });
     QMenu* links = help->addMenu(QStringLiteral("Links"));

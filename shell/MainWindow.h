@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CoachingPreferences.h"
 #include "Random15.h"
 #include "UrlOpener.h"
 #include "User.h"
@@ -63,6 +64,10 @@ public:
     QAction* ContentsAction() const { return m_contentsAction; }
     QAction* SiteAction() const { return m_siteAction; }
     QAction* AboutAction() const { return m_aboutAction; }
+    QAction* PreferencesAction() const { return m_preferencesAction; }
+    /// Switches the writing aids on the lesson and the drawing test.
+    void ApplyPreferences(const CoachingPreferences& preferences);
+    const CoachingPreferences& Preferences() const { return m_preferences; }
 
 signals:
     /// The window has closed normally (the program ends with exit code 1).
@@ -77,6 +82,7 @@ private:
     void ApplyTestOutcome();
     void ShowCategoryPage();
     void ReportStoreError(const char* message);
+    void ChangePreferences();
     int RunUserManager();
 
     CharacterDatabase& m_database;
@@ -99,5 +105,7 @@ private:
     QAction* m_contentsAction = nullptr;
     QAction* m_siteAction = nullptr;
     QAction* m_aboutAction = nullptr;
+    QAction* m_preferencesAction = nullptr;
+    CoachingPreferences m_preferences;
     bool m_closing = false;
 };

@@ -20,6 +20,7 @@ void FeedbackLine::Say(const QString& message)
     QAccessible::updateAccessibility(&changed);
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+    emit announced(message);
 }
 
 void FeedbackLine::Clear()

@@ -14,4 +14,8 @@ public:
     void Say(const QString& message);
     /// Empties the line (its height stays, so nothing below it moves).
     void Clear();
+
+signals:
+    /// A message was shown and announced to assistive technology.
+    void announced(const QString& message);
 };

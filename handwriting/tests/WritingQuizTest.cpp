@@ -135,5 +135,6 @@ TEST(WritingQuiz, MissesCountRefusalsOfTheStrokeExpectedNext)
     quiz.StrokeKept();
     EXPECT_EQ(quiz.Judge(Ink(quiz, 1)).kind, StrokeVerdict::Kind::CharacterComplete);
     quiz.Start(nullptr, Canvas);
-    EXPECT_EQ(quiz.Judge(StrokePath(std::vector<Point>{{1, 1}, {50, 50}})).kind, StrokeVerdict::Kind::CharacterComplete);
+    EXPECT_EQ(
+        quiz.Judge(StrokePath(std::vector<Point>{{1, 1}, {50, 50}})).kind, StrokeVerdict::Kind::CharacterComplete);
 }

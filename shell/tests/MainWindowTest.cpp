@@ -5,11 +5,13 @@
 #include "CharacterGrid.h"
 #include "ConfigStore.h"
 #include "DrawingTestPage.h"
+#include "FeedbackLine.h"
 #include "HelpActions.h"
 #include "HomePage.h"
 #include "InputCanvas.h"
 #include "LessonPage.h"
 #include "ModalAnswerer.h"
+#include "PreferencesDialog.h"
 #include "ReadingTestPage.h"
 #include "RecordingPrompt.h"
 #include "ShellTestSupport.h"
@@ -382,7 +384,7 @@ private slots:
         QStringList menus;
         for (QAction* a : window.menuBar()->actions())
             menus << a->text();
-        QCOMPARE(menus, (QStringList{"&File", "&Help"}));
+        QCOMPARE(menus, (QStringList{"&File", "&Tools", "&Help"}));
         QCOMPARE(window.UsersAction()->text(), QStringLiteral("Users"));
         QCOMPARE(window.ExitAction()->text(), QStringLiteral("Exit"));
         QCOMPARE(window.ContentsAction()->text(), QStringLiteral("Contents"));
@@ -418,6 +420,43 @@ private slots:
         // Exit closes and saves.
         window.ExitAction()->trigger();
         QVERIFY(!window.isVisible());
+    }
+
+    void preferencesSwitchTheWritingAidsAndAreKept()
+    {
+        DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
+        {
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
+            QVERIFY(window.ChooseLearnerAtStart());
+            window.ShowChosenLearner();
+            QCOMPARE(window.Preferences(), CoachingPreferences{}); // all on at first
+            QVERIFY(window.PreferencesAction()->isEnabled());
+            QCOMPARE(window.PreferencesAction()->text(), QStringLiteral("Preferences…"));
+            const QSize withLine = window.Lesson()->size();
+            ModalAnswerer<PreferencesDialog> untick([](PreferencesDialog& dialog) {
+                QCOMPARE(dialog.ExplainBox()->text(), QStringLiteral("Explain refused strokes"));
+                QCOMPARE(dialog.GridBox()->text(), QStringLiteral("Practice grid"));
+                QCOMPARE(dialog.HintBox()->text(), QStringLiteral("Show where a stroke starts after three misses"));
+                for (QCheckBox* box : {dialog.ExplainBox(), dialog.GridBox(), dialog.HintBox()}) {
+                    QVERIFY(box->isChecked());
+                    QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2));
+                }
+                dialog.accept();
+            });
+            window.PreferencesAction()->trigger();
+            QCOMPARE(untick.Shown(), 1);
+            QCOMPARE(window.Preferences(), CoachingPreferences::AllOff());
+            QVERIFY(!window.Lesson()->Input()->GuideLines());
+            QVERIFY(!window.Test()->DrawingPage()->Input()->GuideLines());
+            // The feedback line is gone, and the page takes no room for it.
+            QVERIFY(!window.Lesson()->Feedback()->isVisibleTo(window.Lesson()));
+            QVERIFY(window.Lesson()->height() <= withLine.height());
+            window.close();
+        }
+        ReleaseDataStores();
+        MainWindow again(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
+        QCOMPARE(again.Preferences(), CoachingPreferences::AllOff());
+        QVERIFY(!again.Lesson()->Feedback()->isVisibleTo(again.Lesson()));
     }
 
     void splashStartsAtThreeQuartersThenFollowsTheReader()

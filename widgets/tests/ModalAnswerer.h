@@ -10,7 +10,7 @@
 
 #include <functional>
 
-template <typename Dialog> class ModalAnswerer : public QObject {
+template<typename Dialog> class ModalAnswerer : public QObject {
 public:
     explicit ModalAnswerer(std::function<void(Dialog&)> answer) : m_answer(std::move(answer))
     {

@@ -1,0 +1,62 @@
+#include "PreferencesDialog.h"
+
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QSettings>
+#include <QVBoxLayout>
+
+namespace {
+
+QSettings Settings()
+{
+    return QSettings(QStringLiteral("Zavoren"), QStringLiteral("Zavoren"));
+}
+
+const char* const ExplainKey = "Preferences/ExplainRefusedStrokes";
+const char* const GridKey = "Preferences/PracticeGrid";
+const char* const HintKey = "Preferences/HintAfterThreeMisses";
+
+} // namespace
+
+PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWidget* parent) : QDialog(parent)
+{
+    setWindowTitle(tr("Preferences"));
+    auto* layout = new QVBoxLayout(this);
+    m_explain = new QCheckBox(tr("Explain refused strokes"), this);
+    m_grid = new QCheckBox(tr("Practice grid"), this);
+    m_hint = new QCheckBox(tr("Show where a stroke starts after three misses"), this);
+    m_explain->setChecked(preferences.explainRefusals);
+    m_grid->setChecked(preferences.practiceGrid);
+    m_hint->setChecked(preferences.hintAfterMisses);
+    for (QCheckBox* box : {m_explain, m_grid, m_hint}) {
+        box->setAccessibleName(box->text());
+        layout->addWidget(box);
+    }
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    layout->addWidget(buttons);
+}
+
+CoachingPreferences PreferencesDialog::Chosen() const
+{
+    return {m_explain->isChecked(), m_grid->isChecked(), m_hint->isChecked()};
+}
+
+CoachingPreferences LoadCoachingPreferences()
+{
+    const QSettings settings = Settings();
+    CoachingPreferences p;
+    p.explainRefusals = settings.value(QLatin1String(ExplainKey), p.explainRefusals).toBool();
+    p.practiceGrid = settings.value(QLatin1String(GridKey), p.practiceGrid).toBool();
+    p.hintAfterMisses = settings.value(QLatin1String(HintKey), p.hintAfterMisses).toBool();
+    return p;
+}
+
+void SaveCoachingPreferences(const CoachingPreferences& preferences)
+{
+    QSettings settings = Settings();
+    settings.setValue(QLatin1String(ExplainKey), preferences.explainRefusals);
+    settings.setValue(QLatin1String(GridKey), preferences.practiceGrid);
+    settings.setValue(QLatin1String(HintKey), preferences.hintAfterMisses);
+}
