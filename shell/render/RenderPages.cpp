@@ -1,0 +1,153 @@
+// Renders the program's pages offscreen into PNG files, so that a change to a page can be looked
+// at: home, category (with learned and untested characters), lesson (mid-character, after a
+// refused stroke), reading test, drawing test, Kanji Info, User Manager, About.
+//   render_pages DATABASE OUTPUT_FOLDER [--dark]
+// Run with QT_QPA_PLATFORM=offscreen, and QT_SCALE_FACTOR=2 for a device pixel ratio of 2.
+
+#include "AboutDialog.h"
+#include "CategoryPage.h"
+#include "DrawingTestPage.h"
+#include "FileCharacterDatabase.h"
+#include "Flattening.h"
+#include "HomePage.h"
+#include "InputCanvas.h"
+#include "KanjiInfoDialog.h"
+#include "LessonPage.h"
+#include "MessageBoxPrompt.h"
+#include "ReadingTestPage.h"
+#include "TestContainer.h"
+#include "User.h"
+#include "UserManagerDialog.h"
+#include "XmlConfigStore.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QMouseEvent>
+#include <QPalette>
+#include <QStyleFactory>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cmath>
+#include <cstdio>
+#include <fstream>
+
+namespace {
+
+QPalette DarkPalette()
+{
+    QPalette p;
+    const QColor window(45, 45, 48), base(30, 30, 30), text(230, 230, 230);
+    p.setColor(QPalette::Window, window);
+    p.setColor(QPalette::WindowText, text);
+    p.setColor(QPalette::Base, base);
+    p.setColor(QPalette::AlternateBase, window);
+    p.setColor(QPalette::Text, text);
+    p.setColor(QPalette::Button, window);
+    p.setColor(QPalette::ButtonText, text);
+    p.setColor(QPalette::Highlight, QColor(42, 130, 218));
+    p.setColor(QPalette::HighlightedText, Qt::white);
+    p.setColor(QPalette::Mid, QColor(110, 110, 110));
+    p.setColor(QPalette::PlaceholderText, QColor(150, 150, 150));
+    return p;
+}
+
+bool Save(QWidget& widget, const QString& folder, const QString& name)
+{
+    widget.show();
+    if (!QTest::qWaitForWindowExposed(&widget))
+        return false;
+    QApplication::processEvents();
+    const QString path = QDir(folder).filePath(name + QStringLiteral(".png"));
+    const bool saved = widget.grab().save(path);
+    std::printf("%s %s (%dx%d logical, ratio %.2f)\n", saved ? "wrote" : "FAILED", qPrintable(path), widget.width(),
+        widget.height(), widget.devicePixelRatioF());
+    return saved;
+}
+
+/// Presses, moves and releases the mouse along a glyph's stroke, shifted, as a learner would.
+void Write(InputCanvas* canvas, const Form& glyph, std::uint16_t stroke, float shiftY)
+{
+    const float side = static_cast<float>(canvas->ClientRect().width());
+    std::vector<Point> points = FlattenStroke(glyph.GetStroke(stroke));
+    const QPoint offset = canvas->contentsRect().topLeft();
+    auto at = [&](Point p) {
+        return QPoint(static_cast<int>(p.x * side / glyph.Width()), static_cast<int>(p.y * side / glyph.Height() + shiftY))
+            + offset;
+    };
+    QTest::mousePress(canvas, Qt::LeftButton, Qt::NoModifier, at(points.front()));
+    for (std::size_t i = 1; i < points.size(); ++i)
+        QTest::mouseMove(canvas, at(points[i]));
+    QTest::mouseRelease(canvas, Qt::LeftButton, Qt::NoModifier, at(points.back()));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    if (argc < 3) {
+        std::fprintf(stderr, "usage: render_pages DATABASE OUTPUT_FOLDER [--dark]\n");
+        return 2;
+    }
+    if (argc > 3 && QString::fromLocal8Bit(argv[3]) == QLatin1String("--dark")) {
+        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+        QApplication::setPalette(DarkPalette());
+    }
+    const QString out = QString::fromLocal8Bit(argv[2]);
+    QDir().mkpath(out);
+    FileCharacterDatabase db(argv[1]);
+    db.Preload(nullptr);
+    MessageBoxPrompt prompt;
+    auto seeds = [] { return 7u; };
+    bool ok = true;
+
+    const auto grade1 = db.LoadCategory(0)->Characters();
+    User learner;
+    learner.SetName("Anna");
+    for (std::size_t i = 0; i < 12; ++i)
+        learner.GetProgress(0).AddLearned(grade1[i]);
+    for (std::size_t i = 12; i < 16; ++i)
+        learner.GetProgress(0).AddUntested(grade1[i]);
+
+    HomePage home(db, prompt);
+    home.SetUser(&learner);
+    ok &= Save(home, out, QStringLiteral("home"));
+
+    CategoryPage category(db, prompt, seeds);
+    category.SetCategory(0, &learner.GetProgress(0));
+    ok &= Save(category, out, QStringLiteral("category"));
+
+    // 日: its first stroke written, then the second drawn too low (refused, with the arrow).
+    LessonPage lesson(db, prompt);
+    lesson.StartLesson({grade1[0]});
+    ok &= Save(lesson, out, QStringLiteral("lesson-empty"));
+    Write(lesson.Input(), *lesson.Glyph(), 0, 0);
+    Write(lesson.Input(), *lesson.Glyph(), 1, 45);
+    ok &= Save(lesson, out, QStringLiteral("lesson-refused"));
+
+    TestContainer test(db, prompt, seeds);
+    test.StartTest({grade1[3], grade1[7]});
+    ok &= Save(test, out, QStringLiteral("reading-test"));
+
+    DrawingTestPage drawing(db, prompt);
+    const auto character = db.LoadCharacter(grade1[0]);
+    drawing.SetCharacter(character.get());
+    Write(drawing.Input(), *drawing.Glyph(), 0, 45);
+    ok &= Save(drawing, out, QStringLiteral("drawing-test"));
+
+    KanjiInfoDialog info(db, prompt);
+    info.SetCode(grade1[5]);
+    ok &= Save(info, out, QStringLiteral("kanji-info"));
+
+    QTemporaryDir folder;
+    const std::string config = QDir(folder.path()).filePath(QStringLiteral("config.xml")).toStdString();
+    std::ofstream(config) << R"(<Zavoren><Users currentUser="Anna"><User name="Anna"/><User name="Ben"/></Users></Zavoren>)";
+    XmlConfigStore store(config, db);
+    UserManagerDialog manager(store, prompt);
+    ok &= Save(manager, out, QStringLiteral("user-manager"));
+
+    AboutDialog about([](const QUrl&) { return false; });
+    ok &= Save(about, out, QStringLiteral("about"));
+    return ok ? 0 : 1;
+}
