@@ -243,6 +243,16 @@ const Element& FileCharacterDatabase::LoadPart(std::uint16_t id)
     return *part;
 }
 
+std::optional<std::size_t> FileCharacterDatabase::CheckPlainElement(std::uint16_t id) const
+{
+    RecordBytes record;
+    if (!ReadRecord(m_elementDictionary[id], record))
+        throw DatabaseLoadException("Unable to load element");
+    ByteReader reader(record.data, record.size, "Unable to load element");
+    LoadBudget budget;
+    return CheckPlainElementRecord(reader, budget);
+}
+
 std::unique_ptr<Element> FileCharacterDatabase::ParseElement(std::uint16_t id)
 {
     RecordBytes record;
@@ -330,14 +340,21 @@ void FileCharacterDatabase::Preload(DatabaseProgress* progress)
         if (progress)
             progress->SetPosition(std::uint32_t{characters} + id);
         const auto eid = static_cast<std::uint16_t>(id);
-        std::unique_ptr<Element> element = ElementExists(eid) ? LoadElement(eid) : nullptr;
-        if (element) {
-            const std::size_t items = ItemCount(*element);
-            if (items > MaxPreloadItems - m_preloadItems)
+        const bool present = ElementExists(eid);
+        std::unique_ptr<Element> element;
+        if (present) {
+            // An element of plain strokes held in memory is checked where it lies; others are
+            // loaded whole (a composition needs its parts).
+            std::optional<std::size_t> items = m_descriptor < 0 ? CheckPlainElement(eid) : std::nullopt;
+            if (!items) {
+                element = LoadElement(eid);
+                items = ItemCount(*element);
+            }
+            if (*items > MaxPreloadItems - m_preloadItems)
                 throw DatabaseLoadException("Unable to load element");
-            m_preloadItems += items;
+            m_preloadItems += *items;
         }
-        m_elementPresent.push_back(element != nullptr);
+        m_elementPresent.push_back(present);
         // A file read at offsets may change under the reader: keep what was read.
         if (m_descriptor >= 0)
             m_elementCache.push_back(std::move(element));

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -64,6 +65,9 @@ private:
     std::unique_ptr<Element> LoadTopLevelElement(std::uint16_t id);
     const Element& LoadPart(std::uint16_t id);
     std::unique_ptr<Element> ParseElement(std::uint16_t id);
+    /// Checks an element of plain strokes without building it: its strokes and segments, or
+    /// nothing for one that composes others.
+    std::optional<std::size_t> CheckPlainElement(std::uint16_t id) const;
 
     std::vector<std::unique_ptr<Character>> m_characterCache;
     // Which element ids have an element, after Preload. The elements themselves are kept only

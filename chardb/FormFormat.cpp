@@ -119,6 +119,38 @@ void ParseElementRecord(ByteReader& reader, Element& element, const ElementLoade
     }
 }
 
+std::optional<std::size_t> CheckPlainElementRecord(ByteReader& reader, LoadBudget& budget)
+{
+    std::size_t items = 0;
+    const std::uint8_t formCount = reader.U8();
+    for (int f = 0; f < formCount; ++f) {
+        const std::size_t formStart = reader.Position();
+        const std::uint8_t strokeCount = reader.U8();
+        const std::uint8_t kind = reader.U8();
+        reader.Skip(4); // box
+        if (kind == static_cast<std::uint8_t>(FormKind::Composed))
+            return std::nullopt;
+        if (kind != static_cast<std::uint8_t>(FormKind::Strokes)) {
+            reader.SetPosition(formStart); // as ParseElementRecord: read again from here
+            continue;
+        }
+        for (int s = 0; s < strokeCount; ++s) {
+            const std::uint8_t segmentCount = reader.U8();
+            budget.Spend(std::size_t{1} + segmentCount);
+            items += std::size_t{1} + segmentCount;
+            reader.Skip(8); // start point
+            for (int k = 0; k < segmentCount; ++k) {
+                const std::uint8_t type = reader.U8();
+                if (type == 0 || type == 2)
+                    reader.Skip(8);
+                else if (type == 1)
+                    reader.Skip(24);
+            }
+        }
+    }
+    return items;
+}
+
 void ComposePlacement(Form& target, const Form& source, const Placement& placement)
 {
     const float sx = static_cast<float>(placement.width) / static_cast<float>(source.Width());

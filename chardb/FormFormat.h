@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 /// Kind byte of a form record.
@@ -57,6 +58,12 @@ struct LoadBudget {
 /// when the record ends early or the load would pass `budget`, and std::out_of_range for a
 /// placement whose form number is not a form of the placed element.
 void ParseElementRecord(ByteReader& reader, Element& element, const ElementLoader& load, LoadBudget& budget);
+
+/// Checks an element record whose forms are all strokes (or of unknown kind) without building
+/// it: the same reads, overruns and budget as ParseElementRecord, which would succeed exactly
+/// when this does. Returns the strokes and segments the element holds, or nothing when a form is
+/// composed (only a full load can check that).
+std::optional<std::size_t> CheckPlainElementRecord(ByteReader& reader, LoadBudget& budget);
 
 /// Appends to `target` the strokes of `source` scaled into the placement's box.
 void ComposePlacement(Form& target, const Form& source, const Placement& placement);

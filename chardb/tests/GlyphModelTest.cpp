@@ -3,6 +3,7 @@
 #include "FormFormat.h"
 #include "RawDatabaseFile.h"
 
+#include <cstdio>
 #include <gtest/gtest.h>
 
 using namespace testdb;
@@ -228,4 +229,93 @@ TEST(GlyphModel, EncodedStrokeFormReadsBack)
     EXPECT_EQ(element.GetForm(0).GetStroke(0).GetSegment(0).P3(), (Point{5, 6}));
     EXPECT_EQ(element.GetForm(0).GetStroke(0).GetSegment(1).P1(), (Point{7, 8}));
     EXPECT_EQ(reader.Position(), bytes.size());
+}
+
+namespace {
+
+/// What one reading of a record came to: an error message, or the strokes and segments read
+/// (`plain` false when the check handed a composed form on).
+struct Outcome {
+    std::string error;
+    std::size_t items = 0;
+    bool plain = true;
+};
+
+Outcome Parse(const std::vector<std::uint8_t>& bytes)
+{
+    Outcome o;
+    try {
+        ByteReader reader(bytes.data(), bytes.size(), "Unable to load element");
+        Element element(0);
+        LoadBudget budget;
+        const Element none(0);
+        ParseElementRecord(
+            reader, element, [&](std::uint16_t) -> const Element& { return none; }, budget);
+        o.items = budget.spent;
+    } catch (const ZavorenCommon::DatabaseLoadException& e) {
+        o.error = e.what();
+    } catch (const std::out_of_range&) {
+        o.error = "out of range"; // a composed form's placement
+    }
+    return o;
+}
+
+Outcome Check(const std::vector<std::uint8_t>& bytes)
+{
+    Outcome o;
+    try {
+        ByteReader reader(bytes.data(), bytes.size(), "Unable to load element");
+        LoadBudget budget;
+        const std::optional<std::size_t> items = CheckPlainElementRecord(reader, budget);
+        o.plain = items.has_value();
+        o.items = items.value_or(0);
+    } catch (const ZavorenCommon::DatabaseLoadException& e) {
+        o.error = e.what();
+    }
+    return o;
+}
+
+} // namespace
+
+TEST(GlyphModel, CheckingPlainRecordsAgreesWithParsingThem)
+{
+    // A record of two stroke forms, mutated at random thousands of times: the check without
+    // building and the full parse succeed together, fail with the same message, and count the
+    // same strokes and segments.
+    Form first(109, 109);
+    Stroke a(Point{1, 2});
+    a.AppendSegment(Segment(SegmentType::Bezier, {1, 2}, {3, 4}, {5, 6}));
+    a.AppendSegment(Segment(SegmentType::Line, {7, 8}));
+    first.AppendStroke(a);
+    first.AppendStroke(Stroke(Point{3, 3}));
+    Form second(50, 60);
+    Stroke b(Point{9, 9});
+    b.AppendSegment(Segment(SegmentType::Move, {1, 1}));
+    second.AppendStroke(b);
+    std::vector<std::uint8_t> valid{2};
+    EncodeStrokeForm(first, valid);
+    EncodeStrokeForm(second, valid);
+    std::uint32_t state = 12345;
+    auto next = [&state] {
+        state = state * 1103515245u + 12345u;
+        return state >> 8;
+    };
+    int checked = 0, refused = 0;
+    for (int round = 0; round < 5000; ++round) {
+        std::vector<std::uint8_t> bytes = valid;
+        for (int flips = 1 + static_cast<int>(next() % 3); flips > 0; --flips)
+            bytes[next() % bytes.size()] = static_cast<std::uint8_t>(next());
+        if (next() % 4 == 0)
+            bytes.resize(next() % bytes.size());
+        const Outcome check = Check(bytes);
+        if (check.error.empty() && !check.plain)
+            continue; // a composed form: the check hands it to the full load
+        const Outcome parse = Parse(bytes);
+        ++checked;
+        refused += !check.error.empty();
+        ASSERT_EQ(check.error, parse.error) << "round " << round;
+        ASSERT_EQ(check.items, parse.items) << "round " << round;
+    }
+    EXPECT_GT(checked, 2000);
+    EXPECT_GT(refused, 100);
 }
