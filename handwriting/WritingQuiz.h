@@ -37,6 +37,11 @@ public:
     void StrokeRefused() { ++m_misses; }
     /// Refusals of the stroke expected next since it became next.
     int Misses() const { return m_misses; }
+    /// Refusals of one stroke after which a lesson shows where it starts.
+    static constexpr int MissesBeforeHelp = 3;
+    /// The stroke expected next has been missed often enough to show its start, which is not
+    /// shown yet.
+    bool NeedsHelp() const { return m_misses >= MissesBeforeHelp && !m_hintShown && !IsComplete(); }
     /// An accepted stroke was kept; the hint, if any, is spent.
     void StrokeKept();
     /// The last kept stroke was taken back.

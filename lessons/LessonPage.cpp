@@ -185,8 +185,7 @@ void LessonPage::OnStrokeEnded()
         m_quiz.StrokeRefused();
         m_coach->Refused(verdict, ink, m_quiz.Glyph());
         // Three misses of one stroke: its start is shown, as Hint would show it.
-        if (m_coach->Preferences().hintAfterMisses && m_quiz.Misses() >= 3 && !m_quiz.HintShown()
-            && m_quiz.Kept() < m_quiz.StrokeCount())
+        if (m_coach->Preferences().hintAfterMisses && m_quiz.NeedsHelp())
             ShowHint();
     }
     RefreshControls();

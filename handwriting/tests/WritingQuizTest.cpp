@@ -126,6 +126,13 @@ TEST(WritingQuiz, MissesCountRefusalsOfTheStrokeExpectedNext)
     quiz.StrokeRefused();
     quiz.StrokeRefused();
     EXPECT_EQ(quiz.Misses(), 2);
+    EXPECT_FALSE(quiz.NeedsHelp());
+    quiz.StrokeRefused();
+    EXPECT_TRUE(quiz.NeedsHelp()); // three misses
+    quiz.ShowHint();
+    EXPECT_FALSE(quiz.NeedsHelp()); // shown already
+    quiz.StrokeUndone();
+    quiz.StrokeRefused();
     quiz.StrokeKept();
     EXPECT_EQ(quiz.Misses(), 0); // a new stroke is expected
     quiz.StrokeRefused();
