@@ -236,7 +236,8 @@ private slots:
 
     void aFingerWritesLikeTheMouse()
     {
-        QPointingDevice* screen = QTest::createTouchDevice();
+        const std::unique_ptr<QPointingDevice> device(QTest::createTouchDevice()); // ours to delete
+        QPointingDevice* screen = device.get();
         InputCanvas* canvas = m_lesson->Input();
         QSignalSpy ended(canvas, &InputCanvas::strokeEnded);
         auto at = [&](const Point& p) {
