@@ -86,4 +86,27 @@ void BM_SaveUserWithEveryCharacter(benchmark::State& state)
 }
 BENCHMARK(BM_SaveUserWithEveryCharacter)->Unit(benchmark::kMillisecond);
 
+void BM_SaveUserWithTenYearsOfHistory(benchmark::State& state)
+{
+    // About ten years of daily work: 100,000 events (lessons and tests, some with mistakes),
+    // saved in a file of its own beside the other learners.
+    Fixture& f = Shared();
+    const fs::path path = f.dir / "history.xml";
+    fs::copy_file(f.dir / "config.xml", path, fs::copy_options::overwrite_existing);
+    XmlConfigStore store(path.string(), *f.database);
+    auto user = store.LoadUser("Learner 1");
+    const char* kinds[] = {LearnerEvent::Lesson, LearnerEvent::Passed, LearnerEvent::Failed};
+    for (int i = 0; i < 100000; ++i)
+        user->AddEvent({"2026-11-22T09:08:07+01:00", kinds[i % 3], static_cast<std::uint16_t>(i % 8),
+            static_cast<std::uint16_t>(i % 3000), i % 3 == 0 ? -1 : i % 4});
+    const auto before = fs::file_size(path);
+    store.SaveUser(*user);
+    const auto after = fs::file_size(path);
+    for (auto _ : state)
+        store.SaveUser(*user);
+    state.counters["file_bytes"] = static_cast<double>(after);
+    state.counters["bytes_per_event"] = static_cast<double>(after - before) / 100000.0;
+}
+BENCHMARK(BM_SaveUserWithTenYearsOfHistory)->Unit(benchmark::kMillisecond);
+
 } // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CategoryProgress.h"
+#include "LearnerEvent.h"
 
 #include <cstdint>
 #include <optional>
@@ -29,8 +30,13 @@ public:
     void AddProgress(const CategoryProgress& record) { m_progress.push_back(record); }
     /// All records in order.
     const std::vector<CategoryProgress>& Progress() const { return m_progress; }
+    /// The learner's history, oldest first.
+    const std::vector<LearnerEvent>& History() const { return m_history; }
+    /// Adds an event at the end of the history.
+    void AddEvent(LearnerEvent event) { m_history.push_back(std::move(event)); }
 
 private:
     std::vector<CategoryProgress> m_progress;
+    std::vector<LearnerEvent> m_history;
     std::optional<std::string> m_name;
 };

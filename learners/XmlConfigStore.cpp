@@ -47,6 +47,20 @@ public:
     std::string text;
 };
 
+/// Digits only, at most `max`: how the program writes the numbers of an event.
+bool IsPlainNumber(const char* text, unsigned max)
+{
+    if (!*text)
+        return false;
+    unsigned long value = 0;
+    for (const char* p = text; *p; ++p) {
+        if (*p < '0' || *p > '9' || p - text > 5)
+            return false;
+        value = value * 10 + static_cast<unsigned>(*p - '0');
+    }
+    return value <= max;
+}
+
 /// Finds an element nested deeper than MaxDepth, without recursion.
 class DepthCheck : public pugi::xml_tree_walker {
 public:
@@ -210,6 +224,7 @@ std::unique_ptr<User> XmlConfigStore::ReadUser(const std::string& name)
                 record.AddUntested(ParseId(id.attribute().value()));
         user->AddProgress(record);
     }
+    ReadHistory(node.child("History"), *user);
     if (!EqualsIgnoringAsciiCase(m_currentUserName, name))
         SetCurrentUser(name);
     return user;
@@ -286,7 +301,48 @@ bool XmlConfigStore::WriteUser(User& user)
         for (std::uint16_t id : record.Untested())
             untested.append_child("Character").append_attribute("id") = static_cast<unsigned>(id);
     }
+    WriteHistory(node, user);
     return SaveFile();
+}
+
+void XmlConfigStore::ReadHistory(pugi::xml_node history, User& user)
+{
+    // An event whose time or ids cannot be read is dropped (and so not written back); one of a
+    // kind this program does not record is kept as it is.
+    for (pugi::xml_node node : history.children("Event")) {
+        LearnerEvent event;
+        event.at = node.attribute("at").value();
+        event.kind = node.attribute("kind").value();
+        const pugi::xml_attribute category = node.attribute("categoryId");
+        const pugi::xml_attribute id = node.attribute("id");
+        if (!IsEventTime(event.at) || event.kind.empty() || !IsPlainNumber(category.value(), 0xFFFF)
+            || !IsPlainNumber(id.value(), 0xFFFF))
+            continue;
+        event.categoryId = static_cast<std::uint16_t>(category.as_uint());
+        event.id = static_cast<std::uint16_t>(id.as_uint());
+        if (const pugi::xml_attribute mistakes = node.attribute("mistakes")) {
+            if (!IsPlainNumber(mistakes.value(), 0xFFFF))
+                continue;
+            event.mistakes = mistakes.as_int();
+        }
+        user.AddEvent(std::move(event));
+    }
+}
+
+void XmlConfigStore::WriteHistory(pugi::xml_node node, const User& user)
+{
+    if (user.History().empty())
+        return; // a learner without history keeps the file as it always was
+    pugi::xml_node history = node.append_child("History");
+    for (const LearnerEvent& event : user.History()) {
+        pugi::xml_node e = history.append_child("Event");
+        e.append_attribute("at") = event.at.c_str();
+        e.append_attribute("kind") = event.kind.c_str();
+        e.append_attribute("categoryId") = static_cast<unsigned>(event.categoryId);
+        e.append_attribute("id") = static_cast<unsigned>(event.id);
+        if (event.mistakes >= 0)
+            e.append_attribute("mistakes") = event.mistakes;
+    }
 }
 
 std::uint16_t XmlConfigStore::UserCount() const

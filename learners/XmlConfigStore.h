@@ -11,7 +11,9 @@
 
 /// The learner store in `config.xml`: a document element holding `Users` (attribute
 /// `currentUser`), one `User` per learner (attribute `name`) with one `Progress` per category
-/// (`categoryId`) holding `Learned` and `Untested` lists of `Character` (`id`). Every change is
+/// (`categoryId`) holding `Learned` and `Untested` lists of `Character` (`id`), then, for a learner
+/// with a history, one `History` of `Event` elements (`at`, `kind`, `categoryId`, `id`, and
+/// `mistakes` for tests). Every change is
 /// saved at once, atomically: a failed save leaves the previous file as it was. In a folder where
 /// no file can be created the file is rewritten in place instead. Every failure, running out of
 /// memory included, is a ConfigException.
@@ -47,6 +49,8 @@ private:
     std::unique_ptr<User> ReadUser(const std::string& name);
     bool WriteUser(User& user);
     bool RewriteInPlace(const std::string& text);
+    static void ReadHistory(pugi::xml_node history, User& user);
+    static void WriteHistory(pugi::xml_node node, const User& user);
     pugi::xml_node UsersNode() const;
     pugi::xml_node FindUser(const char* format, const std::string& name) const;
 

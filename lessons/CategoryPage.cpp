@@ -1,5 +1,7 @@
 #include "CategoryPage.h"
 
+#include <algorithm>
+
 #include "CategoryRules.h"
 #include "CharacterDatabase.h"
 #include "CharacterGrid.h"
@@ -176,9 +178,11 @@ void CategoryPage::OnForget()
 {
     if (!m_progress || Grid()->FirstSelectedGroup() != LearnedGroup)
         return;
-    for (std::uint16_t code : Grid()->SelectedCodes())
+    const std::vector<std::uint16_t> codes = Grid()->SelectedCodes();
+    for (std::uint16_t code : codes)
         m_progress->RemoveLearned(code);
     Refresh();
+    emit forgotten(codes);
 }
 
 void CategoryPage::OnRetest()
@@ -186,8 +190,15 @@ void CategoryPage::OnRetest()
     if (!m_progress || !RetestButton()->isEnabled())
         return;
     m_random.Seed(m_seeds());
+    const std::vector<std::uint16_t> learned = m_progress->Learned();
     ::Retest(*m_progress, m_random);
+    // The characters that left the learned list went back for testing.
+    std::vector<std::uint16_t> sent;
+    for (std::uint16_t code : learned)
+        if (std::find(m_progress->Learned().begin(), m_progress->Learned().end(), code) == m_progress->Learned().end())
+            sent.push_back(code);
     Refresh();
+    emit retested(sent);
     emit pageEvent(Test, 0);
 }
 

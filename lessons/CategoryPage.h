@@ -56,6 +56,12 @@ public:
     /// Opens the Kanji Info dialog for the first selected character of `grid` (modal).
     void ShowInfo(CharacterGrid* grid);
 
+signals:
+    /// These learned characters were forgotten (Forget).
+    void forgotten(const std::vector<std::uint16_t>& codes);
+    /// These learned characters were sent back for testing (Retest).
+    void retested(const std::vector<std::uint16_t>& codes);
+
 protected:
     void Cancel() override;
 

@@ -2,6 +2,12 @@
 
 #include "CategoryRules.h"
 
+ProgressRecorder::ProgressRecorder(User& learner, std::uint16_t categoryId, EventClock clock)
+    : m_learner(learner), m_progress(learner.GetProgress(categoryId)), m_categoryId(categoryId),
+      m_clock(std::move(clock))
+{
+}
+
 std::vector<std::uint16_t> ProgressRecorder::TestCharacters() const
 {
     std::vector<std::uint16_t> codes;
@@ -12,14 +18,43 @@ std::vector<std::uint16_t> ProgressRecorder::TestCharacters() const
 
 void ProgressRecorder::LessonFinished(const std::vector<std::uint16_t>& taught)
 {
-    for (std::uint16_t id : taught)
+    for (std::uint16_t id : taught) {
         m_progress.AddUntested(id);
+        Record(LearnerEvent::Lesson, id);
+    }
 }
 
-void ProgressRecorder::TestTaken(const std::vector<std::uint16_t>& passed, const std::vector<std::uint16_t>& failed)
+void ProgressRecorder::TestTaken(
+    const std::vector<std::uint16_t>& passed, const std::vector<std::uint16_t>& failed, const MistakeCount& mistakes)
 {
-    for (std::uint16_t id : passed)
+    for (std::uint16_t id : passed) {
         m_progress.MoveToLearned(id);
-    for (std::uint16_t id : failed)
+        Record(LearnerEvent::Passed, id, mistakes ? mistakes(id) : 0);
+    }
+    for (std::uint16_t id : failed) {
         m_progress.RemoveUntested(id);
+        Record(LearnerEvent::Failed, id, mistakes ? mistakes(id) : 0);
+    }
+}
+
+void ProgressRecorder::Retested(const std::vector<std::uint16_t>& codes)
+{
+    for (std::uint16_t id : codes)
+        Record(LearnerEvent::Retest, id);
+}
+
+void ProgressRecorder::Forgotten(const std::vector<std::uint16_t>& codes)
+{
+    for (std::uint16_t id : codes)
+        Record(LearnerEvent::Forget, id);
+}
+
+void ProgressRecorder::LearnOne(std::uint16_t code)
+{
+    Record(LearnerEvent::Learn, code);
+}
+
+void ProgressRecorder::Record(const char* kind, std::uint16_t code, int mistakes)
+{
+    m_learner.AddEvent({m_clock ? m_clock() : LocalTimeNow(), kind, m_categoryId, code, mistakes});
 }

@@ -66,6 +66,19 @@ std::uint16_t TestSchedule::Attempts(std::size_t character) const
     return sum;
 }
 
+int TestSchedule::MistakesOf(std::uint16_t code) const
+{
+    for (std::size_t i = 0; i < m_codes.size(); ++i) {
+        if (m_codes[i] != code)
+            continue;
+        int sum = 0;
+        for (const Entry& e : m_records.at(i))
+            sum += e.mistakes;
+        return sum;
+    }
+    return 0;
+}
+
 bool TestSchedule::AnyOpen() const
 {
     for (std::size_t i = 0; i < m_codes.size(); ++i)

@@ -40,6 +40,9 @@ public:
     State Status(std::size_t character) const;
     /// Sum of a character's attempts over its pages.
     std::uint16_t Attempts(std::size_t character) const;
+    /// Questions of the character with this code answered with mistakes (0 for a code not in
+    /// the test).
+    int MistakesOf(std::uint16_t code) const;
     /// One entry; throws std::out_of_range for a bad index.
     const Entry& EntryOf(std::size_t character, std::uint16_t page) const { return m_records.at(character).at(page); }
     /// The codes under test.

@@ -51,10 +51,10 @@ const QKeySequence IgnoredKeys[] = {
 
 } // namespace
 
-MainWindow::MainWindow(
-    CharacterDatabase& database, ConfigStore& store, Prompt& prompt, SeedSource seeds, UrlOpener open, QWidget* parent)
+MainWindow::MainWindow(CharacterDatabase& database, ConfigStore& store, Prompt& prompt, SeedSource seeds,
+    UrlOpener open, EventClock clock, QWidget* parent)
     : QMainWindow(parent), m_database(database), m_store(store), m_prompt(prompt), m_seeds(std::move(seeds)),
-      m_open(std::move(open))
+      m_open(std::move(open)), m_clock(std::move(clock))
 {
     setObjectName(QStringLiteral("Zavoren Mainframe Class"));
     setWindowTitle(QStringLiteral("Zavoren!"));
@@ -75,6 +75,15 @@ MainWindow::MainWindow(
             page, &Page::pageEvent, this,
             [this, page](quint16 code, quint16 argument) { OnPageEvent(page, code, argument); }, Qt::DirectConnection);
     }
+    // The category page's own changes go into the learner's history too.
+    connect(m_category, &CategoryPage::forgotten, this, [this](const std::vector<std::uint16_t>& codes) {
+        if (auto recorder = Recorder())
+            recorder->Forgotten(codes);
+    });
+    connect(m_category, &CategoryPage::retested, this, [this](const std::vector<std::uint16_t>& codes) {
+        if (auto recorder = Recorder())
+            recorder->Retested(codes);
+    });
     ApplyPreferences(LoadCoachingPreferences());
     for (const QKeySequence& keys : IgnoredKeys)
         new QShortcut(
@@ -128,6 +137,13 @@ void MainWindow::BuildMenu()
     help->addSeparator();
     m_aboutAction = help->addAction(QStringLiteral("About"), this, [this] { ShowAbout(m_open, this); });
     m_aboutAction->setStatusTip(QStringLiteral("About Zavoren"));
+}
+
+std::optional<ProgressRecorder> MainWindow::Recorder()
+{
+    if (!m_learner || !m_categoryId)
+        return std::nullopt;
+    return ProgressRecorder(*m_learner, *m_categoryId, m_clock);
 }
 
 CategoryProgress* MainWindow::CurrentCategory() const
@@ -253,11 +269,13 @@ void MainWindow::OnPageEvent(Page* page, quint16 code, quint16 argument)
             ShowPage(m_lesson);
             break;
         case CategoryPage::Learn:
+            if (auto recorder = Recorder())
+                recorder->LearnOne(argument);
             m_lesson->StartLesson({argument});
             ShowPage(m_lesson);
             break;
         case CategoryPage::Test:
-            m_test->StartTest(progress ? ProgressRecorder(*progress).TestCharacters() : std::vector<std::uint16_t>{});
+            m_test->StartTest(progress ? Recorder()->TestCharacters() : std::vector<std::uint16_t>{});
             ShowPage(m_test);
             break;
         case CategoryPage::Back:
@@ -267,8 +285,8 @@ void MainWindow::OnPageEvent(Page* page, quint16 code, quint16 argument)
         }
     } else if (page == m_lesson) {
         if (code == LessonPage::Finished)
-            if (CategoryProgress* progress = CurrentCategory())
-                ProgressRecorder(*progress).LessonFinished(m_lesson->DoneCodes());
+            if (auto recorder = Recorder())
+                recorder->LessonFinished(m_lesson->DoneCodes());
         if (code == LessonPage::Finished || code == LessonPage::Aborted)
             ShowCategoryPage();
     } else if (page == m_test) {
@@ -281,8 +299,9 @@ void MainWindow::OnPageEvent(Page* page, quint16 code, quint16 argument)
 
 void MainWindow::ApplyTestOutcome()
 {
-    if (CategoryProgress* progress = CurrentCategory())
-        ProgressRecorder(*progress).TestTaken(m_test->PassedCodes(), m_test->FailedCodes());
+    if (auto recorder = Recorder())
+        recorder->TestTaken(m_test->PassedCodes(), m_test->FailedCodes(),
+            [this](std::uint16_t code) { return m_test->Schedule().MistakesOf(code); });
     m_test->StartTest({});
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "CoachingPreferences.h"
+#include "LearnerEvent.h"
+#include "ProgressRecorder.h"
 #include "Random15.h"
 #include "UrlOpener.h"
 #include "User.h"
@@ -28,8 +30,9 @@ class MainWindow : public QMainWindow {
 public:
     /// Messages go through `prompt`, random draws are seeded from `seeds`, help and links open
     /// through `open`.
+    /// History events are dated by `clock`.
     MainWindow(CharacterDatabase& database, ConfigStore& store, Prompt& prompt, SeedSource seeds, UrlOpener open,
-        QWidget* parent = nullptr);
+        EventClock clock, QWidget* parent = nullptr);
     ~MainWindow() override;
 
     /// Chooses the learner to open: the recorded current one, else the only one, else the User
@@ -83,6 +86,8 @@ private:
     void ShowCategoryPage();
     void ReportStoreError(const char* message);
     void ChangePreferences();
+    /// The rules for the learner's progress in the open category; none without both.
+    std::optional<ProgressRecorder> Recorder();
     int RunUserManager();
 
     CharacterDatabase& m_database;
@@ -90,6 +95,7 @@ private:
     Prompt& m_prompt;
     SeedSource m_seeds;
     UrlOpener m_open;
+    EventClock m_clock;
     QWidget* m_pageArea = nullptr;
     HomePage* m_home = nullptr;
     LessonPage* m_lesson = nullptr;

@@ -86,7 +86,7 @@ int RunZavoren(const StartupOptions& options, Prompt& prompt)
     }
     int result = 0;
     {
-        MainWindow window(database, *store, prompt, ClockSeed, OpenWithDesktop);
+        MainWindow window(database, *store, prompt, ClockSeed, OpenWithDesktop, LocalTimeNow);
         if (!window.ChooseLearnerAtStart()) {
             splash.close();
             ReleaseDataStores();

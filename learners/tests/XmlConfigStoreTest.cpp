@@ -590,3 +590,73 @@ TEST_F(StoreTest, RunningOutOfMemoryIsAConfigException)
     }
 #endif
 }
+
+TEST_F(StoreTest, HistoryOfEveryKindRoundTrips)
+{
+    auto store = Open();
+    ASSERT_TRUE(store->AddUser("Anna"));
+    auto anna = store->LoadUser("Anna");
+    anna->GetProgress(0).AddLearned(3);
+    const std::vector<LearnerEvent> events{
+        {"2026-11-20T08:00:00+01:00", LearnerEvent::Lesson, 0, 3, -1},
+        {"2026-11-20T08:05:00+01:00", LearnerEvent::Passed, 0, 3, 0},
+        {"2026-11-21T19:30:00-05:00", LearnerEvent::Failed, 2, 65535, 3},
+        {"2026-11-21T19:31:00+00:00", LearnerEvent::Retest, 0, 3, -1},
+        {"2026-11-21T19:32:00+00:00", LearnerEvent::Forget, 0, 3, -1},
+        {"2026-11-22T07:00:00+09:00", LearnerEvent::Learn, 4, 12, -1},
+    };
+    for (const LearnerEvent& e : events)
+        anna->AddEvent(e);
+    ASSERT_TRUE(store->SaveUser(*anna));
+    const auto again = Open()->LoadUser("Anna");
+    EXPECT_EQ(again->History(), events);
+    EXPECT_EQ(again->GetProgress(0).Learned(), Ids{3});
+    // History follows the Progress elements, inside the learner's element.
+    const std::string text = ReadText(Config());
+    EXPECT_LT(text.rfind("<Progress"), text.find("<History>"));
+    EXPECT_NE(text.find("<Event at=\"2026-11-21T19:30:00-05:00\" kind=\"failed\" categoryId=\"2\" id=\"65535\" "
+                        "mistakes=\"3\" />"),
+        std::string::npos)
+        << text;
+    // Saved again, nothing is lost or doubled.
+    ASSERT_TRUE(store->SaveUser(*again));
+    EXPECT_EQ(Open()->LoadUser("Anna")->History().size(), events.size());
+}
+
+TEST_F(StoreTest, AFileWithoutHistoryLoadsAnEmptyOneAndIsWrittenAsBefore)
+{
+    WriteText(Config(),
+        "<Zavoren><Users><User name=\"Anna\"><Progress categoryId=\"0\"><Learned><Character "
+        "id=\"5\"/></Learned><Untested/></Progress></User></Users></Zavoren>");
+    auto store = Open();
+    auto anna = store->LoadUser("Anna");
+    EXPECT_TRUE(anna->History().empty());
+    ASSERT_TRUE(store->SaveUser(*anna));
+    EXPECT_EQ(ReadText(Config()).find("History"), std::string::npos);
+    EXPECT_EQ(Open()->LoadUser("Anna")->GetProgress(0).Learned(), Ids{5});
+}
+
+TEST_F(StoreTest, JunkInsideHistoryIsSkippedUnknownKindsAreKept)
+{
+    WriteText(Config(),
+        "<Zavoren><Users><User name=\"Anna\"><Progress categoryId=\"0\"><Learned/><Untested/></Progress><History>"
+        "<Event at=\"2026-11-22T09:00:00+01:00\" kind=\"lesson\" categoryId=\"0\" id=\"4\"/>"
+        "<Event at=\"yesterday\" kind=\"lesson\" categoryId=\"0\" id=\"5\"/>"
+        "<Event at=\"2026-11-22T09:00:00+01:00\" kind=\"lesson\" categoryId=\"-1\" id=\"5\"/>"
+        "<Event at=\"2026-11-22T09:00:00+01:00\" kind=\"lesson\" categoryId=\"0\" id=\"70000\"/>"
+        "<Event at=\"2026-11-22T09:00:00+01:00\" kind=\"passed\" categoryId=\"0\" id=\"5\" mistakes=\"x\"/>"
+        "<Event at=\"2026-11-22T09:00:00+01:00\" categoryId=\"0\" id=\"5\"/>"
+        "<Note>text</Note>plain text<!-- a comment -->"
+        "<Event at=\"2026-11-22T10:00:00+01:00\" kind=\"streak\" categoryId=\"1\" id=\"6\"/>"
+        "</History></User></Users></Zavoren>");
+    auto store = Open();
+    auto anna = store->LoadUser("Anna");
+    ASSERT_EQ(anna->History().size(), 2u);
+    EXPECT_EQ(anna->History()[0].id, 4);
+    EXPECT_EQ(anna->History()[1].kind, "streak"); // a kind of a newer program, kept
+    ASSERT_TRUE(store->SaveUser(*anna));
+    const std::string text = ReadText(Config());
+    EXPECT_NE(text.find("kind=\"streak\""), std::string::npos);
+    EXPECT_EQ(text.find("yesterday"), std::string::npos); // malformed: dropped
+    EXPECT_EQ(Open()->LoadUser("Anna")->History(), anna->History());
+}

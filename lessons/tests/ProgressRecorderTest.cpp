@@ -5,38 +5,77 @@
 
 using Codes = std::vector<std::uint16_t>;
 
+namespace {
+
+const char* const Now = "2026-11-22T09:08:07+01:00";
+
+std::string Clock()
+{
+    return Now;
+}
+
+/// A learner's events as "kind id mistakes" lines, for comparing.
+std::vector<std::string> Events(const User& user)
+{
+    std::vector<std::string> out;
+    for (const LearnerEvent& e : user.History()) {
+        EXPECT_EQ(e.at, Now);
+        out.push_back(e.kind + " " + std::to_string(e.categoryId) + "/" + std::to_string(e.id)
+            + (e.mistakes >= 0 ? " " + std::to_string(e.mistakes) : ""));
+    }
+    return out;
+}
+
+using Lines = std::vector<std::string>;
+
+} // namespace
+
 TEST(ProgressRecorder, ALessonAddsEveryTaughtCharacterToTheUntestedListInOrder)
 {
-    CategoryProgress progress;
-    progress.AddUntested(4);
-    ProgressRecorder(progress).LessonFinished({9, 4, 2});
-    EXPECT_EQ(progress.Untested(), (Codes{4, 9, 4, 2})); // as it is: 4 twice
-    EXPECT_TRUE(progress.Learned().empty());
+    User user;
+    user.GetProgress(3).AddUntested(4);
+    ProgressRecorder(user, 3, Clock).LessonFinished({9, 4, 2});
+    EXPECT_EQ(user.GetProgress(3).Untested(), (Codes{4, 9, 4, 2})); // as it is: 4 twice
+    EXPECT_TRUE(user.GetProgress(3).Learned().empty());
+    EXPECT_EQ(Events(user), (Lines{"lesson 3/9", "lesson 3/4", "lesson 3/2"}));
 }
 
 TEST(ProgressRecorder, ATestTakesTheFirstUntestedCharactersUpToTheLessonSize)
 {
-    CategoryProgress progress;
+    User user;
     for (std::uint16_t id = 1; id <= 7; ++id)
-        progress.AddUntested(id);
-    EXPECT_EQ(ProgressRecorder(progress).TestCharacters().size(), LessonSize);
-    EXPECT_EQ(ProgressRecorder(progress).TestCharacters(), (Codes{1, 2, 3, 4, 5}));
-    CategoryProgress few;
-    few.AddUntested(8);
-    EXPECT_EQ(ProgressRecorder(few).TestCharacters(), (Codes{8}));
-    EXPECT_TRUE(ProgressRecorder(*std::make_unique<CategoryProgress>()).TestCharacters().empty());
+        user.GetProgress(0).AddUntested(id);
+    EXPECT_EQ(ProgressRecorder(user, 0, Clock).TestCharacters().size(), LessonSize);
+    EXPECT_EQ(ProgressRecorder(user, 0, Clock).TestCharacters(), (Codes{1, 2, 3, 4, 5}));
+    user.GetProgress(1).AddUntested(8);
+    EXPECT_EQ(ProgressRecorder(user, 1, Clock).TestCharacters(), (Codes{8}));
+    EXPECT_TRUE(ProgressRecorder(user, 2, Clock).TestCharacters().empty());
+    EXPECT_TRUE(user.History().empty()); // asking records nothing
 }
 
 TEST(ProgressRecorder, PassedBecomeLearnedAndFailedAreNotLearnedAgain)
 {
-    CategoryProgress progress;
+    User user;
+    CategoryProgress& progress = user.GetProgress(0);
     progress.AddLearned(1);
     for (std::uint16_t id : {2, 3, 4})
         progress.AddUntested(id);
-    ProgressRecorder(progress).TestTaken({2, 4}, {3});
+    auto mistakes = [](std::uint16_t code) { return code == 3 ? 2 : (code == 4 ? 1 : 0); };
+    ProgressRecorder(user, 0, Clock).TestTaken({2, 4}, {3}, mistakes);
     EXPECT_EQ(progress.Learned(), (Codes{1, 2, 4}));
     EXPECT_TRUE(progress.Untested().empty());
+    EXPECT_EQ(Events(user), (Lines{"passed 0/2 0", "passed 0/4 1", "failed 0/3 2"}));
     // A passed character that was not untested stays where it was.
-    ProgressRecorder(progress).TestTaken({9}, {});
+    ProgressRecorder(user, 0, Clock).TestTaken({9}, {}, mistakes);
     EXPECT_EQ(progress.Learned(), (Codes{1, 2, 4}));
+}
+
+TEST(ProgressRecorder, TheCategoryPagesChangesAndLearnOneAreRecorded)
+{
+    User user;
+    ProgressRecorder recorder(user, 5, Clock);
+    recorder.Retested({7, 8});
+    recorder.Forgotten({9});
+    recorder.LearnOne(10);
+    EXPECT_EQ(Events(user), (Lines{"retest 5/7", "retest 5/8", "forget 5/9", "learn 5/10"}));
 }

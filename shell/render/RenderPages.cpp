@@ -72,7 +72,8 @@ void Write(InputCanvas* canvas, const Form& glyph, std::uint16_t stroke, float s
     std::vector<Point> points = FlattenStroke(glyph.GetStroke(stroke));
     const QPoint offset = canvas->contentsRect().topLeft();
     auto at = [&](Point p) {
-        return QPoint(static_cast<int>(p.x * side / glyph.Width()), static_cast<int>(p.y * side / glyph.Height() + shiftY))
+        return QPoint(
+                   static_cast<int>(p.x * side / glyph.Width()), static_cast<int>(p.y * side / glyph.Height() + shiftY))
             + offset;
     };
     QTest::mousePress(canvas, Qt::LeftButton, Qt::NoModifier, at(points.front()));
@@ -142,7 +143,8 @@ int main(int argc, char** argv)
 
     QTemporaryDir folder;
     const std::string config = QDir(folder.path()).filePath(QStringLiteral("config.xml")).toStdString();
-    std::ofstream(config) << R"(<Zavoren><Users currentUser="Anna"><User name="Anna"/><User name="Ben"/></Users></Zavoren>)";
+    std::ofstream(config)
+        << R"(<Zavoren><Users currentUser="Anna"><User name="Anna"/><User name="Ben"/></Users></Zavoren>)";
     XmlConfigStore store(config, db);
     UserManagerDialog manager(store, prompt);
     ok &= Save(manager, out, QStringLiteral("user-manager"));

@@ -45,6 +45,11 @@ std::uint32_t FixedSeed()
 {
     return 99;
 }
+
+std::string FixedClock()
+{
+    return "2026-11-22T09:08:07+01:00";
+}
 } // namespace
 using Codes = std::vector<std::uint16_t>;
 
@@ -117,7 +122,7 @@ private slots:
         Codes taught;
         {
             // An empty learner file: the User Manager opens; add Anna and open her.
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
             ModalAnswerer<AddUserDialog> add([](AddUserDialog& dialog) {
                 dialog.NameEdit()->setText(QStringLiteral("Anna"));
                 QTest::mouseClick(dialog.OkButton(), Qt::LeftButton);
@@ -188,9 +193,19 @@ private slots:
             ++progresses;
         }
         QCOMPARE(progresses, int(GetDatabase().CategoryCount()));
+        // The history: each of the five taught, then each of the five passed, dated by the clock.
+        QStringList kinds;
+        for (pugi::xml_node e : anna.child("History").children("Event")) {
+            QCOMPARE(QString::fromUtf8(e.attribute("at").value()), QString::fromStdString(FixedClock()));
+            QCOMPARE(e.attribute("categoryId").as_int(), 0);
+            kinds << QString::fromUtf8(e.attribute("kind").value());
+        }
+        QCOMPARE(kinds,
+            (QStringList{
+                "lesson", "lesson", "lesson", "lesson", "lesson", "passed", "passed", "passed", "passed", "passed"}));
         ReleaseDataStores();
         // Started again: Anna opens directly and the home page shows her progress.
-        MainWindow again(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
+        MainWindow again(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
         ModalAnswerer<UserManagerDialog> manager(
             [](UserManagerDialog& dialog) { QTest::mouseClick(dialog.CloseButton(), Qt::LeftButton); });
         QVERIFY(again.ChooseLearnerAtStart());
@@ -204,7 +219,7 @@ private slots:
     void theOnlyLearnerOpensWithoutAsking()
     {
         DataFolder folder(R"(<Z><Users><User name="Solo"/></Users></Z>)");
-        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
+        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
         QVERIFY(window.ChooseLearnerAtStart());
         window.ShowChosenLearner();
         QCOMPARE(QString::fromUtf8(window.Learner()->Name()), QStringLiteral("Solo"));
@@ -214,7 +229,7 @@ private slots:
     void cancellingTheManagerAtStartEndsTheProgram()
     {
         DataFolder folder(R"(<Z><Users><User name="A"/><User name="B"/></Users></Z>)");
-        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
+        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
         ModalAnswerer<UserManagerDialog> manager(
             [](UserManagerDialog& dialog) { QTest::mouseClick(dialog.CloseButton(), Qt::LeftButton); });
         QVERIFY(!window.ChooseLearnerAtStart());
@@ -225,7 +240,7 @@ private slots:
     void testsTakeAtMostFiveUntestedInListOrder()
     {
         DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
-        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
+        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
         QVERIFY(window.ChooseLearnerAtStart());
         window.ShowChosenLearner();
         OpenCategory(window, 0);
@@ -260,7 +275,7 @@ private slots:
         DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
         const Codes grade1 = GetDatabase().LoadCategory(0)->Characters();
         {
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
             QVERIFY(window.ChooseLearnerAtStart());
             window.ShowChosenLearner();
             OpenCategory(window, 0);
@@ -312,7 +327,7 @@ private slots:
     {
         DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/><User name="B"/></Users></Z>)");
         m_prompt.answer = QMessageBox::Yes;
-        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
+        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
         QVERIFY(window.ChooseLearnerAtStart());
         window.ShowChosenLearner();
         QVERIFY(window.isVisible());
@@ -337,7 +352,7 @@ private slots:
     {
         DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
         {
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
             QVERIFY(window.ChooseLearnerAtStart());
             window.ShowChosenLearner();
             window.move(123, 45);
@@ -357,7 +372,7 @@ private slots:
         settings.sync();
         ReleaseDataStores();
         {
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
             QVERIFY(window.ChooseLearnerAtStart());
             QCOMPARE(window.pos(), QPoint(-5000, 9000));
         }
@@ -366,7 +381,7 @@ private slots:
         settings.sync();
         ReleaseDataStores();
         {
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
             QVERIFY(window.ChooseLearnerAtStart());
             const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
             QVERIFY(qAbs(window.frameGeometry().center().x() - screen.center().x()) <= 1);
@@ -376,7 +391,7 @@ private slots:
     void menuAndIgnoredKeys()
     {
         DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
-        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
+        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
         QVERIFY(window.ChooseLearnerAtStart());
         window.ShowChosenLearner();
         QCOMPARE(window.objectName(), QStringLiteral("Zavoren Mainframe Class"));
@@ -426,7 +441,7 @@ private slots:
     {
         DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
         {
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
             QVERIFY(window.ChooseLearnerAtStart());
             window.ShowChosenLearner();
             QCOMPARE(window.Preferences(), CoachingPreferences{}); // all on at first
@@ -454,7 +469,7 @@ private slots:
             window.close();
         }
         ReleaseDataStores();
-        MainWindow again(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener());
+        MainWindow again(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
         QCOMPARE(again.Preferences(), CoachingPreferences::AllOff());
         QVERIFY(!again.Lesson()->Feedback()->isVisibleTo(again.Lesson()));
     }
