@@ -98,8 +98,10 @@ StrokeChecker::Measures StrokeChecker::Measure(const StrokePath& ink, std::uint1
         top = std::min(top, p.y);
         bottom = std::max(bottom, p.y);
     }
-    m.dx = (t.x + t.width * 0.5f) - (left + right) * 0.5f;
-    m.dy = (t.y + t.height * 0.5f) - (top + bottom) * 0.5f;
+    m.drawnX = (left + right) * 0.5f;
+    m.drawnY = (top + bottom) * 0.5f;
+    m.dx = (t.x + t.width * 0.5f) - m.drawnX;
+    m.dy = (t.y + t.height * 0.5f) - m.drawnY;
     m.placeFits = PlaceFits(drawn.Bounds(), index);
     drawn.Centre();
     m.drawnLength = drawn.Length();

@@ -35,7 +35,9 @@ public:
     /// same arithmetic: where its box centre lies from the expected one, and how long it is.
     struct Measures {
         bool hasLength = false; ///< false for ink without length (a click): nothing else is set
-        float dx = 0; ///< expected box centre minus drawn box centre, canvas pixels
+        float drawnX = 0; ///< the drawn stroke's box centre, canvas pixels
+        float drawnY = 0;
+        float dx = 0; ///< expected box centre minus drawn box centre
         float dy = 0;
         bool placeFits = false; ///< the place test passes
         float drawnLength = 0;

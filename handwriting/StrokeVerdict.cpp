@@ -40,6 +40,8 @@ StrokeVerdict JudgeStroke(const StrokeChecker& checker, const StrokePath& ink, s
         verdict.kind = StrokeVerdict::Kind::TooShort; // a click: no stroke at all
     } else if (!m.placeFits) {
         verdict.kind = StrokeVerdict::Kind::WrongPlace;
+        verdict.fromX = m.drawnX;
+        verdict.fromY = m.drawnY;
         verdict.dx = m.dx;
         verdict.dy = m.dy;
     } else if (!m.sizeFits) {

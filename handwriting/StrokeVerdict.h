@@ -24,7 +24,9 @@ struct StrokeVerdict {
     Kind kind = Kind::Accepted;
     std::uint16_t expected = 0; ///< index of the stroke expected, from 0
     std::uint16_t drawnAs = 0; ///< WrongOrder: index of the later stroke it matches
-    float dx = 0; ///< WrongPlace: from the drawn stroke's box centre to the expected one, pixels
+    float fromX = 0; ///< WrongPlace: the drawn stroke's box centre, canvas pixels
+    float fromY = 0;
+    float dx = 0; ///< WrongPlace: from there to the expected stroke's box centre
     float dy = 0;
 };
 

@@ -5,8 +5,6 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
-
 WritingCoach::WritingCoach(InputCanvas* canvas, FeedbackLine* line, Mode mode)
     : m_canvas(canvas), m_line(line), m_mode(mode)
 {
@@ -29,15 +27,8 @@ void WritingCoach::Refused(const StrokeVerdict& verdict, const StrokePath& ink, 
     m_line->Say(QCoreApplication::translate("WritingCoach", VerdictText(verdict, lesson).c_str()));
     InputCanvas::Refusal refusal;
     refusal.ink = ink.Points();
-    if (lesson && verdict.kind == StrokeVerdict::Kind::WrongPlace && !ink.Points().empty()) {
-        float left = ink.Points().front().x, right = left, top = ink.Points().front().y, bottom = top;
-        for (Point p : ink.Points()) {
-            left = std::min(left, p.x);
-            right = std::max(right, p.x);
-            top = std::min(top, p.y);
-            bottom = std::max(bottom, p.y);
-        }
-        const QPointF from((left + right) / 2, (top + bottom) / 2);
+    if (lesson && verdict.kind == StrokeVerdict::Kind::WrongPlace) {
+        const QPointF from(verdict.fromX, verdict.fromY);
         refusal.arrowFrom = from;
         refusal.arrowTo = from + QPointF(verdict.dx, verdict.dy);
     }

@@ -107,6 +107,8 @@ TEST(StrokeVerdict, EachKindOnASimpleCharacter)
     const StrokeVerdict place = JudgeStroke(checker, Transformed(across, 1, 0, 60), 0);
     EXPECT_EQ(place.kind, Kind::WrongPlace);
     EXPECT_NEAR(place.dy, -60, 2);
+    EXPECT_NEAR(place.fromY, 149 + 60, 2); // where it was drawn
+    EXPECT_NEAR(place.fromX, 149, 2);
     EXPECT_EQ(PlaceDirection(place.dx, place.dy), "up");
     EXPECT_EQ(JudgeStroke(checker, Transformed(across, 0.4f, 0, 0), 0).kind, Kind::TooShort);
     EXPECT_EQ(JudgeStroke(checker, Transformed(across, 1.9f, 0, 0), 0).kind, Kind::TooLong);
