@@ -10,11 +10,23 @@ CanvasBase::CanvasBase(QWidget* parent) : QFrame(parent)
     setLineWidth(2);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
+    m_background = palette().color(QPalette::Base);
 }
 
 void CanvasBase::SetBackground(const QColor& colour)
 {
     m_background = colour;
+    m_backgroundChosen = true;
+}
+
+void CanvasBase::changeEvent(QEvent* event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange)
+        return;
+    const QColor paper = m_backgroundChosen ? m_background : palette().color(QPalette::Base);
+    m_background = paper;
+    RedrawForPalette();
 }
 
 void CanvasBase::Wipe()

@@ -10,10 +10,16 @@ class CanvasBase : public QFrame {
 public:
     explicit CanvasBase(QWidget* parent = nullptr);
 
-    /// The colour the back buffer is wiped with (chosen by the owning page).
+    /// The colour the back buffer is wiped with: the palette's base (paper) colour unless the
+    /// owning page chooses another.
     void SetBackground(const QColor& colour);
+    /// The colour the back buffer is wiped with.
+    QColor Background() const { return m_background; }
+    /// The colour ink and glyphs are drawn in: the palette's text colour, so that paper and ink
+    /// keep their contrast in a dark palette as in a light one.
+    QColor Ink() const { return palette().color(QPalette::Text); }
     /// Fills the back buffer with the background and repaints.
-    void Wipe();
+    virtual void Wipe();
     /// The back buffer, as the learner sees it (without live ink).
     const QImage& BackBuffer() const { return m_buffer; }
     /// The client rectangle in client coordinates (0, 0, width, height).
@@ -24,6 +30,9 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    /// The palette changed: the buffer is to be drawn again in its colours.
+    virtual void RedrawForPalette() { Wipe(); }
     /// Paints what only the screen shows, on top of the buffer (live ink).
     virtual void PaintOverlay(QPainter&) { }
     /// Makes sure the back buffer has the client size (contents kept); false when there is none.
@@ -31,5 +40,6 @@ protected:
     /// Widget position to client coordinates.
     QPointF ToClient(const QPointF& widgetPosition) const { return widgetPosition - contentsRect().topLeft(); }
     QImage m_buffer;
-    QColor m_background = Qt::white;
+    QColor m_background;
+    bool m_backgroundChosen = false;
 };

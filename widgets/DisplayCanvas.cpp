@@ -6,7 +6,7 @@
 #include <QPainter>
 
 namespace {
-/// Glyphs are drawn in black with a pen of 2 pixels (8 in the enlarged drawing).
+/// Glyphs are drawn in the ink colour with a pen of 2 pixels (8 in the enlarged drawing).
 constexpr int GlyphPenWidth = 2;
 } // namespace
 
@@ -24,13 +24,28 @@ void DisplayCanvas::ShowGlyph(const Form& glyph)
     if (!EnsureBuffer())
         return;
     m_buffer.fill(m_background);
-    DrawFormSmooth(m_buffer, ClientRect(), glyph, qRgb(0, 0, 0), GlyphPenWidth);
+    DrawFormSmooth(m_buffer, ClientRect(), glyph, Ink().rgb(), GlyphPenWidth);
+    m_shown = glyph;
     update();
+}
+
+void DisplayCanvas::Wipe()
+{
+    m_shown.reset();
+    CanvasBase::Wipe();
+}
+
+void DisplayCanvas::RedrawForPalette()
+{
+    if (m_shown && !m_animation)
+        ShowGlyph(*m_shown);
+    else
+        Wipe();
 }
 
 QPen DisplayCanvas::AnimationPen() const
 {
-    return QPen(Qt::black, GlyphPenWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    return QPen(Ink(), GlyphPenWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
 }
 
 void DisplayCanvas::StartAnimation(const Form& glyph, int intervalMs)
@@ -38,6 +53,7 @@ void DisplayCanvas::StartAnimation(const Form& glyph, int intervalMs)
     std::lock_guard lock(m_animationLock);
     m_timer.stop();
     m_animation = std::make_unique<StrokeAnimation>(glyph, ClientRect().width(), ClientRect().height(), m_keepAspect);
+    m_shown.reset();
     if (EnsureBuffer())
         m_buffer.fill(m_background);
     update();

@@ -8,6 +8,7 @@
 
 #include <memory>
 #include <mutex>
+#include <optional>
 
 /// Shows a character and, on request, writes it stroke by stroke. A click (press and release
 /// inside) is reported to the page, which restarts the animation.
@@ -18,6 +19,8 @@ public:
 
     /// Draws the whole glyph at once, smoothly, on a wiped buffer.
     void ShowGlyph(const Form& glyph);
+    /// Fills the buffer with the paper colour; the glyph shown is forgotten.
+    void Wipe() override;
     /// Starts writing the glyph from its first stroke, one step every `intervalMs`.
     void StartAnimation(const Form& glyph, int intervalMs);
     /// Stops a running animation.
@@ -36,6 +39,7 @@ signals:
     void clicked();
 
 protected:
+    void RedrawForPalette() override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
@@ -44,5 +48,6 @@ private:
     std::mutex m_animationLock;
     std::unique_ptr<StrokeAnimation> m_animation;
     bool m_keepAspect = false;
+    std::optional<Form> m_shown; ///< the glyph shown whole, drawn again when the palette changes
     QTimer m_timer;
 };

@@ -17,6 +17,7 @@ InputCanvas::InputCanvas(QWidget* parent) : CanvasBase(parent)
     setAccessibleDescription(tr("Write the character here with the mouse, one stroke at a time"));
     // A finger writes too; its touches are taken here, so Qt makes no mouse events of them.
     setAttribute(Qt::WA_AcceptTouchEvents);
+    m_pen.setColor(Ink());
     m_fadeTimer.setInterval(30);
     connect(&m_fadeTimer, &QTimer::timeout, this, [this] {
         if (m_refusalClock.elapsed() >= FadeMilliseconds) {
@@ -33,6 +34,15 @@ void InputCanvas::ShowRefusal(Refusal refusal)
     m_refusalClock.start();
     m_fadeTimer.start();
     update();
+}
+
+void InputCanvas::RedrawForPalette()
+{
+    m_pen.setColor(Ink());
+    // Everything kept is drawn again, on the new paper in the new ink.
+    m_paintedCount = 0;
+    m_overlayPresent = false;
+    Sync();
 }
 
 void InputCanvas::SetGuideLines(bool shown)

@@ -49,6 +49,8 @@ QPalette DarkPalette()
     p.setColor(QPalette::HighlightedText, Qt::white);
     p.setColor(QPalette::Mid, QColor(110, 110, 110));
     p.setColor(QPalette::PlaceholderText, QColor(150, 150, 150));
+    for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        p.setColor(QPalette::Disabled, role, QColor(120, 120, 120));
     return p;
 }
 
