@@ -81,8 +81,9 @@ void DrawingTestPage::SetCoaching(const CoachingPreferences& preferences)
 void DrawingTestPage::OnStrokeEnded()
 {
     const StrokePath ink = Input()->CurrentStroke();
-    if (!m_quiz.Accepts(ink)) {
-        const StrokeVerdict verdict = m_quiz.Judge(ink);
+    // One judgement: accepted exactly when the checker's score accepts the stroke.
+    const StrokeVerdict verdict = m_quiz.Judge(ink);
+    if (verdict.kind != StrokeVerdict::Kind::Accepted) {
         Input()->Undo();
         m_quiz.StrokeRefused();
         m_coach->Refused(verdict, ink, m_quiz.Glyph());
