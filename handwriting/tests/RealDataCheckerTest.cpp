@@ -2,7 +2,7 @@
 // expected stroke, replayed as a mouse would deliver it, must be accepted at its own index.
 
 #include "FileCharacterDatabase.h"
-#include "Flattening.h"
+#include "LearnerInk.h"
 #include "StrokeChecker.h"
 
 #include <gtest/gtest.h>
@@ -13,22 +13,6 @@
 namespace {
 
 const CanvasRect Canvas{0, 0, 300, 300};
-
-/// The stroke as learner ink: flattened onto the canvas, then points about 3 px apart.
-StrokePath AsInk(const Stroke& stroke, const Form& form, float shiftX = 0, float shiftY = 0)
-{
-    StrokePath ink(FlattenStroke(stroke));
-    ink.ScaleAndOffset(300.0f / form.Width(), 300.0f / form.Height(), shiftX, shiftY);
-    const float length = ink.Length();
-    ink.ResampleInPlace(std::max<std::uint32_t>(2, static_cast<std::uint32_t>(std::lround(length / 3.0f)) + 1));
-    return ink;
-}
-
-StrokePath Reversed(const StrokePath& path)
-{
-    std::vector<Point> points(path.Points().rbegin(), path.Points().rend());
-    return StrokePath(std::move(points));
-}
 
 } // namespace
 
@@ -47,7 +31,7 @@ TEST(RealDataChecker, EveryStrokeOfEveryCharacter)
         ++characters;
         for (std::uint16_t k = 0; k < form.StrokeCount(); ++k) {
             ++strokes;
-            const StrokePath ink = AsInk(form.GetStroke(k), form);
+            const StrokePath ink = LearnerInk(form.GetStroke(k), form, 300);
             const float score = checker.Score(ink, k);
             EXPECT_EQ(score, 1.0f) << "character " << id << " stroke " << k;
             if (score == 1.0f)
@@ -63,7 +47,7 @@ TEST(RealDataChecker, EveryStrokeOfEveryCharacter)
             const float shifts[4][2] = {{30, 0}, {-30, 0}, {0, 30}, {0, -30}};
             bool refusedSomewhere = false;
             for (const auto& shift : shifts) {
-                const StrokePath moved = AsInk(form.GetStroke(k), form, shift[0], shift[1]);
+                const StrokePath moved = LearnerInk(form.GetStroke(k), form, 300, shift[0], shift[1]);
                 StrokePath resampled;
                 moved.Resample(checker.SampleCount(), resampled);
                 const CanvasRect b = resampled.Bounds(), t = checker.StrokeBounds(k);
@@ -85,7 +69,7 @@ TEST(RealDataChecker, EveryStrokeOfEveryCharacter)
             if (refusedSomewhere)
                 ++refusedWhenMoved;
         }
-        EXPECT_EQ(checker.Score(AsInk(form.GetStroke(0), form), checker.StrokeCount()), -1.0f) << id;
+        EXPECT_EQ(checker.Score(LearnerInk(form.GetStroke(0), form, 300), checker.StrokeCount()), -1.0f) << id;
     }
     std::cout << "characters " << characters << ", strokes " << strokes << ", accepted at their index " << accepted
               << ", refused in some direction when moved " << refusedWhenMoved << " (moves refused " << movedRefused

@@ -3,7 +3,7 @@
 
 #include "StrokeVerdict.h"
 #include "FileCharacterDatabase.h"
-#include "Flattening.h"
+#include "LearnerInk.h"
 
 #include <gtest/gtest.h>
 
@@ -16,15 +16,6 @@ namespace {
 constexpr std::uint16_t Side = 298;
 const CanvasRect Canvas{0, 0, Side, Side};
 
-/// The stroke as learner ink on the canvas: points about 3 px apart.
-StrokePath AsInk(const Stroke& stroke, const Form& form)
-{
-    StrokePath ink(FlattenStroke(stroke));
-    ink.ScaleAndOffset(float(Side) / form.Width(), float(Side) / form.Height(), 0, 0);
-    ink.ResampleInPlace(std::max<std::uint32_t>(2, static_cast<std::uint32_t>(std::lround(ink.Length() / 3.0f)) + 1));
-    return ink;
-}
-
 StrokePath Transformed(const StrokePath& ink, float scale, float shiftX, float shiftY)
 {
     const CanvasRect b = ink.Bounds();
@@ -33,11 +24,6 @@ StrokePath Transformed(const StrokePath& ink, float scale, float shiftX, float s
     for (Point p : ink.Points())
         points.push_back({cx + (p.x - cx) * scale + shiftX, cy + (p.y - cy) * scale + shiftY});
     return StrokePath(std::move(points));
-}
-
-StrokePath Reversed(const StrokePath& ink)
-{
-    return StrokePath(std::vector<Point>(ink.Points().rbegin(), ink.Points().rend()));
 }
 
 /// One horizontal stroke across the middle, then one down the middle.
@@ -96,8 +82,8 @@ TEST(StrokeVerdict, EachKindOnASimpleCharacter)
 {
     const Form form = Cross();
     const StrokeChecker checker(form, Canvas);
-    const StrokePath across = AsInk(form.GetStroke(0), form);
-    const StrokePath down = AsInk(form.GetStroke(1), form);
+    const StrokePath across = LearnerInk(form.GetStroke(0), form, Side);
+    const StrokePath down = LearnerInk(form.GetStroke(1), form, Side);
     using Kind = StrokeVerdict::Kind;
     EXPECT_EQ(JudgeStroke(checker, across, 0).kind, Kind::Accepted);
     const StrokeVerdict order = JudgeStroke(checker, down, 0);
@@ -124,7 +110,7 @@ TEST(StrokeVerdict, AcceptedExactlyWhenTheScoreAccepts)
     const Form form = Cross();
     const StrokeChecker checker(form, Canvas);
     for (float shift = -40; shift <= 40; shift += 4) {
-        const StrokePath ink = Transformed(AsInk(form.GetStroke(0), form), 1, shift, shift / 2);
+        const StrokePath ink = Transformed(LearnerInk(form.GetStroke(0), form, Side), 1, shift, shift / 2);
         EXPECT_EQ(JudgeStroke(checker, ink, 0).kind == StrokeVerdict::Kind::Accepted, checker.Score(ink, 0) >= 1.0f);
     }
 }
@@ -163,7 +149,7 @@ TEST(StrokeVerdict, UsualMistakesOnGradeOneAndTwo)
             const StrokeChecker checker(form, Canvas);
             for (std::uint16_t k = 0; k < form.StrokeCount(); ++k) {
                 const std::string where = std::to_string(code) + ":" + std::to_string(k + 1);
-                const StrokePath ink = AsInk(form.GetStroke(k), form);
+                const StrokePath ink = LearnerInk(form.GetStroke(k), form, Side);
                 count("exact stroke accepted", JudgeStroke(checker, ink, k).kind == Kind::Accepted, where);
                 count("reversed: wrong direction", JudgeStroke(checker, Reversed(ink), k).kind == Kind::WrongDirection,
                     where);
@@ -180,7 +166,7 @@ TEST(StrokeVerdict, UsualMistakesOnGradeOneAndTwo)
                 count("40 %: too short", JudgeStroke(checker, Transformed(ink, 0.4f, 0, 0), k).kind == Kind::TooShort,
                     where);
                 if (k + 1 < form.StrokeCount()) {
-                    const StrokeVerdict v = JudgeStroke(checker, AsInk(form.GetStroke(k + 1), form), k);
+                    const StrokeVerdict v = JudgeStroke(checker, LearnerInk(form.GetStroke(k + 1), form, Side), k);
                     count("next stroke first: wrong order", v.kind == Kind::WrongOrder && v.drawnAs == k + 1, where);
                 }
             }

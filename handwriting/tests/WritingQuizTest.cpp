@@ -1,5 +1,5 @@
 #include "WritingQuiz.h"
-#include "Flattening.h"
+#include "LearnerInk.h"
 
 #include <gtest/gtest.h>
 
@@ -24,14 +24,10 @@ std::unique_ptr<Element> TwoStrokes()
     return element;
 }
 
-/// Stroke `k` of the quiz's glyph as a learner would draw it: points about 3 px apart.
+/// Stroke `k` of the quiz's glyph as a learner would draw it.
 StrokePath Ink(const WritingQuiz& quiz, std::uint16_t k, float shiftX = 0)
 {
-    const Form& form = *quiz.Glyph();
-    StrokePath ink(FlattenStroke(form.GetStroke(k)));
-    ink.ScaleAndOffset(300.0f / form.Width(), 300.0f / form.Height(), shiftX, 0);
-    ink.ResampleInPlace(std::max<std::uint32_t>(2, static_cast<std::uint32_t>(std::lround(ink.Length() / 3.0f)) + 1));
-    return ink;
+    return LearnerInk(quiz.Glyph()->GetStroke(k), *quiz.Glyph(), 300, shiftX);
 }
 
 } // namespace

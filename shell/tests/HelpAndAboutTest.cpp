@@ -1,6 +1,7 @@
 #include "AboutDialog.h"
 #include "HelpActions.h"
 #include "HyperlinkLabel.h"
+#include "RecordingOpener.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -39,13 +40,13 @@ private slots:
         QTemporaryDir folder;
         const QString previous = QDir::currentPath();
         QDir::setCurrent(folder.path());
-        m_opened.clear();
-        QVERIFY(!OpenHelpContents(Opener())); // missing: nothing, silently
-        QVERIFY(m_opened.isEmpty());
+        m_urls.opened.clear();
+        QVERIFY(!OpenHelpContents(m_urls.Opener())); // missing: nothing, silently
+        QVERIFY(m_urls.opened.isEmpty());
         QVERIFY(QFile::copy(QStringLiteral(ZAVOREN_HELP_DOCUMENT), QStringLiteral("Zavoren.html")));
-        QVERIFY(OpenHelpContents(Opener()));
-        QCOMPARE(m_opened.size(), 1);
-        QCOMPARE(m_opened.front(), QUrl::fromLocalFile(folder.filePath(QStringLiteral("Zavoren.html"))));
+        QVERIFY(OpenHelpContents(m_urls.Opener()));
+        QCOMPARE(m_urls.opened.size(), 1);
+        QCOMPARE(m_urls.opened.front(), QUrl::fromLocalFile(folder.filePath(QStringLiteral("Zavoren.html"))));
         // Whether it opened is what the opener says.
         QVERIFY(!OpenHelpContents([](const QUrl&) { return false; }));
         QDir::setCurrent(previous);
@@ -63,9 +64,9 @@ private slots:
 
     void linksOpenTheMakersSite()
     {
-        m_opened.clear();
-        OpenMakerSite(Opener());
-        QCOMPARE(m_opened, QList<QUrl>{QUrl(QString::fromLatin1(MakerSite))});
+        m_urls.opened.clear();
+        OpenMakerSite(m_urls.Opener());
+        QCOMPARE(m_urls.opened, QList<QUrl>{QUrl(QString::fromLatin1(MakerSite))});
     }
 
     void theDesktopOpenerHandsTheAddressToTheDesktop()
@@ -79,7 +80,7 @@ private slots:
         QMainWindow owner;
         owner.setGeometry(100, 100, 400, 300);
         owner.show();
-        AboutDialog about(Opener(), &owner);
+        AboutDialog about(m_urls.Opener(), &owner);
         about.show();
         QVERIFY(QTest::qWaitForWindowExposed(&about));
         QVERIFY(about.isModal());
@@ -104,15 +105,15 @@ private slots:
         QCOMPARE(site->CurrentColour(), QColor(0, 0, 255));
         QCOMPARE(about.SupportLink()->Target(), QString::fromLatin1(SupportAddress));
         QVERIFY(about.SupportLink()->Target().startsWith(QStringLiteral("mailto:")));
-        m_opened.clear();
+        m_urls.opened.clear();
         QTest::mouseClick(site, Qt::LeftButton);
-        QCOMPARE(m_opened, QList<QUrl>{QUrl(QString::fromLatin1(MakerSite))});
+        QCOMPARE(m_urls.opened, QList<QUrl>{QUrl(QString::fromLatin1(MakerSite))});
         QVERIFY(site->Visited());
         QCOMPARE(site->CurrentColour(), QColor(128, 0, 128));
         QTest::mouseClick(site, Qt::LeftButton);
         QCOMPARE(site->CurrentColour(), QColor(128, 0, 128));
         QVERIFY(!about.SupportLink()->Visited());
-        AboutDialog another(Opener(), &owner);
+        AboutDialog another(m_urls.Opener(), &owner);
         QVERIFY(!another.SiteLink()->Visited());
         QCOMPARE(another.SiteLink()->CurrentColour(), QColor(0, 0, 255));
         QTest::mouseClick(about.OkButton(), Qt::LeftButton);
@@ -139,17 +140,8 @@ private slots:
     }
 
 private:
-    /// Records what is asked to open instead of opening it.
-    UrlOpener Opener()
-    {
-        return [this](const QUrl& url) {
-            m_opened << url;
-            return true;
-        };
-    }
-
     UrlCatcher m_catcher;
-    QList<QUrl> m_opened;
+    RecordingOpener m_urls;
 };
 
 QTEST_MAIN(HelpAndAboutTest)

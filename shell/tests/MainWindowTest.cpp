@@ -13,6 +13,7 @@
 #include "ModalAnswerer.h"
 #include "PreferencesDialog.h"
 #include "ReadingTestPage.h"
+#include "RecordingOpener.h"
 #include "RecordingPrompt.h"
 #include "ShellTestSupport.h"
 #include "SplashWindow.h"
@@ -113,7 +114,7 @@ private slots:
     void init()
     {
         m_prompt = RecordingPrompt();
-        m_opened.clear();
+        m_urls.opened.clear();
     }
     void aLearnersWholePathSurvivesARestart()
     {
@@ -122,7 +123,7 @@ private slots:
         Codes taught;
         {
             // An empty learner file: the User Manager opens; add Anna and open her.
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
             ModalAnswerer<AddUserDialog> add([](AddUserDialog& dialog) {
                 dialog.NameEdit()->setText(QStringLiteral("Anna"));
                 QTest::mouseClick(dialog.OkButton(), Qt::LeftButton);
@@ -205,7 +206,7 @@ private slots:
                 "lesson", "lesson", "lesson", "lesson", "lesson", "passed", "passed", "passed", "passed", "passed"}));
         ReleaseDataStores();
         // Started again: Anna opens directly and the home page shows her progress.
-        MainWindow again(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
+        MainWindow again(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
         ModalAnswerer<UserManagerDialog> manager(
             [](UserManagerDialog& dialog) { QTest::mouseClick(dialog.CloseButton(), Qt::LeftButton); });
         QVERIFY(again.ChooseLearnerAtStart());
@@ -219,7 +220,7 @@ private slots:
     void theOnlyLearnerOpensWithoutAsking()
     {
         DataFolder folder(R"(<Z><Users><User name="Solo"/></Users></Z>)");
-        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
+        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
         QVERIFY(window.ChooseLearnerAtStart());
         window.ShowChosenLearner();
         QCOMPARE(QString::fromUtf8(window.Learner()->Name()), QStringLiteral("Solo"));
@@ -229,7 +230,7 @@ private slots:
     void cancellingTheManagerAtStartEndsTheProgram()
     {
         DataFolder folder(R"(<Z><Users><User name="A"/><User name="B"/></Users></Z>)");
-        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
+        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
         ModalAnswerer<UserManagerDialog> manager(
             [](UserManagerDialog& dialog) { QTest::mouseClick(dialog.CloseButton(), Qt::LeftButton); });
         QVERIFY(!window.ChooseLearnerAtStart());
@@ -240,7 +241,7 @@ private slots:
     void testsTakeAtMostFiveUntestedInListOrder()
     {
         DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
-        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
+        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
         QVERIFY(window.ChooseLearnerAtStart());
         window.ShowChosenLearner();
         OpenCategory(window, 0);
@@ -275,7 +276,7 @@ private slots:
         DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
         const Codes grade1 = GetDatabase().LoadCategory(0)->Characters();
         {
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
             QVERIFY(window.ChooseLearnerAtStart());
             window.ShowChosenLearner();
             OpenCategory(window, 0);
@@ -327,7 +328,7 @@ private slots:
     {
         DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/><User name="B"/></Users></Z>)");
         m_prompt.answer = QMessageBox::Yes;
-        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
+        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
         QVERIFY(window.ChooseLearnerAtStart());
         window.ShowChosenLearner();
         QVERIFY(window.isVisible());
@@ -352,7 +353,7 @@ private slots:
     {
         DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
         {
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
             QVERIFY(window.ChooseLearnerAtStart());
             window.ShowChosenLearner();
             window.move(123, 45);
@@ -372,7 +373,7 @@ private slots:
         settings.sync();
         ReleaseDataStores();
         {
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
             QVERIFY(window.ChooseLearnerAtStart());
             QCOMPARE(window.pos(), QPoint(-5000, 9000));
         }
@@ -381,7 +382,7 @@ private slots:
         settings.sync();
         ReleaseDataStores();
         {
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
             QVERIFY(window.ChooseLearnerAtStart());
             const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
             QVERIFY(qAbs(window.frameGeometry().center().x() - screen.center().x()) <= 1);
@@ -391,7 +392,7 @@ private slots:
     void menuAndIgnoredKeys()
     {
         DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
-        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
+        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
         QVERIFY(window.ChooseLearnerAtStart());
         window.ShowChosenLearner();
         QCOMPARE(window.objectName(), QStringLiteral("Zavoren Mainframe Class"));
@@ -407,15 +408,15 @@ private slots:
         QCOMPARE(window.AboutAction()->text(), QStringLiteral("About"));
         // Contents without the help document opens nothing; with it, the document itself.
         window.ContentsAction()->trigger();
-        QVERIFY(m_opened.isEmpty());
+        QVERIFY(m_urls.opened.isEmpty());
         std::ofstream("Zavoren.html") << "<html></html>";
         window.ContentsAction()->trigger();
-        QCOMPARE(
-            m_opened, QList<QUrl>{QUrl::fromLocalFile(QDir(folder.Path()).filePath(QStringLiteral("Zavoren.html")))});
+        QCOMPARE(m_urls.opened,
+            QList<QUrl>{QUrl::fromLocalFile(QDir(folder.Path()).filePath(QStringLiteral("Zavoren.html")))});
         // The site link opens the maker's site.
         window.SiteAction()->trigger();
-        QCOMPARE(m_opened.size(), 2);
-        QCOMPARE(m_opened.last(), QUrl(QString::fromLatin1(MakerSite)));
+        QCOMPARE(m_urls.opened.size(), 2);
+        QCOMPARE(m_urls.opened.last(), QUrl(QString::fromLatin1(MakerSite)));
         // Shift+F1 asks for context help: the next click shows a control's help text.
         window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&window));
@@ -441,7 +442,7 @@ private slots:
     {
         DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
         {
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
             QVERIFY(window.ChooseLearnerAtStart());
             window.ShowChosenLearner();
             QCOMPARE(window.Preferences(), CoachingPreferences{}); // all on at first
@@ -469,7 +470,7 @@ private slots:
             window.close();
         }
         ReleaseDataStores();
-        MainWindow again(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, Opener(), FixedClock);
+        MainWindow again(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
         QCOMPARE(again.Preferences(), CoachingPreferences::AllOff());
         QVERIFY(!again.Lesson()->Feedback()->isVisibleTo(again.Lesson()));
     }
@@ -526,17 +527,8 @@ private slots:
     }
 
 private:
-    /// Records what the window asks to open instead of opening it.
-    UrlOpener Opener()
-    {
-        return [this](const QUrl& url) {
-            m_opened << url;
-            return true;
-        };
-    }
-
     RecordingPrompt m_prompt;
-    QList<QUrl> m_opened;
+    RecordingOpener m_urls;
 };
 
 QTEST_MAIN(MainWindowTest)
