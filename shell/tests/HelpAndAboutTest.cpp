@@ -57,8 +57,8 @@ private slots:
         QFile file(QStringLiteral(ZAVOREN_HELP_DOCUMENT));
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QString text = QString::fromUtf8(file.readAll());
-        for (const char* topic :
-            {"Learners", "Categories", "Lessons", "Tests", "Retest", "Forget", "KanjiVG", "KANJIDIC2"})
+        for (const char* topic : {"Learners", "Categories", "Lessons", "Tests", "Retest", "Forget", "Writing aids",
+                 "Preferences", "KanjiVG", "KANJIDIC2"})
             QVERIFY2(text.contains(QString::fromLatin1(topic)), topic);
     }
 
