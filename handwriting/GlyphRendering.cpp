@@ -78,7 +78,7 @@ void DrawStroke(QPainter& painter, const QRect& target, const Form& form, std::u
     painter.restore();
 }
 
-void DrawFormSmooth(QImage& image, const QRect& target, const Form& form, QRgb ink, int penWidth)
+void DrawFormSmooth(QImage& image, const QRect& target, const Form& form, QRgb ink, qreal penWidth)
 {
     const int w = target.width();
     const int h = target.height();
@@ -93,7 +93,7 @@ void DrawFormSmooth(QImage& image, const QRect& target, const Form& form, QRgb i
         QPainter painter(&big);
         painter.setRenderHint(QPainter::Antialiasing, false);
         painter.setPen(QPen(Qt::black, 4 * penWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        const int offset = (4 * penWidth) / 2;
+        const int offset = static_cast<int>(4 * penWidth) / 2;
         const QRect enlarged(0, 0, 4 * w, 4 * h);
         for (std::uint16_t i = 0; i < form.StrokeCount(); ++i)
             DrawStroke(painter, enlarged, form, i, 4, offset, offset);

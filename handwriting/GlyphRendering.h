@@ -22,7 +22,7 @@ void DrawStroke(QPainter& painter, const QRect& target, const Form& form, std::u
 /// Draws every stroke anti-aliased onto a 32-bit image: the form is drawn four times larger with
 /// round pens of 4 x `penWidth`, and each 4 x 4 block is filtered down with a fixed kernel and
 /// blended onto what the image already shows. Pixels outside the image are skipped.
-void DrawFormSmooth(QImage& image, const QRect& target, const Form& form, QRgb ink, int penWidth);
+void DrawFormSmooth(QImage& image, const QRect& target, const Form& form, QRgb ink, qreal penWidth);
 
 /// The filtering step of DrawFormSmooth: `enlarged` (4W x 4H, a pixel is inked when its alpha is
 /// not 0) is filtered down block by block onto `target` of the 32-bit `image`: full coverage

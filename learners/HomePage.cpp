@@ -2,6 +2,7 @@
 
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
+#include "FittedText.h"
 #include "Prompt.h"
 #include "User.h"
 #include "ui_HomePage.h"
@@ -18,8 +19,8 @@ HomePage::HomePage(CharacterDatabase& database, Prompt& prompt, QWidget* parent)
     m_ui->setupUi(this);
     CategoryList()->setAccessibleName(tr("Categories"));
     CategoryList()->setIconSize(QSize(16, 16));
-    const QFontMetrics metrics(font());
-    setFixedSize(PageWidthUnits * metrics.averageCharWidth() / 4, PageHeightUnits * metrics.height() / 8);
+    MakeTextBox(UserNameLabel(), 1);
+    setFixedSize(HorizontalUnits(this, PageWidthUnits), VerticalUnits(this, PageHeightUnits));
     connect(CategoryList(), &QTreeWidget::itemSelectionChanged, this, &HomePage::UpdateButtons);
     connect(CategoryList(), &QTreeWidget::itemDoubleClicked, this, [this] {
         if (!CategoryList()->selectedItems().isEmpty())
@@ -69,9 +70,9 @@ void HomePage::SetUser(User* user)
     m_user = user;
     if (!user) {
         // The list keeps the previous learner's items.
-        UserNameLabel()->setText(TextOrNotAvailable(nullptr));
+        ShowFitted(UserNameLabel(), TextOrNotAvailable(nullptr), 1);
     } else {
-        UserNameLabel()->setText(QString::fromUtf8(user->Name() ? user->Name() : ""));
+        ShowFitted(UserNameLabel(), QString::fromUtf8(user->Name() ? user->Name() : ""), 1);
         CategoryList()->clear();
         try {
             for (std::uint16_t i = 0; i < m_database.CategoryCount(); ++i) {

@@ -6,6 +6,7 @@
 #include "CharacterDatabase.h"
 #include "CharacterGrid.h"
 #include "DatabaseLoadException.h"
+#include "FittedText.h"
 #include "KanjiInfoDialog.h"
 #include "Prompt.h"
 #include "ui_CategoryPage.h"
@@ -25,6 +26,7 @@ CategoryPage::CategoryPage(CharacterDatabase& database, Prompt& prompt, SeedSour
       m_seeds(std::move(seeds))
 {
     m_ui->setupUi(this);
+    MakeTextBox(m_ui->categoryName, 1);
     Grid()->setAccessibleName(tr("Characters of the category"));
     Strip()->setAccessibleName(tr("Untested characters"));
     for (CharacterGrid* grid : {Grid(), Strip()}) {
@@ -112,7 +114,7 @@ bool CategoryPage::SetCategory(std::uint16_t categoryId, CategoryProgress* progr
         Refresh();
         return false;
     }
-    m_ui->categoryName->setText(QString::fromUtf8(m_category->Name() ? m_category->Name() : ""));
+    ShowFitted(m_ui->categoryName, QString::fromUtf8(m_category->Name() ? m_category->Name() : ""), 1);
     Refresh();
     return true;
 }

@@ -151,17 +151,24 @@ const QImage& CharacterGrid::CellImage(std::uint16_t code, bool selected)
     if (found != m_cache.end())
         return *found;
     const QPalette& pal = palette();
-    QImage image(m_cellSide, m_cellSide, QImage::Format_RGB32);
+    // Drawn at the device pixel ratio, so that glyphs are as sharp as the screen allows.
+    const qreal ratio = devicePixelRatioF();
+    const int side = static_cast<int>(m_cellSide * ratio);
+    QImage image(side, side, QImage::Format_RGB32);
     image.fill(selected ? pal.color(QPalette::Highlight) : pal.color(QPalette::Base));
     const QRgb ink = selected ? pal.color(QPalette::HighlightedText).rgb() : pal.color(QPalette::Text).rgb();
+    const int inset = static_cast<int>(3 * ratio);
     if (const Form* glyph = m_glyphs ? m_glyphs(code) : nullptr)
-        DrawFormSmooth(image, QRect(3, 3, m_cellSide - 6, m_cellSide - 6), *glyph, ink, CellPenWidth);
+        DrawFormSmooth(image, QRect(inset, inset, side - 2 * inset, side - 2 * inset), *glyph, ink, CellPenWidth * ratio);
+    image.setDevicePixelRatio(ratio);
     ++m_rendered;
     return *m_cache.insert(key, image);
 }
 
 void CharacterGrid::paintEvent(QPaintEvent* event)
 {
+    if (!m_cache.isEmpty() && m_cache.begin()->devicePixelRatio() != devicePixelRatioF())
+        m_cache.clear(); // the window went to a screen of another ratio
     QPainter painter(viewport());
     const QPalette& pal = palette();
     painter.fillRect(event->rect(), pal.color(QPalette::Base));

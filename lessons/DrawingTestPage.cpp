@@ -4,6 +4,7 @@
 #include "DatabaseLoadException.h"
 #include "DisplayCanvas.h"
 #include "FeedbackLine.h"
+#include "FittedText.h"
 #include "GlyphLoading.h"
 #include "InputCanvas.h"
 #include "Page.h"
@@ -11,10 +12,22 @@
 #include "WritingCursor.h"
 #include "ui_DrawingTestPage.h"
 
+namespace {
+/// Width of the column of the display canvas and the texts, in dialog units.
+constexpr int TextColumnUnits = 120;
+/// Lines each text may take before it is shortened (its tooltip holds all of it).
+constexpr int ReadingLines = 2;
+constexpr int MeaningLines = 3;
+} // namespace
+
 DrawingTestPage::DrawingTestPage(CharacterDatabase& database, Prompt& prompt, QWidget* parent)
     : QuestionPage(parent), m_ui(std::make_unique<Ui::DrawingTestPage>()), m_database(database), m_prompt(prompt)
 {
     m_ui->setupUi(this);
+    // The texts have boxes of a fixed size: the canvases never move with their length.
+    MakeTextBox(OnReadingLabel(), ReadingLines, HorizontalUnits(this, TextColumnUnits));
+    MakeTextBox(KunReadingLabel(), ReadingLines, HorizontalUnits(this, TextColumnUnits));
+    MakeTextBox(MeaningLabel(), MeaningLines, HorizontalUnits(this, TextColumnUnits));
     Display()->MakeSquare();
     Input()->MakeSquare();
     Input()->setCursor(WritingCursor());
@@ -57,9 +70,9 @@ void DrawingTestPage::SetCharacter(const Character* character)
     const QRect client = Input()->ClientRect();
     m_quiz.Start(character ? LoadGlyphOrReport(m_database, character->ElementId(), m_prompt, this) : nullptr,
         CanvasRect{0, 0, static_cast<std::uint16_t>(client.width()), static_cast<std::uint16_t>(client.height())});
-    OnReadingLabel()->setText(TextOrNotAvailable(character ? character->OnReading() : nullptr));
-    KunReadingLabel()->setText(TextOrNotAvailable(character ? character->KunReading() : nullptr));
-    MeaningLabel()->setText(TextOrNotAvailable(character ? character->Meaning() : nullptr));
+    ShowFitted(OnReadingLabel(), TextOrNotAvailable(character ? character->OnReading() : nullptr), ReadingLines);
+    ShowFitted(KunReadingLabel(), TextOrNotAvailable(character ? character->KunReading() : nullptr), ReadingLines);
+    ShowFitted(MeaningLabel(), TextOrNotAvailable(character ? character->Meaning() : nullptr), MeaningLines);
     m_coach->Quiet();
     Display()->StopAnimation();
     Display()->Wipe();

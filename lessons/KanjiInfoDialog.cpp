@@ -3,15 +3,27 @@
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
 #include "DisplayCanvas.h"
+#include "FittedText.h"
 #include "GlyphLoading.h"
 #include "Page.h"
 #include "Prompt.h"
 #include "ui_KanjiInfoDialog.h"
 
+namespace {
+/// Width of the texts' column in dialog units, and the lines each text may take before it is
+/// shortened (its tooltip holds all of it).
+constexpr int TextColumnUnits = 150;
+constexpr int TextLines = 3;
+} // namespace
+
 KanjiInfoDialog::KanjiInfoDialog(CharacterDatabase& database, Prompt& prompt, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::KanjiInfoDialog>()), m_database(database), m_prompt(prompt)
 {
     m_ui->setupUi(this);
+    // Fixed boxes for the texts: the dialog has one size whatever the character.
+    MakeTextBox(OnReadingLabel(), TextLines, HorizontalUnits(this, TextColumnUnits));
+    MakeTextBox(KunReadingLabel(), TextLines, HorizontalUnits(this, TextColumnUnits));
+    MakeTextBox(MeaningLabel(), TextLines, HorizontalUnits(this, TextColumnUnits));
     Display()->MakeSquare();
     connect(Display(), &DisplayCanvas::clicked, this, [this] {
         if (m_glyph)
@@ -61,9 +73,9 @@ void KanjiInfoDialog::showEvent(QShowEvent* event)
     QDialog::showEvent(event);
     if (!m_character || !m_glyph)
         return;
-    OnReadingLabel()->setText(TextOrNotAvailable(m_character->OnReading()));
-    KunReadingLabel()->setText(TextOrNotAvailable(m_character->KunReading()));
-    MeaningLabel()->setText(TextOrNotAvailable(m_character->Meaning()));
+    ShowFitted(OnReadingLabel(), TextOrNotAvailable(m_character->OnReading()), TextLines);
+    ShowFitted(KunReadingLabel(), TextOrNotAvailable(m_character->KunReading()), TextLines);
+    ShowFitted(MeaningLabel(), TextOrNotAvailable(m_character->Meaning()), TextLines);
     Display()->ShowGlyph(m_glyph->GetForm(0));
 }
 

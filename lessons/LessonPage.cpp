@@ -4,6 +4,7 @@
 #include "DatabaseLoadException.h"
 #include "DisplayCanvas.h"
 #include "FeedbackLine.h"
+#include "FittedText.h"
 #include "GlyphLoading.h"
 #include "InputCanvas.h"
 #include "Prompt.h"
@@ -12,15 +13,14 @@
 
 namespace {
 
-/// Width given to a check box caption before it is shortened (the full text is its tooltip).
-constexpr int CaptionWidth = 200;
+/// Width of the column of the display canvas and the three check boxes, in dialog units.
+constexpr int LeftColumnUnits = 120;
+/// Lines a check box caption may take before it is shortened (the full text is its tooltip).
+constexpr int CaptionLines = 2;
 
 void SetCaption(QCheckBox* box, const char* text)
 {
-    const QString full = TextOrNotAvailable(text);
-    box->setText(box->fontMetrics().elidedText(full, Qt::ElideRight, CaptionWidth));
-    box->setToolTip(full);
-    box->setAccessibleName(full);
+    ShowFitted(box, TextOrNotAvailable(text), CaptionLines);
 }
 
 } // namespace
@@ -29,6 +29,10 @@ LessonPage::LessonPage(CharacterDatabase& database, Prompt& prompt, QWidget* par
     : Page(parent), m_ui(std::make_unique<Ui::LessonPage>()), m_database(database), m_prompt(prompt)
 {
     m_ui->setupUi(this);
+    // The captions take the character's texts: their boxes have a fixed size, so that the
+    // canvases never move with the length of a meaning.
+    for (QCheckBox* box : {OnReadingBox(), KunReadingBox(), MeaningBox()})
+        MakeTextBox(box, CaptionLines, HorizontalUnits(this, LeftColumnUnits));
     Display()->MakeSquare();
     Input()->MakeSquare();
     Input()->setCursor(WritingCursor());

@@ -3,14 +3,17 @@
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
 #include "DisplayCanvas.h"
+#include "FittedText.h"
 #include "GlyphLoading.h"
 #include "Page.h"
 #include "Prompt.h"
 #include "ui_ReadingTestPage.h"
 
 namespace {
-/// Width a choice's caption may take before it is shortened.
-constexpr int ChoiceWidth = 190;
+/// Lines a choice or a text may take before it is shortened; every row has room for them, so
+/// nothing moves with the length of a reading.
+constexpr int ChoiceLines = 2;
+constexpr int TextLines = 2;
 } // namespace
 
 ReadingTestPage::ReadingTestPage(CharacterDatabase& database, Prompt& prompt, SeedSource seeds, QWidget* parent)
@@ -21,6 +24,11 @@ ReadingTestPage::ReadingTestPage(CharacterDatabase& database, Prompt& prompt, Se
     Display()->MakeSquare();
     m_onButtons = {m_ui->on0, m_ui->on1, m_ui->on2, m_ui->on3, m_ui->on4};
     m_kunButtons = {m_ui->kun0, m_ui->kun1, m_ui->kun2, m_ui->kun3, m_ui->kun4};
+    for (QLabel* label : {OnReadingLabel(), KunReadingLabel(), MeaningLabel()})
+        MakeTextBox(label, TextLines);
+    for (const auto* buttons : {&m_onButtons, &m_kunButtons})
+        for (QRadioButton* button : *buttons)
+            MakeTextBox(button, ChoiceLines);
     for (int i = 0; i < 5; ++i) {
         connect(m_onButtons[static_cast<std::size_t>(i)], &QRadioButton::clicked, this, [this, i] { Pick(true, i); });
         connect(m_kunButtons[static_cast<std::size_t>(i)], &QRadioButton::clicked, this, [this, i] { Pick(false, i); });
@@ -57,9 +65,9 @@ void ReadingTestPage::SetCharacter(const Character* character)
     Display()->StopAnimation();
     if (character) {
         m_glyph = LoadGlyphOrReport(m_database, character->ElementId(), m_prompt, this);
-        OnReadingLabel()->setText(QStringLiteral("?"));
-        KunReadingLabel()->setText(QStringLiteral("?"));
-        MeaningLabel()->setText(TextOrNotAvailable(character->Meaning()));
+        ShowFitted(OnReadingLabel(), QStringLiteral("?"), TextLines);
+        ShowFitted(KunReadingLabel(), QStringLiteral("?"), TextLines);
+        ShowFitted(MeaningLabel(), TextOrNotAvailable(character->Meaning()), TextLines);
         if (m_glyph)
             Display()->ShowGlyph(m_glyph->GetForm(0));
         else
@@ -86,12 +94,9 @@ void ReadingTestPage::SetCharacter(const Character* character)
             buttons[i]->setAutoExclusive(false);
             buttons[i]->setChecked(false);
             const bool has = i < texts.size();
-            // Long readings are shortened on the button; the tooltip and the accessible name
-            // carry the whole text.
-            const QString full = has ? TextOrNotAvailable(texts[i].c_str()) : QString();
-            buttons[i]->setText(buttons[i]->fontMetrics().elidedText(full, Qt::ElideRight, ChoiceWidth));
-            buttons[i]->setToolTip(full);
-            buttons[i]->setAccessibleName(full);
+            // A long reading takes a second line; only beyond it is it shortened, the tooltip
+            // and the accessible name carrying the whole text.
+            ShowFitted(buttons[i], has ? TextOrNotAvailable(texts[i].c_str()) : QString(), ChoiceLines);
             buttons[i]->setEnabled(has);
         }
         for (QRadioButton* b : buttons)
@@ -112,7 +117,7 @@ void ReadingTestPage::Pick(bool on, int index)
     if (m_judge.Pick(set, static_cast<std::size_t>(index)) != ReadingJudge::Outcome::Right)
         return;
     const char* reading = on ? m_character->OnReading() : m_character->KunReading();
-    (on ? OnReadingLabel() : KunReadingLabel())->setText(TextOrNotAvailable(reading));
+    ShowFitted(on ? OnReadingLabel() : KunReadingLabel(), TextOrNotAvailable(reading), TextLines);
     const auto& buttons = on ? m_onButtons : m_kunButtons;
     for (int i = 0; i < 5; ++i)
         if (i != index)

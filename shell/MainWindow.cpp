@@ -12,6 +12,7 @@
 #include "PreferencesDialog.h"
 #include "ProgressRecorder.h"
 #include "Prompt.h"
+#include "ScreenPlacement.h"
 #include "TestContainer.h"
 #include "UserManagerDialog.h"
 
@@ -192,6 +193,8 @@ bool MainWindow::ChooseLearnerAtStart()
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         move(screen->availableGeometry().center() - rect().center());
     LoadPlacement();
+    if (m_preferences.keepOnScreen)
+        KeepOnScreen();
     return true;
 }
 
@@ -342,8 +345,16 @@ void MainWindow::LoadPlacement()
     qint32 fields[4] = {frame.left(), frame.top(), frame.left() + frame.width(), frame.top() + frame.height()};
     for (int i = 0; i < 4 && (i + 1) * 4 <= bytes.size(); ++i)
         fields[i] = qFromLittleEndian<qint32>(bytes.constData() + 4 * i);
-    // Not checked against the screens: a position off every screen is restored as it is.
+    // As stored, even off every screen, unless the learner keeps the window on screen.
     move(fields[0], fields[1]);
+}
+
+void MainWindow::KeepOnScreen()
+{
+    QList<QRect> screens;
+    for (const QScreen* screen : QGuiApplication::screens())
+        screens << screen->availableGeometry();
+    move(PlaceOnScreens(frameGeometry(), screens));
 }
 
 void MainWindow::SavePlacement()

@@ -52,6 +52,9 @@ public:
     void LoadPlacement();
     /// Stores the window position.
     void SavePlacement();
+    /// Moves the window onto the nearest screen when it is off every screen, or so that its
+    /// top-left corner is visible when it does not fit its screen.
+    void KeepOnScreen();
 
     Page* ShownPage() const { return m_shown; }
     HomePage* Home() const { return m_home; }

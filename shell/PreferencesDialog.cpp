@@ -15,6 +15,7 @@ QSettings Settings()
 const char* const ExplainKey = "Preferences/ExplainRefusedStrokes";
 const char* const GridKey = "Preferences/PracticeGrid";
 const char* const HintKey = "Preferences/HintAfterThreeMisses";
+const char* const OnScreenKey = "Preferences/KeepWindowOnScreen";
 
 } // namespace
 
@@ -25,10 +26,12 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
     m_explain = new QCheckBox(tr("Explain refused strokes"), this);
     m_grid = new QCheckBox(tr("Practice grid"), this);
     m_hint = new QCheckBox(tr("Show where a stroke starts after three misses"), this);
+    m_onScreen = new QCheckBox(tr("Bring the window onto the screen at start"), this);
     m_explain->setChecked(preferences.explainRefusals);
     m_grid->setChecked(preferences.practiceGrid);
     m_hint->setChecked(preferences.hintAfterMisses);
-    for (QCheckBox* box : {m_explain, m_grid, m_hint}) {
+    m_onScreen->setChecked(preferences.keepOnScreen);
+    for (QCheckBox* box : {m_explain, m_grid, m_hint, m_onScreen}) {
         box->setAccessibleName(box->text());
         layout->addWidget(box);
     }
@@ -40,7 +43,7 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
 
 CoachingPreferences PreferencesDialog::Chosen() const
 {
-    return {m_explain->isChecked(), m_grid->isChecked(), m_hint->isChecked()};
+    return {m_explain->isChecked(), m_grid->isChecked(), m_hint->isChecked(), m_onScreen->isChecked()};
 }
 
 CoachingPreferences LoadCoachingPreferences()
@@ -50,6 +53,7 @@ CoachingPreferences LoadCoachingPreferences()
     p.explainRefusals = settings.value(QLatin1String(ExplainKey), p.explainRefusals).toBool();
     p.practiceGrid = settings.value(QLatin1String(GridKey), p.practiceGrid).toBool();
     p.hintAfterMisses = settings.value(QLatin1String(HintKey), p.hintAfterMisses).toBool();
+    p.keepOnScreen = settings.value(QLatin1String(OnScreenKey), p.keepOnScreen).toBool();
     return p;
 }
 
@@ -59,4 +63,5 @@ void SaveCoachingPreferences(const CoachingPreferences& preferences)
     settings.setValue(QLatin1String(ExplainKey), preferences.explainRefusals);
     settings.setValue(QLatin1String(GridKey), preferences.practiceGrid);
     settings.setValue(QLatin1String(HintKey), preferences.hintAfterMisses);
+    settings.setValue(QLatin1String(OnScreenKey), preferences.keepOnScreen);
 }

@@ -17,11 +17,13 @@ public:
     QCheckBox* ExplainBox() const { return m_explain; }
     QCheckBox* GridBox() const { return m_grid; }
     QCheckBox* HintBox() const { return m_hint; }
+    QCheckBox* OnScreenBox() const { return m_onScreen; }
 
 private:
     QCheckBox* m_explain = nullptr;
     QCheckBox* m_grid = nullptr;
     QCheckBox* m_hint = nullptr;
+    QCheckBox* m_onScreen = nullptr;
 };
 
 /// The aids as last chosen, kept with the window's placement (not in the learner file).

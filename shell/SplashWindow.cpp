@@ -5,14 +5,30 @@
 #include <QProgressBar>
 #include <QScreen>
 
+namespace {
+
+/// The start-up picture for the screen's device pixel ratio: drawn at twice the size for any
+/// ratio above 1, so that it is shown sharp (or scaled down smoothly), never scaled up.
+QPixmap SplashPicture()
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (!screen || screen->devicePixelRatio() <= 1.0)
+        return QPixmap(QStringLiteral(":/images/splash.png"));
+    QPixmap picture(QStringLiteral(":/images/splash@2x.png"));
+    picture.setDevicePixelRatio(2.0);
+    return picture;
+}
+
+} // namespace
+
 SplashWindow::SplashWindow(QWidget* parent)
-    : QWidget(parent, Qt::SplashScreen | Qt::FramelessWindowHint), m_picture(QStringLiteral(":/images/splash.png"))
+    : QWidget(parent, Qt::SplashScreen | Qt::FramelessWindowHint), m_picture(SplashPicture())
 {
     setObjectName(QStringLiteral("SplashWindow"));
     setAccessibleName(tr("Zavoren! is starting"));
     if (m_picture.isNull())
         return;
-    setFixedSize(m_picture.size());
+    setFixedSize(m_picture.deviceIndependentSize().toSize());
     m_bar = new QProgressBar(this);
     m_bar->setTextVisible(false);
     m_bar->setGeometry(20, 230, width() - 40, 10);
@@ -61,5 +77,6 @@ void SplashWindow::ShowProgress(bool force)
 void SplashWindow::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.drawPixmap(0, 0, m_picture);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(rect(), m_picture);
 }

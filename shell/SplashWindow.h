@@ -16,6 +16,8 @@ public:
 
     /// False when the picture could not be loaded (no splash is shown then).
     bool HasPicture() const { return !m_picture.isNull(); }
+    /// The picture shown, at the device pixel ratio it was drawn for.
+    const QPixmap& Picture() const { return m_picture; }
     QProgressBar* Bar() const { return m_bar; }
 
     void SetPosition(std::uint32_t position) override;

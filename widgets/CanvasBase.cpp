@@ -26,7 +26,7 @@ void CanvasBase::changeEvent(QEvent* event)
         return;
     const QColor paper = m_backgroundChosen ? m_background : palette().color(QPalette::Base);
     m_background = paper;
-    RedrawForPalette();
+    Redraw();
 }
 
 void CanvasBase::Wipe()
@@ -48,30 +48,47 @@ void CanvasBase::resizeEvent(QResizeEvent* event)
     EnsureBuffer();
 }
 
+QRect CanvasBase::DeviceClientRect() const
+{
+    const qreal ratio = devicePixelRatioF();
+    return QRect(QPoint(0, 0), (QSizeF(contentsRect().size()) * ratio).toSize());
+}
+
 bool CanvasBase::EnsureBuffer()
 {
-    const QSize size = contentsRect().size();
-    if (size.isEmpty())
+    const QSize pixels = DeviceClientRect().size();
+    if (pixels.isEmpty())
         return false;
-    if (size == m_buffer.size())
+    const qreal ratio = devicePixelRatioF();
+    if (pixels == m_buffer.size() && ratio == m_buffer.devicePixelRatio())
         return true;
-    QImage resized(size, QImage::Format_RGB32);
+    // Every pixel is paper before anything is drawn: no stale or uninitialised pixels.
+    QImage resized(pixels, QImage::Format_RGB32);
     resized.fill(m_background);
-    if (!m_buffer.isNull()) {
+    if (!m_buffer.isNull() && ratio == m_buffer.devicePixelRatio()) {
         QPainter painter(&resized);
         painter.drawImage(0, 0, m_buffer);
     }
+    resized.setDevicePixelRatio(ratio);
     m_buffer = resized;
     return true;
 }
 
 void CanvasBase::paintEvent(QPaintEvent* event)
 {
+    if (!m_buffer.isNull() && m_buffer.devicePixelRatio() != devicePixelRatioF()) {
+        // The window went to a screen of another ratio: everything is drawn again for it.
+        EnsureBuffer();
+        Redraw();
+    }
     QPainter painter(this);
     const QRect client = contentsRect();
     const QRect dirty = event->rect().intersected(client);
-    if (!m_buffer.isNull() && !dirty.isEmpty())
-        painter.drawImage(dirty.topLeft(), m_buffer, dirty.translated(-client.topLeft()));
+    if (!m_buffer.isNull() && !dirty.isEmpty()) {
+        const qreal ratio = m_buffer.devicePixelRatio();
+        const QRectF source(QPointF(dirty.topLeft() - client.topLeft()) * ratio, QSizeF(dirty.size()) * ratio);
+        painter.drawImage(QRectF(dirty), m_buffer, source);
+    }
     painter.save();
     painter.translate(client.topLeft());
     painter.setClipRect(QRect(QPoint(0, 0), client.size()));

@@ -1,7 +1,7 @@
 #pragma once
 
-/// The writing aids a learner can switch off (Tools > Preferences). All on by default; all off,
-/// the pages behave exactly as the program always has.
+/// The aids a learner can switch off (Tools > Preferences). All on by default; all off, the
+/// program behaves exactly as it always has.
 struct CoachingPreferences {
     /// Say why a stroke was refused, show the refused ink fading, the way to a misplaced
     /// stroke's place and the start of a reversed one.
@@ -10,7 +10,10 @@ struct CoachingPreferences {
     bool practiceGrid = true;
     /// In a lesson, after three refusals of the same stroke, show where it starts.
     bool hintAfterMisses = true;
+    /// At start, a window whose stored place is off every screen, or whose top-left corner is
+    /// off its screen, is brought onto the screen.
+    bool keepOnScreen = true;
 
-    static CoachingPreferences AllOff() { return {false, false, false}; }
+    static CoachingPreferences AllOff() { return {false, false, false, false}; }
     bool operator==(const CoachingPreferences&) const = default;
 };

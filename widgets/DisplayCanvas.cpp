@@ -24,7 +24,8 @@ void DisplayCanvas::ShowGlyph(const Form& glyph)
     if (!EnsureBuffer())
         return;
     m_buffer.fill(m_background);
-    DrawFormSmooth(m_buffer, ClientRect(), glyph, Ink().rgb(), GlyphPenWidth);
+    // Drawn at device resolution, the pen scaled with the ratio.
+    DrawFormSmooth(m_buffer, DeviceClientRect(), glyph, Ink().rgb(), GlyphPenWidth * m_buffer.devicePixelRatio());
     m_shown = glyph;
     update();
 }
@@ -35,7 +36,7 @@ void DisplayCanvas::Wipe()
     CanvasBase::Wipe();
 }
 
-void DisplayCanvas::RedrawForPalette()
+void DisplayCanvas::Redraw()
 {
     if (m_shown && !m_animation)
         ShowGlyph(*m_shown);

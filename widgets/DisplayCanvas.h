@@ -39,7 +39,7 @@ signals:
     void clicked();
 
 protected:
-    void RedrawForPalette() override;
+    void Redraw() override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 

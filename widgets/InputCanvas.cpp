@@ -36,7 +36,7 @@ void InputCanvas::ShowRefusal(Refusal refusal)
     update();
 }
 
-void InputCanvas::RedrawForPalette()
+void InputCanvas::Redraw()
 {
     m_pen.setColor(Ink());
     // Everything kept is drawn again, on the new paper in the new ink.
@@ -84,9 +84,9 @@ void InputCanvas::Sync()
     if (EnsureBuffer() && m_paintedCount != m_finished.size()) {
         if (m_paintedCount > m_finished.size())
             m_paintedCount = 0;
-        QPainter painter(&m_buffer);
         if (m_paintedCount == 0)
-            painter.fillRect(m_buffer.rect(), m_background);
+            m_buffer.fill(m_background);
+        QPainter painter(&m_buffer);
         for (; m_paintedCount < m_finished.size(); ++m_paintedCount)
             DrawInk(painter, m_finished[m_paintedCount], m_finishedWidths[m_paintedCount]);
     }

@@ -69,7 +69,7 @@ protected:
     void tabletEvent(QTabletEvent* event) override;
     bool event(QEvent* event) override;
     void PaintOverlay(QPainter& painter) override;
-    void RedrawForPalette() override;
+    void Redraw() override;
 
 private:
     void BeginStroke(QMouseEvent* event);

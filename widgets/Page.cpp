@@ -29,6 +29,16 @@ void Page::keyPressEvent(QKeyEvent* event)
     }
 }
 
+int HorizontalUnits(const QWidget* widget, int units)
+{
+    return units * widget->fontMetrics().averageCharWidth() / 4;
+}
+
+int VerticalUnits(const QWidget* widget, int units)
+{
+    return units * widget->fontMetrics().height() / 8;
+}
+
 QString TextOrNotAvailable(const char* text)
 {
     // Strings 218 to 220 of the program: shown where a character has no such text.

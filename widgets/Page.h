@@ -29,5 +29,10 @@ private:
     QPushButton* m_defaultButton = nullptr;
 };
 
+/// Dialog units of `widget`'s font in pixels: a quarter of the average character width across,
+/// an eighth of the line height down.
+int HorizontalUnits(const QWidget* widget, int units);
+int VerticalUnits(const QWidget* widget, int units);
+
 /// Text for a database text that may be absent: the text, or "N/A".
 QString TextOrNotAvailable(const char* text);

@@ -1,5 +1,6 @@
 #include "CategoryPage.h"
 #include "CharacterGrid.h"
+#include "FittedText.h"
 #include "KanjiInfoDialog.h"
 #include "ModalAnswerer.h"
 #include "Random15.h"
@@ -236,7 +237,7 @@ private slots:
         QString meaning;
         ModalAnswerer<KanjiInfoDialog> info([&](KanjiInfoDialog& dialog) {
             title = dialog.windowTitle();
-            meaning = dialog.findChild<QLabel*>(QStringLiteral("meaning"))->text();
+            meaning = FullText(dialog.findChild<QLabel*>(QStringLiteral("meaning")));
             QTest::keyClick(&dialog, Qt::Key_Escape);
         });
         m_page->UntestedMenu()->actions()[0]->trigger();

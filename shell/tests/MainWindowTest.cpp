@@ -365,17 +365,30 @@ private slots:
         QCOMPARE(qFromLittleEndian<qint32>(stored.constData()), 123);
         QCOMPARE(qFromLittleEndian<qint32>(stored.constData() + 4), 45);
         QVERIFY(qFromLittleEndian<qint32>(stored.constData() + 8) > 123);
-        // Off every screen: restored there all the same.
+        // Off every screen: restored there all the same when the window is not kept on screen.
         QByteArray far(16, '\0');
         qToLittleEndian<qint32>(-5000, far.data());
         qToLittleEndian<qint32>(9000, far.data() + 4);
         settings.setValue(QStringLiteral("WindowPosition"), far);
+        settings.setValue(QStringLiteral("Preferences/KeepWindowOnScreen"), false);
         settings.sync();
         ReleaseDataStores();
         {
             MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
             QVERIFY(window.ChooseLearnerAtStart());
             QCOMPARE(window.pos(), QPoint(-5000, 9000));
+        }
+        // Kept on screen (the default): it comes back onto the nearest screen, wholly visible.
+        settings.remove(QStringLiteral("Preferences/KeepWindowOnScreen"));
+        settings.sync();
+        ReleaseDataStores();
+        {
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
+            QVERIFY(window.ChooseLearnerAtStart());
+            const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+            QVERIFY(screen.contains(window.frameGeometry()));
+            QCOMPARE(window.frameGeometry().left(), screen.left()); // nearest: the left edge
+            QCOMPARE(window.frameGeometry().bottom(), screen.bottom()); // and the bottom
         }
         // Without the value: centred.
         settings.remove(QStringLiteral("WindowPosition"));
@@ -453,7 +466,8 @@ private slots:
                 QCOMPARE(dialog.ExplainBox()->text(), QStringLiteral("Explain refused strokes"));
                 QCOMPARE(dialog.GridBox()->text(), QStringLiteral("Practice grid"));
                 QCOMPARE(dialog.HintBox()->text(), QStringLiteral("Show where a stroke starts after three misses"));
-                for (QCheckBox* box : {dialog.ExplainBox(), dialog.GridBox(), dialog.HintBox()}) {
+                QCOMPARE(dialog.OnScreenBox()->text(), QStringLiteral("Bring the window onto the screen at start"));
+                for (QCheckBox* box : {dialog.ExplainBox(), dialog.GridBox(), dialog.HintBox(), dialog.OnScreenBox()}) {
                     QVERIFY(box->isChecked());
                     QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2));
                 }
