@@ -44,7 +44,8 @@ AboutDialog::AboutDialog(UrlOpener open, QWidget* owner) : QDialog(owner)
     grid->addWidget(icon, 0, 0, Qt::AlignTop);
     grid->addLayout(texts, 0, 1);
     grid->addWidget(m_ok, 1, 1, Qt::AlignRight);
-    setFixedWidth(460);
+    // As wide as it always was, and as tall as the wrapped credits need.
+    setFixedSize(460, heightForWidth(460));
 }
 
 void AboutDialog::showEvent(QShowEvent* event)

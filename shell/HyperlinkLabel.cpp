@@ -1,6 +1,7 @@
 #include "HyperlinkLabel.h"
 
 #include <QDesktopServices>
+#include <QEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QUrl>
@@ -32,11 +33,32 @@ void HyperlinkLabel::SetTarget(const QString& target)
     UpdateLook();
 }
 
+QColor HyperlinkLabel::CurrentColour() const
+{
+    const QColor window = palette().color(QPalette::Window);
+    if (window.lightness() >= 128)
+        return m_visited ? m_visitedColour : m_linkColour;
+    // A dark window: the palette's link colour when it is light enough to read, else a light one.
+    const QColor link = palette().color(m_visited ? QPalette::LinkVisited : QPalette::Link);
+    if (link.lightness() - window.lightness() >= 100)
+        return link;
+    return m_visited ? QColor(205, 160, 255) : QColor(120, 175, 255);
+}
+
+void HyperlinkLabel::changeEvent(QEvent* event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && !m_updatingLook)
+        UpdateLook();
+}
+
 void HyperlinkLabel::UpdateLook()
 {
+    m_updatingLook = true;
     QPalette p = palette();
     p.setColor(QPalette::WindowText, CurrentColour());
     setPalette(p);
+    m_updatingLook = false;
     setToolTip(Target());
     setAccessibleName(text());
     setAccessibleDescription(Target());

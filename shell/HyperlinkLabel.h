@@ -5,7 +5,8 @@
 #include <QLabel>
 
 /// A link in a dialog: underlined text in the link colour (blue), purple once visited for the
-/// life of the control, a hand cursor and the target as tooltip. A click opens the target with
+/// life of the control, a hand cursor and the target as tooltip. On a dark window the link takes
+/// the palette's light link colours instead, so that it stays readable. A click opens the target with
 /// the desktop; only a successful open marks the link visited.
 class HyperlinkLabel : public QLabel {
     Q_OBJECT
@@ -20,9 +21,10 @@ public:
     QString Target() const { return m_target.isEmpty() ? text() : m_target; }
     bool Visited() const { return m_visited; }
     /// The colour the caption is painted in now.
-    QColor CurrentColour() const { return m_visited ? m_visitedColour : m_linkColour; }
+    QColor CurrentColour() const;
 
 protected:
+    void changeEvent(QEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -33,6 +35,7 @@ private:
     UrlOpener m_open;
     QString m_target;
     bool m_visited = false;
+    bool m_updatingLook = false;
     QColor m_linkColour{0, 0, 255};
     QColor m_visitedColour{128, 0, 128};
 };

@@ -2,7 +2,8 @@
 // at: home, category (with learned and untested characters), lesson (mid-character, after a
 // refused stroke), reading test, drawing test, Kanji Info, User Manager, About.
 //   render_pages DATABASE OUTPUT_FOLDER [--dark]
-// Run with QT_QPA_PLATFORM=offscreen, and QT_SCALE_FACTOR=2 for a device pixel ratio of 2.
+// Run with QT_QPA_PLATFORM=offscreen, and QT_SCALE_FACTOR=2 for a device pixel ratio of 2;
+// render_all.sh beside this file renders every page at ratios 1 and 2, light and dark.
 
 #include "AboutDialog.h"
 #include "CategoryPage.h"
@@ -30,6 +31,7 @@
 
 #include <cmath>
 #include <cstdio>
+#include <cstring>
 #include <fstream>
 
 namespace {
@@ -129,18 +131,30 @@ int main(int argc, char** argv)
     Write(lesson.Input(), *lesson.Glyph(), 1, 45);
     ok &= Save(lesson, out, QStringLiteral("lesson-refused"));
 
+    // The texts that test the pages' room: the longest KUN reading (the right answer is among the
+    // choices, so one choice is long too) and the longest meaning.
+    std::uint16_t longestKun = 0, longestMeaning = 0;
+    std::size_t kun = 0, meaning = 0;
+    for (std::uint16_t id = 0; id < db.CharacterCount(); ++id) {
+        const auto c = db.LoadCharacter(id);
+        if (c->KunReading() && std::strlen(c->KunReading()) > kun)
+            kun = std::strlen(c->KunReading()), longestKun = id;
+        if (c->Meaning() && std::strlen(c->Meaning()) > meaning)
+            meaning = std::strlen(c->Meaning()), longestMeaning = id;
+    }
+
     TestContainer test(db, prompt, seeds);
-    test.StartTest({grade1[3], grade1[7]});
+    test.StartTest({longestKun, grade1[7]});
     ok &= Save(test, out, QStringLiteral("reading-test"));
 
     DrawingTestPage drawing(db, prompt);
-    const auto character = db.LoadCharacter(grade1[0]);
+    const auto character = db.LoadCharacter(longestMeaning);
     drawing.SetCharacter(character.get());
     Write(drawing.Input(), *drawing.Glyph(), 0, 45);
     ok &= Save(drawing, out, QStringLiteral("drawing-test"));
 
     KanjiInfoDialog info(db, prompt);
-    info.SetCode(grade1[5]);
+    info.SetCode(longestMeaning);
     ok &= Save(info, out, QStringLiteral("kanji-info"));
 
     QTemporaryDir folder;

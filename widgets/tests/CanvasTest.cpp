@@ -1,4 +1,5 @@
 #include "DisplayCanvas.h"
+#include "Contrast.h"
 #include "GlyphRendering.h"
 #include "InputCanvas.h"
 #include "TestSupport.h"
@@ -17,51 +18,6 @@ namespace {
 const QRgb White = qRgb(255, 255, 255);
 }
 
-namespace {
-
-/// Relative luminance of a colour, as contrast ratios are defined for text on screen.
-double Luminance(const QColor& c)
-{
-    auto channel = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
-    return 0.2126 * channel(c.redF()) + 0.7152 * channel(c.greenF()) + 0.0722 * channel(c.blueF());
-}
-
-double Contrast(const QColor& a, const QColor& b)
-{
-    const double la = Luminance(a), lb = Luminance(b);
-    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
-}
-
-QPalette Dark()
-{
-    QPalette p;
-    p.setColor(QPalette::Window, QColor(45, 45, 48));
-    p.setColor(QPalette::WindowText, QColor(230, 230, 230));
-    p.setColor(QPalette::Base, QColor(30, 30, 30));
-    p.setColor(QPalette::Text, QColor(230, 230, 230));
-    p.setColor(QPalette::Mid, QColor(110, 110, 110));
-    p.setColor(QPalette::Highlight, QColor(42, 130, 218));
-    return p;
-}
-
-/// The colour most unlike the paper in an image: the ink where ink is.
-QColor FarthestFrom(const QImage& image, const QColor& paper)
-{
-    QColor best = paper;
-    double distance = -1;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x) {
-            const double d = Contrast(image.pixelColor(x, y), paper);
-            if (d > distance) {
-                distance = d;
-                best = image.pixelColor(x, y);
-            }
-        }
-    return best;
-}
-
-} // namespace
-
 class CanvasTest : public QObject {
     Q_OBJECT
 
@@ -71,13 +27,13 @@ private slots:
         const Form glyph = SmallDatabase::Lines({{10, 30, 99, 30}, {54, 10, 54, 99}});
         InputCanvas input;
         input.resize(200, 200);
-        input.setPalette(Dark());
+        input.setPalette(DarkPalette());
         input.show();
         QVERIFY(QTest::qWaitForWindowExposed(&input));
         DrawInk(&input, StrokeAsMouse(glyph, 0, input.ClientRect().width()));
         DisplayCanvas display;
         display.resize(160, 160);
-        display.setPalette(Dark());
+        display.setPalette(DarkPalette());
         display.show();
         QVERIFY(QTest::qWaitForWindowExposed(&display));
         display.ShowGlyph(glyph);
@@ -99,7 +55,7 @@ private slots:
         DrawInk(&input, StrokeAsMouse(glyph, 0, input.ClientRect().width()));
         QCOMPARE(input.BackBuffer().pixelColor(1, 1), QColor(Qt::white)); // the light look as ever
         const int inked = CountNot(input.BackBuffer(), qRgb(255, 255, 255));
-        input.setPalette(Dark());
+        input.setPalette(DarkPalette());
         const QColor paper = input.BackBuffer().pixelColor(1, 1);
         QCOMPARE(paper, QColor(30, 30, 30));
         QCOMPARE(CountNot(input.BackBuffer(), paper.rgb()), inked); // the stroke, drawn again
@@ -109,7 +65,7 @@ private slots:
         display.show();
         QVERIFY(QTest::qWaitForWindowExposed(&display));
         display.ShowGlyph(glyph);
-        display.setPalette(Dark());
+        display.setPalette(DarkPalette());
         QVERIFY(CountNot(display.BackBuffer(), QColor(30, 30, 30).rgb()) > 0);
         // A wiped canvas stays empty: the glyph it showed is not brought back.
         display.Wipe();

@@ -1,0 +1,483 @@
+// Every page at the device pixel ratio this run is started with (QT_SCALE_FACTOR): controls stay
+// inside their page and in the same place whatever character is shown, back buffers are drawn
+// at the ratio, nothing around the canvases is left unpainted, and the writing is judged in
+// logical pixels.
+
+#include "AboutDialog.h"
+#include "CategoryPage.h"
+#include "CharacterDatabase.h"
+#include "CharacterGrid.h"
+#include "ConfigStore.h"
+#include "Contrast.h"
+#include "DisplayCanvas.h"
+#include "DrawingTestPage.h"
+#include "FittedText.h"
+#include "HomePage.h"
+#include "HyperlinkLabel.h"
+#include "InputCanvas.h"
+#include "KanjiInfoDialog.h"
+#include "LessonPage.h"
+#include "MainWindow.h"
+#include "ReadingTestPage.h"
+#include "RecordingOpener.h"
+#include "RecordingPrompt.h"
+#include "ShellTestSupport.h"
+#include "SplashWindow.h"
+#include "TestContainer.h"
+#include "TestSupport.h"
+#include "UserManagerDialog.h"
+#include "XmlConfigStore.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStackedWidget>
+#include <QTest>
+
+using namespace testsupport;
+
+namespace {
+
+std::uint32_t FixedSeed()
+{
+    return 99;
+}
+
+std::string FixedClock()
+{
+    return "2026-11-22T09:08:07+01:00";
+}
+
+/// The visible children of `page` that reach outside it, described; empty when there are none.
+QString ChildrenOutside(QWidget* page)
+{
+    QStringList outside;
+    for (QWidget* child : page->findChildren<QWidget*>()) {
+        if (child->isWindow() || !child->isVisibleTo(page))
+            continue;
+        const QRect r(child->mapTo(page, QPoint(0, 0)), child->size());
+        if (!page->rect().contains(r))
+            outside << QStringLiteral("%1 '%2' at %3,%4 %5x%6 in %7x%8")
+                           .arg(QString::fromLatin1(child->metaObject()->className()), child->objectName())
+                           .arg(r.x())
+                           .arg(r.y())
+                           .arg(r.width())
+                           .arg(r.height())
+                           .arg(page->width())
+                           .arg(page->height());
+    }
+    return outside.join(QStringLiteral("; "));
+}
+
+/// The visible labels of `page` whose text does not fit them, described; empty when there are
+/// none (a label that wraps needs its height for its width, one that does not needs each line).
+QString ClippedLabels(QWidget* page)
+{
+    QStringList clipped;
+    for (QLabel* label : page->findChildren<QLabel*>()) {
+        if (!label->isVisibleTo(page) || label->text().isEmpty() || !label->pixmap().isNull())
+            continue;
+        bool fits = true;
+        if (label->wordWrap()) {
+            fits = label->heightForWidth(label->width()) <= label->height();
+        } else {
+            const QStringList lines = QString(label->text()).remove(QLatin1Char('&')).split(QLatin1Char('\n'));
+            fits = static_cast<int>(lines.size()) * label->fontMetrics().lineSpacing() <= label->contentsRect().height() + 2;
+            for (const QString& line : lines)
+                fits = fits && label->fontMetrics().horizontalAdvance(line) <= label->contentsRect().width();
+        }
+        if (!fits)
+            clipped << QStringLiteral("'%1' in %2x%3").arg(label->text()).arg(label->width()).arg(label->height());
+    }
+    return clipped.join(QStringLiteral("; "));
+}
+
+/// Where a widget is within the top-level window, and how big.
+QRect PlaceInWindow(const QWidget* widget)
+{
+    return QRect(widget->mapTo(widget->window(), QPoint(0, 0)), widget->size());
+}
+
+/// The characters whose texts test a page's room: the longest meaning, ON and KUN readings of
+/// the standard database, a character without a KUN reading, and the shortest meaning.
+std::vector<std::uint16_t> TellingCharacters(CharacterDatabase& db)
+{
+    auto length = [](const char* text) { return text ? QString::fromUtf8(text).size() : 0; };
+    std::uint16_t longestMeaning = 0, longestOn = 0, longestKun = 0, noKun = 0, shortestMeaning = 0;
+    qsizetype meaning = -1, on = -1, kun = -1, shortest = 1000;
+    for (std::uint16_t id = 0; id < db.CharacterCount(); ++id) {
+        const auto c = db.LoadCharacter(id);
+        if (length(c->Meaning()) > meaning)
+            meaning = length(c->Meaning()), longestMeaning = id;
+        if (length(c->OnReading()) > on)
+            on = length(c->OnReading()), longestOn = id;
+        if (length(c->KunReading()) > kun)
+            kun = length(c->KunReading()), longestKun = id;
+        if (length(c->KunReading()) == 0)
+            noKun = id;
+        if (length(c->Meaning()) > 0 && length(c->Meaning()) < shortest)
+            shortest = length(c->Meaning()), shortestMeaning = id;
+    }
+    return {shortestMeaning, longestMeaning, longestOn, longestKun, noKun};
+}
+
+/// Counts the pixels of a band `width` device pixels wide just inside `area`'s edges that are
+/// not `colour`.
+int StrayPixelsInBand(const QImage& image, const QRect& area, int width, const QColor& colour)
+{
+    int stray = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x) {
+            const bool inBand = x < area.left() + width || x > area.right() - width || y < area.top() + width
+                || y > area.bottom() - width;
+            if (inBand && image.pixelColor(x, y) != colour)
+                ++stray;
+        }
+    return stray;
+}
+
+} // namespace
+
+class PageLayoutTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<DataFolder>(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
+        m_window = std::make_unique<MainWindow>(
+            GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
+        QVERIFY(m_window->ChooseLearnerAtStart());
+        m_window->ShowChosenLearner();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+        m_ratio = m_window->devicePixelRatioF();
+    }
+
+    void cleanup()
+    {
+        m_window.reset();
+        m_folder.reset();
+    }
+
+    void theRatioIsTheOneAskedFor()
+    {
+        const QByteArray asked = qgetenv("QT_SCALE_FACTOR");
+        QCOMPARE(m_ratio, asked.isEmpty() ? 1.0 : asked.toDouble());
+    }
+
+    void everyPageFitsItsWindowWithTheMenuBar()
+    {
+        for (Page* page : {static_cast<Page*>(m_window->Home()), static_cast<Page*>(m_window->Lesson()),
+                 static_cast<Page*>(m_window->Test()), static_cast<Page*>(m_window->Category())}) {
+            if (page == m_window->Category())
+                QVERIFY(m_window->Category()->SetCategory(0, nullptr));
+            m_window->ShowPage(page);
+            QApplication::processEvents();
+            const QString outside = ChildrenOutside(page) + ClippedLabels(page);
+            QVERIFY2(outside.isEmpty(), qPrintable(outside));
+            const QRect inWindow = PlaceInWindow(page);
+            QVERIFY(m_window->rect().contains(inWindow));
+            QCOMPARE(inWindow.top(), m_window->menuBar()->height());
+            QCOMPARE(m_window->size(), QSize(page->width(), page->height() + m_window->menuBar()->height()));
+        }
+    }
+
+    void theLessonKeepsItsPlacesWhateverTheCharacter()
+    {
+        LessonPage* lesson = m_window->Lesson();
+        m_window->ShowPage(lesson);
+        const QSize windowSize = m_window->size();
+        std::optional<QRect> input, display, next;
+        for (std::uint16_t code : TellingCharacters(GetDatabase())) {
+            lesson->StartLesson({code});
+            QApplication::processEvents();
+            const QString outside = ChildrenOutside(lesson) + ClippedLabels(lesson);
+            QVERIFY2(outside.isEmpty(), qPrintable(QStringLiteral("character %1: ").arg(code) + outside));
+            if (!input) {
+                input = PlaceInWindow(lesson->Input());
+                display = PlaceInWindow(lesson->Display());
+                next = PlaceInWindow(lesson->NextButton());
+            }
+            QCOMPARE(PlaceInWindow(lesson->Input()), *input);
+            QCOMPARE(PlaceInWindow(lesson->Display()), *display);
+            QCOMPARE(PlaceInWindow(lesson->NextButton()), *next);
+            QCOMPARE(m_window->size(), windowSize);
+            // The caption shows the meaning in full, or as much as fits with the rest in its tooltip.
+            const auto character = GetDatabase().LoadCharacter(code);
+            QCOMPARE(FullText(lesson->MeaningBox()), QString::fromUtf8(character->Meaning()));
+            QCOMPARE(lesson->MeaningBox()->toolTip(), QString::fromUtf8(character->Meaning()));
+            QCOMPARE(lesson->MeaningBox()->accessibleName(), QString::fromUtf8(character->Meaning()));
+        }
+    }
+
+    void theTestPagesKeepTheirPlacesWhateverTheCharacter()
+    {
+        TestContainer* test = m_window->Test();
+        m_window->ShowPage(test);
+        auto* stack = test->findChild<QStackedWidget*>();
+        QVERIFY(stack);
+        const QSize windowSize = m_window->size();
+        std::optional<QRect> readingDisplay, kunGroup, drawingInput, drawingDisplay, next;
+        for (std::uint16_t code : TellingCharacters(GetDatabase())) {
+            const auto character = GetDatabase().LoadCharacter(code);
+            ReadingTestPage* reading = test->ReadingPage();
+            reading->SetCharacter(character.get());
+            stack->setCurrentWidget(reading);
+            QApplication::processEvents();
+            QString outside = ChildrenOutside(test) + ClippedLabels(test);
+            QVERIFY2(outside.isEmpty(), qPrintable(QStringLiteral("reading %1: ").arg(code) + outside));
+            if (!readingDisplay) {
+                readingDisplay = PlaceInWindow(reading->Display());
+                kunGroup = PlaceInWindow(reading->KunButton(4)->parentWidget());
+                next = PlaceInWindow(test->NextButton());
+            }
+            QCOMPARE(PlaceInWindow(reading->Display()), *readingDisplay);
+            QCOMPARE(PlaceInWindow(reading->KunButton(4)->parentWidget()), *kunGroup);
+            QCOMPARE(PlaceInWindow(test->NextButton()), *next);
+
+            DrawingTestPage* drawing = test->DrawingPage();
+            drawing->SetCharacter(character.get());
+            stack->setCurrentWidget(drawing);
+            QApplication::processEvents();
+            outside = ChildrenOutside(test) + ClippedLabels(test);
+            QVERIFY2(outside.isEmpty(), qPrintable(QStringLiteral("drawing %1: ").arg(code) + outside));
+            if (!drawingInput) {
+                drawingInput = PlaceInWindow(drawing->Input());
+                drawingDisplay = PlaceInWindow(drawing->Display());
+            }
+            QCOMPARE(PlaceInWindow(drawing->Input()), *drawingInput);
+            QCOMPARE(PlaceInWindow(drawing->Display()), *drawingDisplay);
+            QCOMPARE(PlaceInWindow(test->NextButton()), *next);
+            QCOMPARE(m_window->size(), windowSize);
+        }
+    }
+
+    void aLongReadingChoiceTakesTwoLinesBeforeItIsShortened()
+    {
+        TestContainer* test = m_window->Test();
+        m_window->ShowPage(test);
+        ReadingTestPage* reading = test->ReadingPage();
+        test->findChild<QStackedWidget*>()->setCurrentWidget(reading);
+        int wrapped = 0, shortened = 0;
+        // The right answer is always among the choices: characters with long KUN readings.
+        for (std::uint16_t code = 0; code < GetDatabase().CharacterCount() && (wrapped == 0 || shortened == 0); ++code) {
+            const auto character = GetDatabase().LoadCharacter(code);
+            const QString kun = QString::fromUtf8(character->KunReading() ? character->KunReading() : "");
+            if (kun.size() < 16)
+                continue;
+            reading->SetCharacter(character.get());
+            QApplication::processEvents();
+            for (int i = 0; i < 5; ++i) {
+                QRadioButton* button = reading->KunButton(i);
+                if (FullText(button) != kun)
+                    continue;
+                const QStringList lines = button->text().split(QLatin1Char('\n'));
+                QVERIFY(lines.size() <= 2);
+                QCOMPARE(button->toolTip(), kun);
+                QCOMPARE(button->accessibleName(), kun);
+                QVERIFY(button->height() >= 2 * button->fontMetrics().lineSpacing());
+                for (const QString& line : lines)
+                    QVERIFY(button->fontMetrics().horizontalAdvance(line) <= button->width());
+                if (lines.join(QString()) == kun) {
+                    wrapped += lines.size() == 2 ? 1 : 0; // the whole reading, on two lines
+                } else {
+                    QCOMPARE(lines.size(), 2); // shortened only when two lines are not enough
+                    QVERIFY(lines[1].endsWith(QChar(0x2026)));
+                    QVERIFY(kun.startsWith(lines[0] + lines[1].chopped(1)));
+                    ++shortened;
+                }
+            }
+        }
+        QVERIFY(wrapped > 0);
+        QVERIFY(shortened > 0);
+    }
+
+    void theCategoryPageKeepsItsPlacesInEveryCategory()
+    {
+        CategoryPage* category = m_window->Category();
+        m_window->ShowPage(category);
+        std::optional<QRect> grid, strip;
+        for (std::uint16_t id = 0; id < GetDatabase().CategoryCount(); ++id) {
+            QVERIFY(category->SetCategory(id, nullptr));
+            QApplication::processEvents();
+            const QString outside = ChildrenOutside(category) + ClippedLabels(category);
+            QVERIFY2(outside.isEmpty(), qPrintable(outside));
+            if (!grid) {
+                grid = PlaceInWindow(category->Grid());
+                strip = PlaceInWindow(category->Strip());
+            }
+            QCOMPARE(PlaceInWindow(category->Grid()), *grid);
+            QCOMPARE(PlaceInWindow(category->Strip()), *strip);
+        }
+    }
+
+    void theDialogsKeepTheirControlsInside()
+    {
+        KanjiInfoDialog info(GetDatabase(), m_prompt);
+        std::optional<QSize> size;
+        std::optional<QRect> display;
+        for (std::uint16_t code : TellingCharacters(GetDatabase())) {
+            info.SetCode(code);
+            info.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&info));
+            const QString outside = ChildrenOutside(&info) + ClippedLabels(&info);
+            QVERIFY2(outside.isEmpty(), qPrintable(outside));
+            if (!size) {
+                size = info.size();
+                display = PlaceInWindow(info.Display());
+            }
+            QCOMPARE(info.size(), *size);
+            QCOMPARE(PlaceInWindow(info.Display()), *display);
+        }
+        UserManagerDialog manager(GetConfigStore(), m_prompt);
+        manager.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&manager));
+        QVERIFY2((ChildrenOutside(&manager) + ClippedLabels(&manager)).isEmpty(), qPrintable(ChildrenOutside(&manager)));
+        AboutDialog about(m_urls.Opener());
+        about.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&about));
+        QVERIFY2(ClippedLabels(&about).isEmpty(), qPrintable(ClippedLabels(&about)));
+        QVERIFY2(ChildrenOutside(&about).isEmpty(), qPrintable(ChildrenOutside(&about)));
+    }
+
+    void backBuffersAreDrawnAtTheRatio()
+    {
+        LessonPage* lesson = m_window->Lesson();
+        m_window->ShowPage(lesson);
+        lesson->StartLesson({GetDatabase().LoadCategory(0)->Characters()[0]});
+        QApplication::processEvents();
+        for (CanvasBase* canvas : {static_cast<CanvasBase*>(lesson->Input()), static_cast<CanvasBase*>(lesson->Display())}) {
+            QCOMPARE(canvas->BackBuffer().devicePixelRatio(), m_ratio);
+            QCOMPARE(canvas->BackBuffer().size(), (QSizeF(canvas->ClientRect().size()) * m_ratio).toSize());
+        }
+        SplashWindow splash;
+        QVERIFY(splash.HasPicture());
+        QCOMPARE(splash.Picture().devicePixelRatio(), m_ratio > 1.0 ? 2.0 : 1.0);
+        QCOMPARE(splash.size(), QSize(360, 250)); // the same logical size on every screen
+    }
+
+    void aOneLogicalPixelLineIsRatioDevicePixelsWide()
+    {
+        if (m_ratio != 2.0)
+            QSKIP("device pixels are counted at ratio 2");
+        LessonPage* lesson = m_window->Lesson();
+        m_window->ShowPage(lesson);
+        lesson->StartLesson({GetDatabase().LoadCategory(0)->Characters()[0]});
+        InputCanvas* input = lesson->Input();
+        QVERIFY(input->GuideLines());
+        const QImage grabbed = input->grab().toImage();
+        QCOMPARE(grabbed.devicePixelRatio(), 2.0);
+        // A row through the upper half, where the dashed vertical guide line may be on or off:
+        // look along the rows for one that crosses a dash, and count its device pixels.
+        const QColor paper = input->Background();
+        const QRect client = input->contentsRect();
+        int widest = 0;
+        for (int y = 2 * client.top() + 4; y < 2 * (client.top() + client.height() / 2) - 4; ++y) {
+            int run = 0;
+            for (int x = 2 * client.left(); x < 2 * client.right(); ++x)
+                if (grabbed.pixelColor(x, y) != paper)
+                    ++run;
+            widest = std::max(widest, run);
+        }
+        // The guide line is one logical pixel: two device pixels, sharp (no blurred third).
+        QCOMPARE(widest, 2);
+    }
+
+    void noStrayPixelsAroundTheCanvases()
+    {
+        LessonPage* lesson = m_window->Lesson();
+        m_window->ShowPage(lesson);
+        const auto grade1 = GetDatabase().LoadCategory(0)->Characters();
+        lesson->StartLesson({grade1[0]});
+        lesson->Input()->SetGuideLines(false);
+        QApplication::processEvents();
+        const QImage page = lesson->grab().toImage();
+        const QColor window = lesson->palette().color(QPalette::Window);
+        for (CanvasBase* canvas : {static_cast<CanvasBase*>(lesson->Input()), static_cast<CanvasBase*>(lesson->Display())}) {
+            const QRect client(canvas->mapTo(lesson, canvas->contentsRect().topLeft()), canvas->contentsRect().size());
+            const QRect device(
+                (QPointF(client.topLeft()) * m_ratio).toPoint(), (QSizeF(client.size()) * m_ratio).toSize());
+            // The client area's edges: paper all round (no stale pixels of a scaled-up buffer).
+            QCOMPARE(StrayPixelsInBand(page, device.adjusted(1, 1, -1, -1), 3, canvas->Background()), 0);
+            // Just outside the frame: the page's own background.
+            const QRect frame(canvas->mapTo(lesson, QPoint(0, 0)), canvas->size());
+            const QRect around(
+                (QPointF(frame.topLeft() - QPoint(2, 2)) * m_ratio).toPoint(), (QSizeF(frame.size() + QSize(4, 4)) * m_ratio).toSize());
+            QCOMPARE(StrayPixelsInBand(page, around.adjusted(0, 0, -1, -1), static_cast<int>(m_ratio), window), 0);
+        }
+    }
+
+    void theSameInkIsJudgedAlikeAtEveryRatio()
+    {
+        LessonPage* lesson = m_window->Lesson();
+        m_window->ShowPage(lesson);
+        const std::uint16_t code = GetDatabase().LoadCategory(0)->Characters()[0]; // 日
+        lesson->StartLesson({code});
+        QApplication::processEvents();
+        InputCanvas* input = lesson->Input();
+        const int side = input->ClientRect().width();
+        const Form& glyph = *lesson->Glyph();
+        // The first stroke, drawn where it belongs, in logical pixels: kept, and recorded as drawn.
+        const std::vector<Point> first = StrokeAsMouse(glyph, 0, side);
+        DrawInk(input, first);
+        QCOMPARE(input->StrokeCount(), 1);
+        const StrokePath kept = input->CurrentStroke();
+        QCOMPARE(kept.Points().size(), first.size());
+        QCOMPARE(kept.Points().front().x, static_cast<float>(static_cast<int>(first.front().x)));
+        QCOMPARE(kept.Points().front().y, static_cast<float>(static_cast<int>(first.front().y)));
+        // The second, drawn 30 logical pixels low: refused at every ratio.
+        std::vector<Point> low = StrokeAsMouse(glyph, 1, side);
+        for (Point& p : low)
+            p.y += 30;
+        DrawInk(input, low);
+        QCOMPARE(input->StrokeCount(), 1);
+        // Then the rest where they belong: all kept.
+        for (std::uint16_t k = 1; k < glyph.StrokeCount(); ++k)
+            DrawInk(input, StrokeAsMouse(glyph, k, side));
+        QCOMPARE(input->StrokeCount(), static_cast<int>(glyph.StrokeCount()));
+    }
+
+    void theGridIsReadableInADarkPalette()
+    {
+        m_window->setPalette(DarkPalette());
+        CategoryPage* category = m_window->Category();
+        m_window->ShowPage(category);
+        QVERIFY(category->SetCategory(0, nullptr));
+        QApplication::processEvents();
+        CharacterGrid* grid = category->Grid();
+        const QImage shot = grid->viewport()->grab().toImage();
+        const QColor paper = DarkPalette().color(QPalette::Base);
+        // The first cell of the grid, inside its border: paper and ink of the palette.
+        const QColor ink = FarthestFrom(shot, paper);
+        QVERIFY2(Contrast(paper, ink) >= 7.0, qPrintable(QString::number(Contrast(paper, ink))));
+        QVERIFY(shot.pixelColor(shot.width() - 3, shot.height() - 3).lightness() < 80); // dark paper
+    }
+
+    void linksAreBlueOnLightAndReadableOnDark()
+    {
+        AboutDialog about(m_urls.Opener());
+        const auto links = about.findChildren<HyperlinkLabel*>();
+        QCOMPARE(links.size(), 2);
+        for (HyperlinkLabel* link : links)
+            QCOMPARE(link->CurrentColour(), QColor(0, 0, 255)); // the light look as ever
+        about.setPalette(DarkPalette());
+        const QColor window = DarkPalette().color(QPalette::Window);
+        for (HyperlinkLabel* link : links) {
+            QVERIFY2(Contrast(link->CurrentColour(), window) >= 4.5,
+                qPrintable(QString::number(Contrast(link->CurrentColour(), window))));
+            QCOMPARE(link->palette().color(QPalette::WindowText), link->CurrentColour()); // painted so
+        }
+    }
+
+private:
+    std::unique_ptr<DataFolder> m_folder;
+    std::unique_ptr<MainWindow> m_window;
+    RecordingPrompt m_prompt;
+    RecordingOpener m_urls;
+    qreal m_ratio = 1.0;
+};
+
+QTEST_MAIN(PageLayoutTest)
+#include "PageLayoutTest.moc"
