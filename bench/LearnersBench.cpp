@@ -4,6 +4,7 @@
 #include "FileCharacterDatabase.h"
 #include "XmlConfigStore.h"
 
+#include <cstdio>
 #include <benchmark/benchmark.h>
 
 #include <filesystem>
@@ -86,19 +87,44 @@ void BM_SaveUserWithEveryCharacter(benchmark::State& state)
 }
 BENCHMARK(BM_SaveUserWithEveryCharacter)->Unit(benchmark::kMillisecond);
 
+/// Local time of the `minute`th minute of day `day` after 1 January 2015, as events spell it.
+std::string EventTime(int day, int minute)
+{
+    // Days to a civil date (Howard Hinnant's algorithm).
+    const int z = day + 16436 + 719468; // 2015-01-01 is day 16436 of the Unix epoch
+    const int era = z / 146097;
+    const int doe = z - era * 146097;
+    const int yoe = (doe - doe / 1460 + doe / 36524 - doe / 146096) / 365;
+    const int doy = doe - (365 * yoe + yoe / 4 - yoe / 100);
+    const int mp = (5 * doy + 2) / 153;
+    const int d = doy - (153 * mp + 2) / 5 + 1;
+    const int m = mp < 10 ? mp + 3 : mp - 9;
+    const int y = yoe + era * 400 + (m <= 2 ? 1 : 0);
+    char text[32];
+    std::snprintf(text, sizeof text, "%04d-%02d-%02dT%02d:%02d:00+01:00", y, m, d, 18 + minute / 60, minute % 60);
+    return text;
+}
+
 void BM_SaveUserWithTenYearsOfHistory(benchmark::State& state)
 {
-    // About ten years of daily work: 100,000 events (lessons and tests, some with mistakes),
-    // saved in a file of its own beside the other learners.
+    // About eleven years of daily work, 100,000 events: every evening five sittings of five
+    // characters each (a lesson, then tests of the characters taught, some failed or with
+    // mistakes), the category changing every few months; saved in a file of its own.
     Fixture& f = Shared();
     const fs::path path = f.dir / "history.xml";
     fs::copy_file(f.dir / "config.xml", path, fs::copy_options::overwrite_existing);
     XmlConfigStore store(path.string(), *f.database);
     auto user = store.LoadUser("Learner 1");
-    const char* kinds[] = {LearnerEvent::Lesson, LearnerEvent::Passed, LearnerEvent::Failed};
-    for (int i = 0; i < 100000; ++i)
-        user->AddEvent({"2026-11-22T09:08:07+01:00", kinds[i % 3], static_cast<std::uint16_t>(i % 8),
-            static_cast<std::uint16_t>(i % 3000), i % 3 == 0 ? -1 : i % 4});
+    for (int i = 0; i < 100000; ++i) {
+        const int sitting = i / 5;
+        const int day = sitting / 5;
+        const bool lesson = sitting % 2 == 0;
+        const bool failed = !lesson && i % 7 == 0;
+        user->AddEvent({EventTime(day, 10 * (sitting % 5)),
+            lesson ? LearnerEvent::Lesson : (failed ? LearnerEvent::Failed : LearnerEvent::Passed),
+            static_cast<std::uint16_t>(day / 500 % 8), static_cast<std::uint16_t>(i % 3000),
+            lesson ? -1 : i % 3});
+    }
     const auto before = fs::file_size(path);
     store.SaveUser(*user);
     const auto after = fs::file_size(path);

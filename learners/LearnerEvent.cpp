@@ -1,6 +1,7 @@
 #include "LearnerEvent.h"
 
 #include <cctype>
+#include <cstdio>
 #include <ctime>
 
 std::string LocalTimeNow()
@@ -31,4 +32,46 @@ bool IsEventTime(const std::string& text)
             return false;
     }
     return true;
+}
+
+int DayOfDate(int year, int month, int day)
+{
+    // Howard Hinnant's days_from_civil.
+    year -= month <= 2 ? 1 : 0;
+    const int era = (year >= 0 ? year : year - 399) / 400;
+    const int yoe = year - era * 400;
+    const int doy = (153 * (month + (month > 2 ? -3 : 9)) + 2) / 5 + day - 1;
+    const int doe = yoe * 365 + yoe / 4 - yoe / 100 + doy;
+    return era * 146097 + doe - 719468;
+}
+
+std::string DayText(int day)
+{
+    // Howard Hinnant's civil_from_days.
+    const int z = day + 719468;
+    const int era = (z >= 0 ? z : z - 146096) / 146097;
+    const int doe = z - era * 146097;
+    const int yoe = (doe - doe / 1460 + doe / 36524 - doe / 146096) / 365;
+    const int doy = doe - (365 * yoe + yoe / 4 - yoe / 100);
+    const int mp = (5 * doy + 2) / 153;
+    const int d = doy - (153 * mp + 2) / 5 + 1;
+    const int m = mp < 10 ? mp + 3 : mp - 9;
+    const int y = yoe + era * 400 + (m <= 2 ? 1 : 0);
+    char text[40];
+    std::snprintf(text, sizeof text, "%04d-%02d-%02d", y, m, d);
+    return text;
+}
+
+int EventDay(const std::string& at)
+{
+    if (!IsEventTime(at))
+        return -1;
+    const int year = std::stoi(at.substr(0, 4));
+    const int month = std::stoi(at.substr(5, 2));
+    const int day = std::stoi(at.substr(8, 2));
+    if (month < 1 || month > 12 || day < 1 || day > 31)
+        return -1;
+    const int number = DayOfDate(year, month, day);
+    // 31 February and the like do not come back as themselves.
+    return DayText(number) == at.substr(0, 10) ? number : -1;
 }

@@ -14,7 +14,8 @@ struct LearnerEvent {
     static constexpr const char* Failed = "failed"; ///< a test failed: not learned again
     static constexpr const char* Retest = "retest"; ///< sent back from learned for testing
     static constexpr const char* Forget = "forget"; ///< removed from learned on the category page
-    static constexpr const char* Learn = "learn"; ///< a lesson of this one character begun
+    static constexpr const char* Learn = "learn"; ///< a lesson of this one new character begun
+    static constexpr const char* Review = "review"; ///< a lesson of one character already taught
 
     std::string at; ///< local date and time, ISO 8601 with the offset: 2026-11-22T09:08:07+01:00
     std::string kind;
@@ -33,3 +34,13 @@ std::string LocalTimeNow();
 
 /// Whether `text` is a date and time as LearnerEvent::at spells it.
 bool IsEventTime(const std::string& text);
+
+/// The local date of an event time as a day number (days since 1970-01-01), or -1 when `at` is
+/// not an event time or its date does not exist.
+int EventDay(const std::string& at);
+
+/// The date of a day number as YYYY-MM-DD.
+std::string DayText(int day);
+
+/// Day number of a civil date (proleptic Gregorian calendar).
+int DayOfDate(int year, int month, int day);

@@ -3,6 +3,7 @@
 #include "ConfigException.h"
 #include "DatabaseLoadException.h"
 #include "TextRules.h"
+#include "UserRecordXml.h"
 
 #include <cctype>
 #include <cerrno>
@@ -46,20 +47,6 @@ public:
     void write(const void* data, size_t size) override { text.append(static_cast<const char*>(data), size); }
     std::string text;
 };
-
-/// Digits only, at most `max`: how the program writes the numbers of an event.
-bool IsPlainNumber(const char* text, unsigned max)
-{
-    if (!*text)
-        return false;
-    unsigned long value = 0;
-    for (const char* p = text; *p; ++p) {
-        if (*p < '0' || *p > '9' || p - text > 5)
-            return false;
-        value = value * 10 + static_cast<unsigned>(*p - '0');
-    }
-    return value <= max;
-}
 
 /// Finds an element nested deeper than MaxDepth, without recursion.
 class DepthCheck : public pugi::xml_tree_walker {
@@ -212,19 +199,7 @@ std::unique_ptr<User> XmlConfigStore::ReadUser(const std::string& name)
         return nullptr;
     auto user = std::make_unique<User>();
     user->SetName(name);
-    for (pugi::xml_node progress : node.children("Progress")) {
-        CategoryProgress record;
-        record.SetCategoryId(ParseId(progress.attribute("categoryId").value()));
-        const std::string ids = Format("%s/@%s", "Character", "id");
-        if (const pugi::xml_node learned = progress.child("Learned"))
-            for (const pugi::xpath_node& id : learned.select_nodes(ids.c_str()))
-                record.AddLearned(ParseId(id.attribute().value()));
-        if (const pugi::xml_node untested = progress.child("Untested"))
-            for (const pugi::xpath_node& id : untested.select_nodes(ids.c_str()))
-                record.AddUntested(ParseId(id.attribute().value()));
-        user->AddProgress(record);
-    }
-    ReadHistory(node.child("History"), *user);
+    ReadUserRecord(node, *user);
     if (!EqualsIgnoringAsciiCase(m_currentUserName, name))
         SetCurrentUser(name);
     return user;
@@ -289,60 +264,8 @@ bool XmlConfigStore::WriteUser(User& user)
         node = UsersNode().append_child("User");
         node.append_attribute("name") = name.c_str();
     }
-    const std::uint16_t categories = m_database->CategoryCount();
-    for (std::uint16_t i = 0; i < categories; ++i) {
-        const CategoryProgress& record = user.GetProgress(i);
-        pugi::xml_node progress = node.append_child("Progress");
-        progress.append_attribute("categoryId") = static_cast<unsigned>(i);
-        pugi::xml_node learned = progress.append_child("Learned");
-        for (std::uint16_t id : record.Learned())
-            learned.append_child("Character").append_attribute("id") = static_cast<unsigned>(id);
-        pugi::xml_node untested = progress.append_child("Untested");
-        for (std::uint16_t id : record.Untested())
-            untested.append_child("Character").append_attribute("id") = static_cast<unsigned>(id);
-    }
-    WriteHistory(node, user);
+    WriteUserRecord(node, user, m_database->CategoryCount());
     return SaveFile();
-}
-
-void XmlConfigStore::ReadHistory(pugi::xml_node history, User& user)
-{
-    // An event whose time or ids cannot be read is dropped (and so not written back); one of a
-    // kind this program does not record is kept as it is.
-    for (pugi::xml_node node : history.children("Event")) {
-        LearnerEvent event;
-        event.at = node.attribute("at").value();
-        event.kind = node.attribute("kind").value();
-        const pugi::xml_attribute category = node.attribute("categoryId");
-        const pugi::xml_attribute id = node.attribute("id");
-        if (!IsEventTime(event.at) || event.kind.empty() || !IsPlainNumber(category.value(), 0xFFFF)
-            || !IsPlainNumber(id.value(), 0xFFFF))
-            continue;
-        event.categoryId = static_cast<std::uint16_t>(category.as_uint());
-        event.id = static_cast<std::uint16_t>(id.as_uint());
-        if (const pugi::xml_attribute mistakes = node.attribute("mistakes")) {
-            if (!IsPlainNumber(mistakes.value(), 0xFFFF))
-                continue;
-            event.mistakes = mistakes.as_int();
-        }
-        user.AddEvent(std::move(event));
-    }
-}
-
-void XmlConfigStore::WriteHistory(pugi::xml_node node, const User& user)
-{
-    if (user.History().empty())
-        return; // a learner without history keeps the file as it always was
-    pugi::xml_node history = node.append_child("History");
-    for (const LearnerEvent& event : user.History()) {
-        pugi::xml_node e = history.append_child("Event");
-        e.append_attribute("at") = event.at.c_str();
-        e.append_attribute("kind") = event.kind.c_str();
-        e.append_attribute("categoryId") = static_cast<unsigned>(event.categoryId);
-        e.append_attribute("id") = static_cast<unsigned>(event.id);
-        if (event.mistakes >= 0)
-            e.append_attribute("mistakes") = event.mistakes;
-    }
 }
 
 std::uint16_t XmlConfigStore::UserCount() const

@@ -49,8 +49,6 @@ private:
     std::unique_ptr<User> ReadUser(const std::string& name);
     bool WriteUser(User& user);
     bool RewriteInPlace(const std::string& text);
-    static void ReadHistory(pugi::xml_node history, User& user);
-    static void WriteHistory(pugi::xml_node node, const User& user);
     pugi::xml_node UsersNode() const;
     pugi::xml_node FindUser(const char* format, const std::string& name) const;
 

@@ -51,7 +51,8 @@ void ProgressRecorder::Forgotten(const std::vector<std::uint16_t>& codes)
 
 void ProgressRecorder::LearnOne(std::uint16_t code)
 {
-    Record(LearnerEvent::Learn, code);
+    const bool taught = m_progress.IsLearned(code) || m_progress.IsUntested(code);
+    Record(taught ? LearnerEvent::Review : LearnerEvent::Learn, code);
 }
 
 void ProgressRecorder::Record(const char* kind, std::uint16_t code, int mistakes)

@@ -32,7 +32,8 @@ public:
     void Retested(const std::vector<std::uint16_t>& codes);
     /// The category page removed these characters from the learned ones.
     void Forgotten(const std::vector<std::uint16_t>& codes);
-    /// A lesson of this one character begins (Learn on the category page).
+    /// A lesson of this one character begins (Learn or Review on the category page): "review"
+    /// for a character already learned or untested, "learn" for a new one.
     void LearnOne(std::uint16_t code);
 
 private:

@@ -604,6 +604,7 @@ TEST_F(StoreTest, HistoryOfEveryKindRoundTrips)
         {"2026-11-21T19:31:00+00:00", LearnerEvent::Retest, 0, 3, -1},
         {"2026-11-21T19:32:00+00:00", LearnerEvent::Forget, 0, 3, -1},
         {"2026-11-22T07:00:00+09:00", LearnerEvent::Learn, 4, 12, -1},
+        {"2026-11-22T07:10:00+09:00", LearnerEvent::Review, 4, 13, -1},
     };
     for (const LearnerEvent& e : events)
         anna->AddEvent(e);
@@ -636,16 +637,45 @@ TEST_F(StoreTest, AFileWithoutHistoryLoadsAnEmptyOneAndIsWrittenAsBefore)
     EXPECT_EQ(Open()->LoadUser("Anna")->GetProgress(0).Learned(), Ids{5});
 }
 
+TEST_F(StoreTest, EventsShareWhatTheyLeaveOutWithTheEventBefore)
+{
+    auto store = Open();
+    ASSERT_TRUE(store->AddUser("Anna"));
+    auto anna = store->LoadUser("Anna");
+    const std::vector<LearnerEvent> events{
+        {"2026-11-20T08:00:00+01:00", LearnerEvent::Lesson, 1, 3, -1},
+        {"2026-11-20T08:00:00+01:00", LearnerEvent::Lesson, 1, 4, -1},
+        {"2026-11-20T08:05:00+01:00", LearnerEvent::Passed, 1, 3, 0},
+        {"2026-11-20T08:05:00+01:00", LearnerEvent::Failed, 1, 4, 2},
+        {"2026-11-20T08:05:00+01:00", LearnerEvent::Failed, 0, 4, 1},
+    };
+    for (const LearnerEvent& e : events)
+        anna->AddEvent(e);
+    ASSERT_TRUE(store->SaveUser(*anna));
+    const std::string text = ReadText(Config());
+    // Only what differs from the event before is written.
+    EXPECT_NE(text.find("<Event at=\"2026-11-20T08:00:00+01:00\" kind=\"lesson\" categoryId=\"1\" id=\"3\" />"),
+        std::string::npos)
+        << text;
+    EXPECT_NE(text.find("<Event id=\"4\" />"), std::string::npos) << text;
+    EXPECT_NE(text.find("<Event at=\"2026-11-20T08:05:00+01:00\" kind=\"passed\" id=\"3\" mistakes=\"0\" />"),
+        std::string::npos)
+        << text;
+    EXPECT_NE(text.find("<Event kind=\"failed\" id=\"4\" mistakes=\"2\" />"), std::string::npos) << text;
+    EXPECT_NE(text.find("<Event categoryId=\"0\" id=\"4\" mistakes=\"1\" />"), std::string::npos) << text;
+    EXPECT_EQ(Open()->LoadUser("Anna")->History(), events);
+}
+
 TEST_F(StoreTest, JunkInsideHistoryIsSkippedUnknownKindsAreKept)
 {
     WriteText(Config(),
         "<Zavoren><Users><User name=\"Anna\"><Progress categoryId=\"0\"><Learned/><Untested/></Progress><History>"
+        "<Event at=\"2026-11-22T09:00:00+01:00\" categoryId=\"0\" id=\"3\"/>"
         "<Event at=\"2026-11-22T09:00:00+01:00\" kind=\"lesson\" categoryId=\"0\" id=\"4\"/>"
         "<Event at=\"yesterday\" kind=\"lesson\" categoryId=\"0\" id=\"5\"/>"
         "<Event at=\"2026-11-22T09:00:00+01:00\" kind=\"lesson\" categoryId=\"-1\" id=\"5\"/>"
         "<Event at=\"2026-11-22T09:00:00+01:00\" kind=\"lesson\" categoryId=\"0\" id=\"70000\"/>"
         "<Event at=\"2026-11-22T09:00:00+01:00\" kind=\"passed\" categoryId=\"0\" id=\"5\" mistakes=\"x\"/>"
-        "<Event at=\"2026-11-22T09:00:00+01:00\" categoryId=\"0\" id=\"5\"/>"
         "<Note>text</Note>plain text<!-- a comment -->"
         "<Event at=\"2026-11-22T10:00:00+01:00\" kind=\"streak\" categoryId=\"1\" id=\"6\"/>"
         "</History></User></Users></Zavoren>");

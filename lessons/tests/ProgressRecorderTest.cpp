@@ -79,3 +79,18 @@ TEST(ProgressRecorder, TheCategoryPagesChangesAndLearnOneAreRecorded)
     recorder.LearnOne(10);
     EXPECT_EQ(Events(user), (Lines{"retest 5/7", "retest 5/8", "forget 5/9", "learn 5/10"}));
 }
+
+TEST(ProgressRecorder, OneCharacterAlreadyTaughtIsAReview)
+{
+    User user;
+    user.GetProgress(2).AddLearned(7);
+    user.GetProgress(2).AddUntested(8);
+    ProgressRecorder recorder(user, 2, Clock);
+    recorder.LearnOne(7);
+    recorder.LearnOne(8);
+    recorder.LearnOne(9);
+    EXPECT_EQ(Events(user), (Lines{"review 2/7", "review 2/8", "learn 2/9"}));
+    // Nothing moves: the lesson's end decides that.
+    EXPECT_EQ(user.GetProgress(2).Learned(), (Codes{7}));
+    EXPECT_EQ(user.GetProgress(2).Untested(), (Codes{8}));
+}

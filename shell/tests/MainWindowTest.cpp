@@ -20,6 +20,7 @@
 #include "TestContainer.h"
 #include "TestSupport.h"
 #include "UserManagerDialog.h"
+#include "UserRecordXml.h"
 #include "XmlConfigStore.h"
 
 #include <QCheckBox>
@@ -196,10 +197,12 @@ private slots:
         QCOMPARE(progresses, int(GetDatabase().CategoryCount()));
         // The history: each of the five taught, then each of the five passed, dated by the clock.
         QStringList kinds;
-        for (pugi::xml_node e : anna.child("History").children("Event")) {
-            QCOMPARE(QString::fromUtf8(e.attribute("at").value()), QString::fromStdString(FixedClock()));
-            QCOMPARE(e.attribute("categoryId").as_int(), 0);
-            kinds << QString::fromUtf8(e.attribute("kind").value());
+        User record;
+        ReadUserRecord(anna, record);
+        for (const LearnerEvent& e : record.History()) {
+            QCOMPARE(QString::fromStdString(e.at), QString::fromStdString(FixedClock()));
+            QCOMPARE(e.categoryId, 0);
+            kinds << QString::fromStdString(e.kind);
         }
         QCOMPARE(kinds,
             (QStringList{
