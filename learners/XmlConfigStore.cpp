@@ -1,5 +1,6 @@
 #include "XmlConfigStore.h"
 
+#include "AtomicFile.h"
 #include "ConfigException.h"
 #include "DatabaseLoadException.h"
 #include "TextRules.h"
@@ -89,20 +90,6 @@ void RemoveStaleTemporaries(const std::filesystem::path& path)
         if (!ignored && now - written > StaleTemporaryAge)
             fs::remove(it->path(), ignored);
     }
-}
-
-bool WriteAll(int fd, const std::string& text)
-{
-    std::size_t done = 0;
-    while (done < text.size()) {
-        const ssize_t n = ::write(fd, text.data() + done, text.size() - done);
-        if (n < 0 && errno == EINTR)
-            continue;
-        if (n <= 0)
-            return false;
-        done += static_cast<std::size_t>(n);
-    }
-    return true;
 }
 
 } // namespace
@@ -308,31 +295,15 @@ bool XmlConfigStore::SaveFile()
 
     // Write a sibling file, make it durable, then rename it over the old one: a failure at any
     // point leaves the previous config.xml complete.
-    const std::filesystem::path target = std::filesystem::absolute(m_path);
-    std::string temporary = (target.parent_path() / (target.filename().string() + ".XXXXXX")).string();
-    const int fd = ::mkstemp(temporary.data());
-    if (fd < 0) {
+    switch (ReplaceFileAtomically(m_path, text)) {
+    case FileWrite::Written: return true;
+    case FileWrite::NoRights:
         // A folder the learner may not create files in, holding a file they may write: rewrite
         // the file itself, as saving did before files were replaced atomically.
-        if (errno == EACCES || errno == EPERM)
-            return RewriteInPlace(text);
-        throw ConfigException(SaveFailed);
+        return RewriteInPlace(text);
+    case FileWrite::Failed: break;
     }
-    struct stat info { };
-    if (::stat(m_path.c_str(), &info) == 0)
-        ::fchmod(fd, info.st_mode & 07777);
-    const bool written = WriteAll(fd, text) && ::fsync(fd) == 0;
-    const bool closed = ::close(fd) == 0;
-    if (!written || !closed || ::rename(temporary.c_str(), m_path.c_str()) != 0) {
-        ::unlink(temporary.c_str());
-        throw ConfigException(SaveFailed);
-    }
-    const int dir = ::open(target.parent_path().c_str(), O_RDONLY | O_DIRECTORY);
-    if (dir >= 0) {
-        ::fsync(dir);
-        ::close(dir);
-    }
-    return true;
+    throw ConfigException(SaveFailed);
 }
 
 bool XmlConfigStore::RewriteInPlace(const std::string& text)

@@ -1,0 +1,22 @@
+// The module that holds the progress window: loaded by the program when a learner first opens
+// Tools > Progress…, so that the charts' libraries are not loaded at start-up.
+
+#include "ProgressViewFactory.h"
+#include "ProgressWindow.h"
+
+#include <QObject>
+
+class ProgressPlugin : public QObject, public ProgressViewFactory {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID ZavorenProgressViewFactory_iid)
+    Q_INTERFACES(ProgressViewFactory)
+
+public:
+    QWidget* CreateProgressView(CharacterDatabase& database, Prompt& prompt, const User& learner,
+        const std::string& now, QWidget* parent) override
+    {
+        return new ProgressWindow(database, prompt, learner, now, parent);
+    }
+};
+
+#include "ProgressPlugin.moc"

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QtPlugin>
+
+#include <string>
+
+class CharacterDatabase;
+class Prompt;
+class QWidget;
+class User;
+
+/// Makes the progress window. The window lives in a module of its own, loaded on first use, so
+/// that the charts it draws cost nothing at start-up.
+class ProgressViewFactory {
+public:
+    virtual ~ProgressViewFactory() = default;
+
+    /// A window (not yet shown, deleted when closed) on `learner`'s progress up to the date of
+    /// `now` (an event time), owned by `parent`. Characters open in Kanji Info through
+    /// `database` and `prompt`; `learner` must outlive the window.
+    virtual QWidget* CreateProgressView(
+        CharacterDatabase& database, Prompt& prompt, const User& learner, const std::string& now, QWidget* parent)
+        = 0;
+};
+
+#define ZavorenProgressViewFactory_iid "io.github.zavoren.Zavoren.ProgressViewFactory/1.0"
+Q_DECLARE_INTERFACE(ProgressViewFactory, ZavorenProgressViewFactory_iid)

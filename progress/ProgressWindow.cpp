@@ -1,0 +1,318 @@
+#include "ProgressWindow.h"
+
+#include "CharacterDatabase.h"
+#include "DatabaseLoadException.h"
+#include "GlyphRendering.h"
+#include "KanjiInfoDialog.h"
+#include "User.h"
+
+#include <QBarCategoryAxis>
+#include <QBarSeries>
+#include <QBarSet>
+#include <QChart>
+#include <QChartView>
+#include <QComboBox>
+#include <QDateTime>
+#include <QDateTimeAxis>
+#include <QEvent>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineSeries>
+#include <QListWidget>
+#include <QProgressBar>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QValueAxis>
+#include <QVBoxLayout>
+
+namespace {
+
+/// How many trouble characters are shown.
+constexpr std::size_t TroubleCount = 40;
+/// Side of a trouble character's glyph, in logical pixels.
+constexpr int GlyphSide = 48;
+
+/// The date of a day number, as Qt keeps dates.
+QDate DateOfDay(int day)
+{
+    return QDate(1970, 1, 1).addDays(day);
+}
+
+QChartView* MakeChartView(QChart* chart, const QString& name, QWidget* parent)
+{
+    auto* view = new QChartView(chart, parent);
+    view->setRenderHint(QPainter::Antialiasing);
+    view->setAccessibleName(name);
+    view->setMinimumSize(560, 320);
+    return view;
+}
+
+} // namespace
+
+ProgressWindow::ProgressWindow(
+    CharacterDatabase& database, Prompt& prompt, const User& learner, const std::string& now, QWidget* parent)
+    : QWidget(parent, Qt::Window), m_database(database), m_prompt(prompt), m_learner(learner)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setObjectName(QStringLiteral("ProgressWindow"));
+    const QString name = QString::fromUtf8(learner.Name() ? learner.Name() : "");
+    setWindowTitle(tr("Progress of %1").arg(name));
+    setAccessibleName(windowTitle());
+
+    std::vector<std::uint16_t> sizes;
+    for (std::uint16_t i = 0; i < database.CategoryCount(); ++i) {
+        try {
+            const auto category = database.LoadCategory(i);
+            sizes.push_back(static_cast<std::uint16_t>(category->CharacterCount()));
+            m_categoryNames.push_back(QString::fromUtf8(category->Name() ? category->Name() : ""));
+        } catch (const ZavorenCommon::DatabaseLoadException&) {
+            // A category that cannot be read shows with no characters.
+            sizes.push_back(0);
+            m_categoryNames.push_back(tr("Category %1").arg(i + 1));
+        }
+    }
+    const int today = EventDay(now);
+    m_stats = std::make_unique<LearnerStatistics>(learner, sizes, today >= 0 ? today : EventDay(LocalTimeNow()));
+
+    m_tabs = new QTabWidget(this);
+    m_tabs->setAccessibleName(tr("Progress"));
+    m_tabs->addTab(BuildLearnedTab(), tr("&Learned"));
+    m_tabs->addTab(BuildTestsTab(), tr("&Tests"));
+    m_tabs->addTab(BuildCategoriesTab(), tr("&Categories"));
+    m_tabs->addTab(BuildTroubleTab(), tr("T&rouble characters"));
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_tabs);
+    FollowPalette();
+}
+
+ProgressWindow::~ProgressWindow() = default;
+
+QWidget* ProgressWindow::BuildLearnedTab()
+{
+    auto* tab = new QWidget;
+    auto* layout = new QVBoxLayout(tab);
+    m_picker = new QComboBox(tab);
+    m_picker->setAccessibleName(tr("Category shown"));
+    m_picker->addItem(tr("All categories"));
+    for (const QString& name : m_categoryNames)
+        m_picker->addItem(name);
+    auto* label = new QLabel(tr("C&ategory:"), tab);
+    label->setBuddy(m_picker);
+    layout->addWidget(label);
+    layout->addWidget(m_picker);
+
+    auto* chart = new QChart;
+    chart->setTitle(tr("Characters learned"));
+    chart->legend()->hide();
+    m_learned = new QLineSeries(chart);
+    m_learned->setName(tr("Characters learned"));
+    chart->addSeries(m_learned);
+    auto* days = new QDateTimeAxis(chart);
+    days->setFormat(QStringLiteral("yyyy-MM-dd"));
+    days->setTitleText(tr("Date"));
+    auto* count = new QValueAxis(chart);
+    count->setLabelFormat(QStringLiteral("%d"));
+    count->setTitleText(tr("Characters"));
+    chart->addAxis(days, Qt::AlignBottom);
+    chart->addAxis(count, Qt::AlignLeft);
+    m_learned->attachAxis(days);
+    m_learned->attachAxis(count);
+    m_learnedView = MakeChartView(chart, tr("Characters learned over time"), tab);
+    layout->addWidget(m_learnedView);
+    connect(m_picker, &QComboBox::currentIndexChanged, this, &ProgressWindow::ShowLearned);
+    ShowLearned(0);
+    return tab;
+}
+
+void ProgressWindow::ShowLearned(int pickerIndex)
+{
+    const std::optional<std::uint16_t> category
+        = pickerIndex > 0 ? std::optional<std::uint16_t>(static_cast<std::uint16_t>(pickerIndex - 1)) : std::nullopt;
+    const std::vector<int> perDay = m_stats->LearnedPerDay(category);
+    QList<QPointF> points;
+    points.reserve(static_cast<qsizetype>(perDay.size()));
+    int most = 0;
+    for (std::size_t i = 0; i < perDay.size(); ++i) {
+        const QDateTime noon(DateOfDay(m_stats->FirstDay() + static_cast<int>(i)), QTime(12, 0));
+        points.append(QPointF(static_cast<qreal>(noon.toMSecsSinceEpoch()), perDay[i]));
+        most = std::max(most, perDay[i]);
+    }
+    m_learned->replace(points);
+    QChart* chart = m_learnedView->chart();
+    const auto axes = chart->axes();
+    for (QAbstractAxis* axis : axes) {
+        if (auto* days = qobject_cast<QDateTimeAxis*>(axis)) {
+            const QDateTime first(DateOfDay(m_stats->FirstDay()), QTime(0, 0));
+            const QDateTime last(DateOfDay(m_stats->Today()), QTime(23, 59));
+            days->setRange(first, last);
+            days->setTickCount(std::min(7, std::max(2, static_cast<int>(perDay.size()))));
+        } else if (auto* count = qobject_cast<QValueAxis*>(axis)) {
+            count->setRange(0, std::max(5, most + most / 10 + 1));
+        }
+    }
+    m_learnedView->setAccessibleDescription(
+        tr("%n character(s) learned by %1", nullptr, perDay.empty() ? 0 : perDay.back())
+            .arg(DateOfDay(m_stats->Today()).toString(Qt::ISODate)));
+}
+
+QWidget* ProgressWindow::BuildTestsTab()
+{
+    auto* chart = new QChart;
+    chart->setTitle(tr("Tests per week"));
+    auto* series = new QBarSeries(chart);
+    m_passed = new QBarSet(tr("Passed"), series);
+    m_failed = new QBarSet(tr("Failed"), series);
+    QStringList weeks;
+    int most = 0;
+    for (const LearnerStatistics::Week& week : m_stats->TestsPerWeek()) {
+        m_passed->append(week.passed);
+        m_failed->append(week.failed);
+        weeks << DateOfDay(week.monday).toString(QStringLiteral("MM-dd"));
+        most = std::max({most, week.passed, week.failed});
+    }
+    m_passed->setColor(QColor(46, 160, 67));
+    m_failed->setColor(QColor(214, 69, 65));
+    series->append(m_passed);
+    series->append(m_failed);
+    chart->addSeries(series);
+    auto* axis = new QBarCategoryAxis(chart);
+    axis->append(weeks);
+    axis->setTitleText(tr("Week beginning"));
+    axis->setLabelsAngle(-90);
+    auto* count = new QValueAxis(chart);
+    count->setLabelFormat(QStringLiteral("%d"));
+    count->setRange(0, std::max(5, most + 1));
+    count->setTitleText(tr("Tests"));
+    chart->addAxis(axis, Qt::AlignBottom);
+    chart->addAxis(count, Qt::AlignLeft);
+    series->attachAxis(axis);
+    series->attachAxis(count);
+    m_testsView = MakeChartView(chart, tr("Tests passed and failed per week"), nullptr);
+    return m_testsView;
+}
+
+QWidget* ProgressWindow::BuildCategoriesTab()
+{
+    const auto rows = m_stats->Categories();
+    m_table = new QTableWidget(static_cast<int>(rows.size()), 5);
+    m_table->setAccessibleName(tr("Progress in each category"));
+    m_table->setHorizontalHeaderLabels({tr("Category"), tr("Learned"), tr("Untested"), tr("Total"), tr("Done")});
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->verticalHeader()->hide();
+    for (int r = 0; r < static_cast<int>(rows.size()); ++r) {
+        const auto& row = rows[static_cast<std::size_t>(r)];
+        m_table->setItem(r, 0, new QTableWidgetItem(m_categoryNames[row.categoryId]));
+        const std::size_t numbers[] = {row.learned, row.untested, row.total};
+        for (int c = 0; c < 3; ++c) {
+            auto* item = new QTableWidgetItem(QString::number(numbers[c]));
+            item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+            m_table->setItem(r, c + 1, item);
+        }
+        auto* bar = new QProgressBar;
+        bar->setRange(0, static_cast<int>(std::max<std::size_t>(1, row.total)));
+        bar->setValue(static_cast<int>(std::min(row.learned, row.total)));
+        bar->setFormat(QStringLiteral("%p%"));
+        bar->setAccessibleName(tr("%1: %2 of %3 learned").arg(m_categoryNames[row.categoryId]).arg(row.learned).arg(row.total));
+        m_table->setCellWidget(r, 4, bar);
+    }
+    m_table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    m_table->horizontalHeader()->setSectionResizeMode(4, QHeaderView::Stretch);
+    return m_table;
+}
+
+QWidget* ProgressWindow::BuildTroubleTab()
+{
+    m_trouble = new QListWidget;
+    m_trouble->setAccessibleName(tr("Trouble characters, the most troubled first"));
+    m_trouble->setViewMode(QListView::IconMode);
+    m_trouble->setResizeMode(QListView::Adjust);
+    m_trouble->setMovement(QListView::Static);
+    m_trouble->setIconSize(QSize(GlyphSide, GlyphSide));
+    m_trouble->setGridSize(QSize(GlyphSide + 72, GlyphSide + 44));
+    m_trouble->setWordWrap(true);
+    for (const LearnerStatistics::Trouble& t : m_stats->TroubleCharacters(TroubleCount)) {
+        const QString counts = tr("%n mistake(s)", nullptr, t.mistakes) + QLatin1Char('\n')
+            + tr("%n failed", nullptr, t.failures);
+        auto* item = new QListWidgetItem(counts, m_trouble);
+        item->setData(Qt::UserRole, t.id);
+        item->setTextAlignment(Qt::AlignHCenter | Qt::AlignTop);
+        item->setData(Qt::AccessibleTextRole, counts);
+        try {
+            const auto character = m_database.LoadCharacter(t.id);
+            const QString meaning = QString::fromUtf8(character->Meaning() ? character->Meaning() : "");
+            item->setToolTip(meaning);
+            item->setData(Qt::AccessibleTextRole, meaning + QStringLiteral(": ") + counts);
+        } catch (const ZavorenCommon::DatabaseLoadException&) {
+            // Listed with its counts only.
+        }
+    }
+    DrawTroubleGlyphs();
+    // Activated: a double click, or Enter on the selected character.
+    connect(m_trouble, &QListWidget::itemActivated, this, &ProgressWindow::OpenKanjiInfo);
+    return m_trouble;
+}
+
+void ProgressWindow::DrawTroubleGlyphs()
+{
+    // In the palette's text colour, at the screen's ratio.
+    const qreal ratio = devicePixelRatioF();
+    const QRgb ink = palette().color(QPalette::Text).rgb();
+    for (int i = 0; i < m_trouble->count(); ++i) {
+        QListWidgetItem* item = m_trouble->item(i);
+        try {
+            const auto character = m_database.LoadCharacter(static_cast<std::uint16_t>(item->data(Qt::UserRole).toUInt()));
+            const auto element = m_database.LoadElement(character->ElementId());
+            QImage glyph(QSize(GlyphSide, GlyphSide) * ratio, QImage::Format_ARGB32_Premultiplied);
+            glyph.fill(Qt::transparent);
+            if (element && element->FormCount() > 0)
+                DrawFormSmooth(glyph, glyph.rect(), element->GetForm(0), ink, 2 * ratio);
+            glyph.setDevicePixelRatio(ratio);
+            item->setIcon(QIcon(QPixmap::fromImage(glyph)));
+        } catch (const ZavorenCommon::DatabaseLoadException&) {
+            item->setIcon(QIcon());
+        }
+    }
+}
+
+void ProgressWindow::OpenKanjiInfo(QListWidgetItem* item)
+{
+    if (!item)
+        return;
+    KanjiInfoDialog dialog(m_database, m_prompt, this);
+    if (dialog.SetCode(static_cast<std::uint16_t>(item->data(Qt::UserRole).toUInt())))
+        dialog.exec();
+}
+
+void ProgressWindow::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        FollowPalette();
+}
+
+void ProgressWindow::FollowPalette()
+{
+    // The charts draw in the window's colours, so that a dark palette gives dark charts.
+    const QPalette& p = palette();
+    for (QChartView* view : {m_learnedView, m_testsView}) {
+        if (!view)
+            continue;
+        QChart* chart = view->chart();
+        chart->setBackgroundBrush(p.color(QPalette::Base));
+        chart->setTitleBrush(p.color(QPalette::Text));
+        chart->legend()->setLabelColor(p.color(QPalette::Text));
+        const auto axes = chart->axes();
+        for (QAbstractAxis* axis : axes) {
+            axis->setLabelsColor(p.color(QPalette::Text));
+            axis->setTitleBrush(p.color(QPalette::Text));
+            axis->setGridLineColor(p.color(QPalette::Mid));
+            axis->setLinePenColor(p.color(QPalette::Mid));
+        }
+        view->setBackgroundBrush(p.color(QPalette::Window));
+    }
+    if (m_learned)
+        m_learned->setPen(QPen(p.color(QPalette::Highlight), 2));
+    if (m_trouble)
+        DrawTroubleGlyphs();
+}

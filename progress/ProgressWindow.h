@@ -1,0 +1,69 @@
+#pragma once
+
+#include "LearnerStatistics.h"
+
+#include <QWidget>
+
+#include <memory>
+
+class CharacterDatabase;
+class Prompt;
+class QBarSet;
+class QChartView;
+class QComboBox;
+class QLineSeries;
+class QListWidget;
+class QListWidgetItem;
+class QTableWidget;
+class QTabWidget;
+class User;
+
+/// A learner's progress: characters learned over time (overall or in one category), tests per
+/// week, each category's learned / untested / total, and the characters that gave the most
+/// trouble, drawn as their glyphs; a double click opens one in Kanji Info. Follows the palette.
+class ProgressWindow : public QWidget {
+    Q_OBJECT
+public:
+    /// Shows `learner` up to the date of `now`, an event time.
+    ProgressWindow(CharacterDatabase& database, Prompt& prompt, const User& learner, const std::string& now,
+        QWidget* parent = nullptr);
+    ~ProgressWindow() override;
+
+    QTabWidget* Tabs() const { return m_tabs; }
+    QComboBox* CategoryPicker() const { return m_picker; }
+    QLineSeries* LearnedSeries() const { return m_learned; }
+    QChartView* LearnedChart() const { return m_learnedView; }
+    QChartView* TestsChart() const { return m_testsView; }
+    QBarSet* PassedBars() const { return m_passed; }
+    QBarSet* FailedBars() const { return m_failed; }
+    QTableWidget* CategoryTable() const { return m_table; }
+    QListWidget* TroubleList() const { return m_trouble; }
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    QWidget* BuildLearnedTab();
+    QWidget* BuildTestsTab();
+    QWidget* BuildCategoriesTab();
+    QWidget* BuildTroubleTab();
+    void ShowLearned(int pickerIndex);
+    void DrawTroubleGlyphs();
+    void OpenKanjiInfo(QListWidgetItem* item);
+    void FollowPalette();
+
+    CharacterDatabase& m_database;
+    Prompt& m_prompt;
+    const User& m_learner;
+    std::vector<QString> m_categoryNames;
+    std::unique_ptr<LearnerStatistics> m_stats;
+    QTabWidget* m_tabs = nullptr;
+    QComboBox* m_picker = nullptr;
+    QChartView* m_learnedView = nullptr;
+    QLineSeries* m_learned = nullptr;
+    QChartView* m_testsView = nullptr;
+    QBarSet* m_passed = nullptr;
+    QBarSet* m_failed = nullptr;
+    QTableWidget* m_table = nullptr;
+    QListWidget* m_trouble = nullptr;
+};

@@ -1,0 +1,192 @@
+#include "ProgressViewFactory.h"
+#include "ProgressWindow.h"
+
+#include "Contrast.h"
+#include "FileCharacterDatabase.h"
+#include "FittedText.h"
+#include "KanjiInfoDialog.h"
+#include "ModalAnswerer.h"
+#include "RecordingPrompt.h"
+#include "User.h"
+
+#include <QBarSet>
+#include <QChart>
+#include <QChartView>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineSeries>
+#include <QListWidget>
+#include <QPluginLoader>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QTest>
+
+#include <map>
+
+using namespace testsupport;
+
+namespace {
+
+constexpr int Today = 20779; // 2026-11-22
+const std::string Now = "2026-11-22T20:00:00+01:00";
+
+std::string At(int day, const char* time)
+{
+    return DayText(day) + time;
+}
+
+} // namespace
+
+class ProgressWindowTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        m_db = std::make_unique<FileCharacterDatabase>(ZAVOREN_STANDARD_DATABASE);
+        m_db->Preload(nullptr);
+        // A year of work: every other day a lesson of one grade 1 character, then its test,
+        // failed every fifth time with some mistakes; grade 2 on Sundays.
+        m_learner.SetName("Anna");
+        const auto grade1 = m_db->LoadCategory(0)->Characters();
+        const auto grade2 = m_db->LoadCategory(1)->Characters();
+        int n = 0;
+        for (int day = Today - 365; day <= Today; day += 2, ++n) {
+            const bool sunday = ((day % 7) + 7 + 3) % 7 == 6;
+            const std::uint16_t category = sunday ? 1 : 0;
+            const auto& codes = sunday ? grade2 : grade1;
+            const std::uint16_t id = codes[static_cast<std::size_t>(n) % codes.size()];
+            m_learner.AddEvent({At(day, "T18:00:00+01:00"), LearnerEvent::Lesson, category, id, -1});
+            const bool fails = n % 5 == 0;
+            const int mistakes = n % 3;
+            m_learner.AddEvent(
+                {At(day, "T18:30:00+01:00"), fails ? LearnerEvent::Failed : LearnerEvent::Passed, category, id, mistakes});
+            CategoryProgress& progress = m_learner.GetProgress(category);
+            if (fails) {
+                if (!progress.IsUntested(id) && !progress.IsLearned(id))
+                    progress.AddUntested(id);
+            } else if (!progress.IsLearned(id)) {
+                progress.AddLearned(id);
+            }
+        }
+    }
+
+    void theChartsHoldADayAndAWeekPerPoint()
+    {
+        ProgressWindow window(*m_db, m_prompt, m_learner, Now);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QCOMPARE(window.windowTitle(), QStringLiteral("Progress of Anna"));
+        // 2025-11-22 to 2026-11-22: 366 days.
+        QCOMPARE(window.LearnedSeries()->count(), 366);
+        std::size_t learned = 0;
+        for (const CategoryProgress& p : m_learner.Progress())
+            learned += p.Learned().size();
+        QCOMPARE(window.LearnedSeries()->at(365).y(), static_cast<qreal>(learned));
+        QVERIFY(window.LearnedSeries()->at(0).y() <= 1);
+        // One category: its own count.
+        window.CategoryPicker()->setCurrentIndex(2); // grade 2
+        QCOMPARE(window.LearnedSeries()->count(), 366);
+        QCOMPARE(window.LearnedSeries()->at(365).y(), static_cast<qreal>(m_learner.GetProgress(1).Learned().size()));
+        QCOMPARE(window.CategoryPicker()->count(), m_db->CategoryCount() + 1);
+        // Weeks from Monday 2025-11-17 to Monday 2026-11-16.
+        QCOMPARE(window.PassedBars()->count(), 53);
+        QCOMPARE(window.FailedBars()->count(), 53);
+        qreal passed = 0, failed = 0;
+        for (int i = 0; i < 53; ++i)
+            passed += window.PassedBars()->at(i), failed += window.FailedBars()->at(i);
+        int wantPassed = 0, wantFailed = 0;
+        for (const LearnerEvent& e : m_learner.History())
+            wantPassed += e.kind == LearnerEvent::Passed, wantFailed += e.kind == LearnerEvent::Failed;
+        QCOMPARE(passed, static_cast<qreal>(wantPassed));
+        QCOMPARE(failed, static_cast<qreal>(wantFailed));
+    }
+
+    void theCategoryTableCountsEveryCategory()
+    {
+        ProgressWindow window(*m_db, m_prompt, m_learner, Now);
+        QTableWidget* table = window.CategoryTable();
+        QCOMPARE(table->rowCount(), static_cast<int>(m_db->CategoryCount()));
+        QCOMPARE(table->item(0, 0)->text(), QStringLiteral("Grade 1"));
+        QCOMPARE(table->item(0, 1)->text().toInt(), static_cast<int>(m_learner.GetProgress(0).Learned().size()));
+        QCOMPARE(table->item(0, 2)->text().toInt(), static_cast<int>(m_learner.GetProgress(0).Untested().size()));
+        QCOMPARE(table->item(0, 3)->text().toInt(), static_cast<int>(m_db->LoadCategory(0)->CharacterCount()));
+        QVERIFY(table->cellWidget(0, 4) != nullptr); // the bar
+        QVERIFY(!table->cellWidget(0, 4)->accessibleName().isEmpty());
+    }
+
+    void theTroubleListIsOrderedAndOpensKanjiInfo()
+    {
+        ProgressWindow window(*m_db, m_prompt, m_learner, Now);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        window.Tabs()->setCurrentIndex(3);
+        QListWidget* list = window.TroubleList();
+        QVERIFY(list->count() > 3);
+        // Counted here from the history: mistakes and failures of each character.
+        std::map<std::uint16_t, int> trouble;
+        for (const LearnerEvent& e : m_learner.History())
+            if (e.kind == LearnerEvent::Passed || e.kind == LearnerEvent::Failed)
+                trouble[e.id] += e.mistakes + (e.kind == LearnerEvent::Failed ? 1 : 0);
+        int previous = 1 << 30;
+        for (int i = 0; i < list->count(); ++i) {
+            const int score = trouble[static_cast<std::uint16_t>(list->item(i)->data(Qt::UserRole).toUInt())];
+            QVERIFY(score > 0);
+            QVERIFY(score <= previous);
+            previous = score;
+            QVERIFY(!list->item(i)->icon().isNull());
+        }
+        const std::uint16_t second = static_cast<std::uint16_t>(list->item(1)->data(Qt::UserRole).toUInt());
+        QString meaning;
+        ModalAnswerer<KanjiInfoDialog> info([&](KanjiInfoDialog& dialog) {
+            meaning = FullText(dialog.findChild<QLabel*>(QStringLiteral("meaning")));
+            dialog.reject();
+        });
+        QApplication::processEvents(); // the icons are laid out
+        const QRect cell = list->visualItemRect(list->item(1));
+        QVERIFY(list->viewport()->rect().contains(cell.center()));
+        // A double click is a press and a release, then a double-click press and its release.
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
+        QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
+        QCOMPARE(info.Shown(), 1);
+        QCOMPARE(meaning, QString::fromUtf8(m_db->LoadCharacter(second)->Meaning()));
+    }
+
+    void partsHaveAccessibleNamesAndFollowTheDarkPalette()
+    {
+        ProgressWindow window(*m_db, m_prompt, m_learner, Now);
+        for (QWidget* part : {static_cast<QWidget*>(window.Tabs()), static_cast<QWidget*>(window.CategoryPicker()),
+                 static_cast<QWidget*>(window.LearnedChart()), static_cast<QWidget*>(window.TestsChart()),
+                 static_cast<QWidget*>(window.CategoryTable()), static_cast<QWidget*>(window.TroubleList())})
+            QVERIFY2(!part->accessibleName().isEmpty(), part->metaObject()->className());
+        QCOMPARE(window.LearnedChart()->chart()->backgroundBrush().color(), window.palette().color(QPalette::Base));
+        window.setPalette(DarkPalette());
+        const QColor paper = DarkPalette().color(QPalette::Base);
+        QCOMPARE(window.LearnedChart()->chart()->backgroundBrush().color(), paper);
+        QVERIFY(Contrast(window.LearnedChart()->chart()->titleBrush().color(), paper) >= 7.0);
+        QVERIFY(Contrast(window.LearnedSeries()->pen().color(), paper) >= 3.0);
+    }
+
+    void theModuleMakesTheWindow()
+    {
+        QPluginLoader loader(QStringLiteral(ZAVOREN_PROGRESS_MODULE));
+        QObject* instance = loader.instance();
+        QVERIFY2(instance, qPrintable(loader.errorString()));
+        auto* factory = qobject_cast<ProgressViewFactory*>(instance);
+        QVERIFY(factory);
+        QWidget* view = factory->CreateProgressView(*m_db, m_prompt, m_learner, Now, nullptr);
+        QVERIFY(view);
+        QCOMPARE(QString::fromLatin1(view->metaObject()->className()), QStringLiteral("ProgressWindow"));
+        QVERIFY(view->testAttribute(Qt::WA_DeleteOnClose));
+        delete view;
+    }
+
+private:
+    std::unique_ptr<FileCharacterDatabase> m_db;
+    User m_learner;
+    RecordingPrompt m_prompt;
+};
+
+QTEST_MAIN(ProgressWindowTest)
+#include "ProgressWindowTest.moc"
