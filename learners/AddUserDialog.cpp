@@ -1,5 +1,8 @@
 #include "AddUserDialog.h"
 
+#include "ConfigStore.h"
+#include "Prompt.h"
+
 #include "ui_AddUserDialog.h"
 
 AddUserDialog::AddUserDialog(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::AddUserDialog>())
@@ -42,4 +45,29 @@ void AddUserDialog::showEvent(QShowEvent* event)
 void AddUserDialog::UpdateOk()
 {
     OkButton()->setEnabled(!NameEdit()->text().isEmpty());
+}
+
+std::string AddLearnerByName(ConfigStore& store, Prompt& prompt, QWidget* parent, const QString& offered)
+{
+    AddUserDialog dialog(parent);
+    dialog.Offer(offered);
+    for (;;) {
+        if (dialog.exec() != 1)
+            return {};
+        if (dialog.Name().isEmpty())
+            continue;
+        const std::string name = dialog.Name().toStdString();
+        if (name.find('\'') != std::string::npos) {
+            // The learner file could never find such a name again: say why it is refused.
+            prompt.Ask(parent, QMessageBox::NoIcon, QStringLiteral("Can't create user"),
+                QStringLiteral("A user name cannot contain an apostrophe ('). Try another user name"));
+            continue;
+        }
+        if (!store.AddUser(name)) {
+            prompt.Ask(parent, QMessageBox::NoIcon, QStringLiteral("Can't create user"),
+                QStringLiteral("User already exists. Try another user name"));
+            continue;
+        }
+        return name;
+    }
 }

@@ -106,36 +106,18 @@ void UserManagerDialog::reject()
 
 void UserManagerDialog::OnAdd()
 {
-    AddUserDialog dialog(this);
-    for (;;) {
-        if (dialog.exec() != 1)
-            return;
-        if (dialog.Name().isEmpty())
-            continue;
-        const std::string name = dialog.Name().toStdString();
-        if (name.find('\'') != std::string::npos) {
-            // The learner file could never find such a name again: say why it is refused.
-            m_prompt.Ask(this, QMessageBox::NoIcon, QStringLiteral("Can't create user"),
-                QStringLiteral("A user name cannot contain an apostrophe ('). Try another user name"));
-            continue;
-        }
-        bool added = false;
-        try {
-            added = m_store.AddUser(name);
-        } catch (const ZavorenCommon::ConfigException& e) {
-            emit storeFailed(QString::fromUtf8(e.what()));
-            return;
-        }
-        if (!added) {
-            m_prompt.Ask(this, QMessageBox::NoIcon, QStringLiteral("Can't create user"),
-                QStringLiteral("User already exists. Try another user name"));
-            continue;
-        }
-        UserList()->addItem(new QListWidgetItem(QIcon(QStringLiteral(":/images/user.png")), dialog.Name()));
-        SelectRow(UserList()->count() - 1);
-        UserList()->setFocus();
+    std::string name;
+    try {
+        name = AddLearnerByName(m_store, m_prompt, this);
+    } catch (const ZavorenCommon::ConfigException& e) {
+        emit storeFailed(QString::fromUtf8(e.what()));
         return;
     }
+    if (name.empty())
+        return;
+    UserList()->addItem(new QListWidgetItem(QIcon(QStringLiteral(":/images/user.png")), QString::fromStdString(name)));
+    SelectRow(UserList()->count() - 1);
+    UserList()->setFocus();
 }
 
 void UserManagerDialog::OnDelete()

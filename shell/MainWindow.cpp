@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "CategoryPage.h"
+#include "AddUserDialog.h"
 #include "CategoryRules.h"
 #include "CharacterDatabase.h"
 #include "ConfigException.h"
@@ -8,6 +9,7 @@
 #include "DrawingTestPage.h"
 #include "HelpActions.h"
 #include "HomePage.h"
+#include "LearnerFile.h"
 #include "LessonPage.h"
 #include "PreferencesDialog.h"
 #include "ProgressRecorder.h"
@@ -18,6 +20,8 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
+#include <QFileDialog>
 #include <QGuiApplication>
 #include <QMenuBar>
 #include <QScreen>
@@ -129,7 +133,12 @@ void MainWindow::BuildMenu()
     file->addSeparator();
     m_exitAction = file->addAction(QStringLiteral("Exit"), this, &QWidget::close);
     QMenu* tools = menuBar()->addMenu(tr("&Tools"));
+    m_progressAction = tools->addAction(tr("Progress…"), this, &MainWindow::ShowProgress);
+    m_exportAction = tools->addAction(tr("Export learner…"), this, &MainWindow::ExportLearner);
+    m_importAction = tools->addAction(tr("Import learner…"), this, &MainWindow::ImportLearner);
+    tools->addSeparator();
     m_preferencesAction = tools->addAction(tr("Preferences…"), this, &MainWindow::ChangePreferences);
+    UpdateLearnerActions();
     QMenu* help = menuBar()->addMenu(tr("&Help"));
     m_contentsAction = help->addAction(QStringLiteral("Contents"), this, [this] { OpenHelpContents(m_open); });
     QMenu* links = help->addMenu(QStringLiteral("Links"));
@@ -211,8 +220,10 @@ void MainWindow::SetLearner(std::unique_ptr<User> learner)
     } catch (const ConfigException& e) {
         ReportStoreError(e.what());
     }
+    CloseProgressView();
     m_learner = std::move(learner);
     m_categoryId.reset();
+    UpdateLearnerActions();
     if (!m_learner) {
         m_home->SetUser(nullptr);
         hide();
@@ -315,6 +326,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         return;
     }
     m_closing = true;
+    CloseProgressView();
     if (m_learner) {
         // A test in progress counts as taken so far.
         if (m_shown == m_test)
@@ -366,4 +378,142 @@ void MainWindow::SavePlacement()
         qToLittleEndian<qint32>(fields[i], bytes.data() + 4 * i);
     QSettings settings(QStringLiteral("Zavoren"), QStringLiteral("Zavoren"));
     settings.setValue(QStringLiteral("WindowPosition"), bytes);
+}
+
+void MainWindow::UpdateLearnerActions()
+{
+    // What needs a learner is there only while one is open.
+    for (QAction* action : {m_progressAction, m_exportAction})
+        if (action)
+            action->setEnabled(m_learner != nullptr);
+}
+
+void MainWindow::CloseProgressView()
+{
+    // The window shows the learner it was opened for: it goes when they do.
+    delete m_progressView;
+}
+
+void MainWindow::ShowProgress()
+{
+    if (!m_learner)
+        return;
+    CloseProgressView();
+    QString error;
+    ProgressViewFactory* factory = m_progressViews ? m_progressViews(error) : nullptr;
+    if (!factory) {
+        m_prompt.Ask(this, QMessageBox::Warning, tr("Progress"),
+            tr("The progress window cannot be opened: %1").arg(error));
+        return;
+    }
+    try {
+        m_progressView = factory->CreateProgressView(
+            m_database, m_prompt, *m_learner, m_clock ? m_clock() : LocalTimeNow(), this);
+    } catch (const std::exception& e) {
+        m_prompt.Ask(this, QMessageBox::Warning, tr("Progress"),
+            tr("The progress window cannot be opened: %1").arg(QString::fromUtf8(e.what())));
+        return;
+    }
+    if (m_progressView)
+        m_progressView->show();
+}
+
+void MainWindow::ExportLearner()
+{
+    if (!m_learner)
+        return;
+    const QString suggested = QDir::home().filePath(
+        QString::fromUtf8(m_learner->Name() ? m_learner->Name() : "") + QStringLiteral(".zavoren-learner.xml"));
+    const QString path = QFileDialog::getSaveFileName(
+        this, tr("Export learner"), suggested, tr("Zavoren! learners (*.xml);;All files (*)"));
+    if (!path.isEmpty())
+        ExportLearnerTo(path);
+}
+
+void MainWindow::ImportLearner()
+{
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Import learner"), QDir::homePath(), tr("Zavoren! learners (*.xml);;All files (*)"));
+    if (!path.isEmpty())
+        ImportLearnerFrom(path);
+}
+
+bool MainWindow::ExportLearnerTo(const QString& path)
+{
+    if (!m_learner)
+        return false;
+    const auto problem = LearnerFile::Export(QFile::encodeName(path).toStdString(), *m_learner, m_database.CategoryCount());
+    if (problem == LearnerFile::Problem::None)
+        return true;
+    m_prompt.Ask(this, QMessageBox::Warning, tr("Export learner"),
+        tr("The learner could not be written to \"%1\". Nothing was changed.").arg(QDir::toNativeSeparators(path)));
+    return false;
+}
+
+bool MainWindow::ImportLearnerFrom(const QString& path)
+{
+    const QString shown = QDir::toNativeSeparators(path);
+    LearnerFile::Imported imported = LearnerFile::Import(QFile::encodeName(path).toStdString(), m_database);
+    QString refusal;
+    switch (imported.problem) {
+    case LearnerFile::Problem::None: break;
+    case LearnerFile::Problem::CannotWrite:
+    case LearnerFile::Problem::CannotRead: refusal = tr("The file \"%1\" cannot be read.").arg(shown); break;
+    case LearnerFile::Problem::NotAnExport:
+        refusal = tr("\"%1\" is not a learner exported by Zavoren!.").arg(shown);
+        break;
+    case LearnerFile::Problem::Damaged: refusal = tr("The learner file \"%1\" is damaged.").arg(shown); break;
+    case LearnerFile::Problem::OtherDatabase:
+        refusal = tr("The learner file \"%1\" was written with a character database of %2 categories; this one has %3.")
+                      .arg(shown)
+                      .arg(imported.fileCategories)
+                      .arg(m_database.CategoryCount());
+        break;
+    }
+    if (!refusal.isEmpty()) {
+        m_prompt.Ask(this, QMessageBox::Warning, tr("Import learner"), refusal + QLatin1Char(' ') + tr("Nothing was imported."));
+        return false;
+    }
+    User& learner = *imported.learner;
+    std::string name = learner.Name() ? learner.Name() : "";
+    bool taken = false;
+    for (std::uint16_t i = 0; i < m_store.UserCount(); ++i)
+        taken = taken || m_store.UserName(i) == name;
+    try {
+        if (taken) {
+            const auto answer = m_prompt.Ask(this, QMessageBox::Question, tr("Import learner"),
+                tr("A learner named \"%1\" already exists. Replace their record with the imported one?\n\n"
+                   "Yes replaces it; No imports the learner under another name.")
+                    .arg(QString::fromStdString(name)),
+                QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel);
+            if (answer == QMessageBox::Yes) {
+                const bool current = m_learner && m_learner->Name() && name == m_learner->Name();
+                m_store.SaveUser(learner);
+                if (current) {
+                    // The open learner becomes the imported one, not saved over it at close.
+                    CloseProgressView();
+                    m_learner = std::move(imported.learner);
+                    m_categoryId.reset();
+                    m_home->SetUser(m_learner.get());
+                    ShowPage(m_home);
+                }
+                return true;
+            }
+            if (answer != QMessageBox::No)
+                return false;
+            name = AddLearnerByName(m_store, m_prompt, this, QString::fromStdString(name));
+            if (name.empty())
+                return false;
+            learner.SetName(name);
+        } else if (!m_store.AddUser(name)) {
+            m_prompt.Ask(this, QMessageBox::Warning, tr("Import learner"),
+                tr("The learner file \"%1\" is damaged.").arg(shown) + QLatin1Char(' ') + tr("Nothing was imported."));
+            return false;
+        }
+        m_store.SaveUser(learner);
+    } catch (const ConfigException& e) {
+        ReportStoreError(e.what());
+        return false;
+    }
+    return true;
 }

@@ -2,12 +2,14 @@
 
 #include "CoachingPreferences.h"
 #include "LearnerEvent.h"
+#include "ProgressModule.h"
 #include "ProgressRecorder.h"
 #include "Random15.h"
 #include "UrlOpener.h"
 #include "User.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <memory>
 #include <optional>
@@ -71,6 +73,22 @@ public:
     QAction* SiteAction() const { return m_siteAction; }
     QAction* AboutAction() const { return m_aboutAction; }
     QAction* PreferencesAction() const { return m_preferencesAction; }
+    QAction* ProgressAction() const { return m_progressAction; }
+    QAction* ExportAction() const { return m_exportAction; }
+    QAction* ImportAction() const { return m_importAction; }
+
+    /// Where progress windows come from (the progress module beside the program unless set).
+    void SetProgressViews(ProgressViewSource source) { m_progressViews = std::move(source); }
+    /// Tools > Progress…: opens the current learner's progress window (one at a time).
+    void ShowProgress();
+    /// The progress window open, or null.
+    QWidget* ProgressView() const { return m_progressView; }
+    /// Writes the current learner's record to `path`; false after telling the learner why not.
+    bool ExportLearnerTo(const QString& path);
+    /// Adds the learner of the file at `path` to the store, asking what to do when a learner of
+    /// that name exists; false (nothing changed) after telling the learner why not, or when
+    /// they cancel.
+    bool ImportLearnerFrom(const QString& path);
     /// Switches the writing aids on the lesson and the drawing test.
     void ApplyPreferences(const CoachingPreferences& preferences);
     const CoachingPreferences& Preferences() const { return m_preferences; }
@@ -89,6 +107,12 @@ private:
     void ShowCategoryPage();
     void ReportStoreError(const char* message);
     void ChangePreferences();
+    void ExportLearner();
+    void ImportLearner();
+    void UpdateLearnerActions();
+    void CloseProgressView();
+    /// Asks for a name for an imported learner whose name is taken; empty when cancelled.
+    std::string AskImportName(const QString& taken);
     /// The rules for the learner's progress in the open category; none without both.
     std::optional<ProgressRecorder> Recorder();
     int RunUserManager();
@@ -115,6 +139,11 @@ private:
     QAction* m_siteAction = nullptr;
     QAction* m_aboutAction = nullptr;
     QAction* m_preferencesAction = nullptr;
+    QAction* m_progressAction = nullptr;
+    QAction* m_exportAction = nullptr;
+    QAction* m_importAction = nullptr;
+    ProgressViewSource m_progressViews = LoadProgressModule;
+    QPointer<QWidget> m_progressView;
     CoachingPreferences m_preferences;
     bool m_closing = false;
 };

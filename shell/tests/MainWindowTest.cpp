@@ -12,6 +12,7 @@
 #include "LessonPage.h"
 #include "ModalAnswerer.h"
 #include "PreferencesDialog.h"
+#include "ProgressWindow.h"
 #include "ReadingTestPage.h"
 #include "RecordingOpener.h"
 #include "RecordingPrompt.h"
@@ -23,7 +24,10 @@
 #include "UserRecordXml.h"
 #include "XmlConfigStore.h"
 
+#include <QBarSet>
 #include <QCheckBox>
+#include <QLineSeries>
+#include <QPluginLoader>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -105,6 +109,20 @@ void OpenCategory(MainWindow& window, int row)
     QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, r.center());
     QTest::mouseClick(window.Home()->OpenButton(), Qt::LeftButton);
 }
+
+/// Progress windows made by the view linked into the tests, as the module makes them.
+class StaticProgressViews : public ProgressViewFactory {
+public:
+    QWidget* CreateProgressView(CharacterDatabase& database, Prompt& prompt, const User& learner,
+        const std::string& now, QWidget* parent) override
+    {
+        return new ProgressWindow(database, prompt, learner, now, parent);
+    }
+    ProgressViewSource Source()
+    {
+        return [this](QString&) -> ProgressViewFactory* { return this; };
+    }
+};
 
 } // namespace
 
@@ -217,7 +235,19 @@ private slots:
         again.ShowChosenLearner();
         QCOMPARE(again.Home()->CategoryList()->topLevelItem(0)->text(0),
             QStringLiteral("Grade 1 (5 of %1)").arg(grade1Size));
+        // Tools > Progress…: five characters learned today.
+        StaticProgressViews views;
+        again.SetProgressViews(views.Source());
+        QVERIFY(again.ProgressAction()->isEnabled());
+        again.ProgressAction()->trigger();
+        auto* progress = qobject_cast<ProgressWindow*>(again.ProgressView());
+        QVERIFY(progress);
+        QVERIFY(progress->isVisible());
+        QCOMPARE(progress->LearnedSeries()->count(), 1); // the history began today
+        QCOMPARE(progress->LearnedSeries()->at(0).y(), 5.0);
+        QCOMPARE(progress->PassedBars()->at(0), 5.0);
         again.close();
+        QVERIFY(!again.ProgressView()); // it goes with the window
     }
 
     void theOnlyLearnerOpensWithoutAsking()
@@ -543,9 +573,179 @@ private slots:
         QCOMPARE(splash.Bar()->value(), int(db.CharacterCount()) + int(db.ElementCount()) - 1);
     }
 
+    void theToolsMenuOffersProgressExportAndImportForALearner()
+    {
+        DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
+        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
+        QCOMPARE(window.ProgressAction()->text(), QStringLiteral("Progress…"));
+        QCOMPARE(window.ExportAction()->text(), QStringLiteral("Export learner…"));
+        QCOMPARE(window.ImportAction()->text(), QStringLiteral("Import learner…"));
+        QVERIFY(!window.ProgressAction()->isEnabled()); // no learner open yet
+        QVERIFY(!window.ExportAction()->isEnabled());
+        QVERIFY(window.ChooseLearnerAtStart());
+        window.ShowChosenLearner();
+        QVERIFY(window.ProgressAction()->isEnabled());
+        QVERIFY(window.ExportAction()->isEnabled());
+        // A module that cannot be loaded is said so, and nothing opens.
+        window.SetProgressViews([](QString& error) -> ProgressViewFactory* {
+            error = QStringLiteral("no module here");
+            return nullptr;
+        });
+        window.ProgressAction()->trigger();
+        QVERIFY(!window.ProgressView());
+        QCOMPARE(m_prompt.messages.value(0),
+            QStringLiteral("Progress: The progress window cannot be opened: no module here"));
+        // The real module, beside the program.
+        QString error;
+        window.SetProgressViews([](QString& why) {
+            QPluginLoader loader(QStringLiteral(ZAVOREN_PROGRESS_MODULE));
+            auto* factory = qobject_cast<ProgressViewFactory*>(loader.instance());
+            if (!factory)
+                why = loader.errorString();
+            return factory;
+        });
+        window.ProgressAction()->trigger();
+        QVERIFY2(window.ProgressView(), qPrintable(m_prompt.messages.join(QLatin1Char('\n'))));
+        window.SetLearner(nullptr);
+        QVERIFY(!window.ProgressView()); // closed with its learner
+        QVERIFY(!window.ProgressAction()->isEnabled());
+    }
+
+    void anExportedLearnerImportsIntoAnEmptyFile()
+    {
+        const QString exported = QDir(m_files.path()).filePath(QStringLiteral("anna.xml"));
+        std::vector<LearnerEvent> history;
+        {
+            DataFolder folder(R"(<Z><Users currentUser="Anna"><User name="Anna"/></Users></Z>)");
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
+            QVERIFY(window.ChooseLearnerAtStart());
+            window.ShowChosenLearner();
+            window.Learner()->GetProgress(0).AddLearned(5);
+            window.Learner()->GetProgress(1).AddUntested(90);
+            window.Learner()->AddEvent({FixedClock(), LearnerEvent::Passed, 0, 5, 2});
+            history = window.Learner()->History();
+            QVERIFY(window.ExportLearnerTo(exported));
+            QVERIFY(m_prompt.messages.isEmpty());
+        }
+        DataFolder empty;
+        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
+        QVERIFY(window.ImportLearnerFrom(exported));
+        QVERIFY(m_prompt.messages.isEmpty());
+        ReleaseDataStores();
+        const auto anna = GetConfigStore().LoadUser("Anna");
+        QVERIFY(anna);
+        QCOMPARE(anna->GetProgress(0).Learned(), Codes{5});
+        QCOMPARE(anna->GetProgress(1).Untested(), Codes{90});
+        QVERIFY(anna->History() == history);
+    }
+
+    void anImportedNameThatIsTakenIsReplacedOrRenamedOrLeft()
+    {
+        const QString exported = QDir(m_files.path()).filePath(QStringLiteral("anna.xml"));
+        {
+            DataFolder folder(R"(<Z><Users currentUser="Anna"><User name="Anna"/></Users></Z>)");
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
+            QVERIFY(window.ChooseLearnerAtStart());
+            window.ShowChosenLearner();
+            window.Learner()->GetProgress(0).AddLearned(7);
+            QVERIFY(window.ExportLearnerTo(exported));
+        }
+        DataFolder folder(R"(<Z><Users currentUser="Ben"><User name="Anna"/><User name="Ben"/></Users></Z>)");
+        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
+        QVERIFY(window.ChooseLearnerAtStart());
+        window.ShowChosenLearner();
+        // Cancel: the file is not touched.
+        const std::string before = folder.ReadConfig();
+        m_prompt.answer = QMessageBox::Cancel;
+        QVERIFY(!window.ImportLearnerFrom(exported));
+        QVERIFY(m_prompt.messages.value(0).startsWith(QStringLiteral("Import learner: A learner named \"Anna\" already exists.")));
+        QCOMPARE(folder.ReadConfig(), before);
+        // No: under another name, asked with the Add dialog's rules (a taken name is refused).
+        m_prompt.answers = {QMessageBox::No};
+        m_prompt.answer = QMessageBox::Ok;
+        QStringList offered;
+        int round = 0;
+        ModalAnswerer<AddUserDialog> rename([&](AddUserDialog& dialog) {
+            offered << dialog.NameEdit()->text();
+            dialog.NameEdit()->setText(round++ == 0 ? QStringLiteral("Ben") : QStringLiteral("Anna 2"));
+            QTest::mouseClick(dialog.OkButton(), Qt::LeftButton);
+        });
+        QVERIFY(window.ImportLearnerFrom(exported));
+        QCOMPARE(offered, (QStringList{QStringLiteral("Anna"), QStringLiteral("Ben")}));
+        QVERIFY(m_prompt.messages.contains(QStringLiteral("Can't create user: User already exists. Try another user name")));
+        // Yes: the existing record is replaced.
+        m_prompt.answers = {QMessageBox::Yes};
+        QVERIFY(window.ImportLearnerFrom(exported));
+        QCOMPARE(window.Learner()->Name(), std::string("Ben")); // the open learner is not changed
+        window.close();
+        ReleaseDataStores();
+        QCOMPARE(GetConfigStore().LoadUser("Anna 2")->GetProgress(0).Learned(), Codes{7});
+        QCOMPARE(GetConfigStore().LoadUser("Anna")->GetProgress(0).Learned(), Codes{7});
+        QVERIFY(GetConfigStore().LoadUser("Ben")->GetProgress(0).Learned().empty());
+    }
+
+    void replacingTheOpenLearnerShowsTheImportedRecord()
+    {
+        const QString exported = QDir(m_files.path()).filePath(QStringLiteral("anna.xml"));
+        {
+            DataFolder folder(R"(<Z><Users currentUser="Anna"><User name="Anna"/></Users></Z>)");
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
+            QVERIFY(window.ChooseLearnerAtStart());
+            window.ShowChosenLearner();
+            window.Learner()->GetProgress(0).AddLearned(7);
+            QVERIFY(window.ExportLearnerTo(exported));
+        }
+        DataFolder folder(R"(<Z><Users currentUser="Anna"><User name="Anna"/></Users></Z>)");
+        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
+        QVERIFY(window.ChooseLearnerAtStart());
+        window.ShowChosenLearner();
+        m_prompt.answer = QMessageBox::Yes;
+        QVERIFY(window.ImportLearnerFrom(exported));
+        QCOMPARE(window.Learner()->GetProgress(0).Learned(), Codes{7});
+        window.close(); // saving at close keeps the imported record
+        ReleaseDataStores();
+        QCOMPARE(GetConfigStore().LoadUser("Anna")->GetProgress(0).Learned(), Codes{7});
+    }
+
+    void aDamagedOrForeignFileChangesNothing()
+    {
+        DataFolder folder(R"(<Z><Users currentUser="Anna"><User name="Anna"/></Users></Z>)");
+        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
+        QVERIFY(window.ChooseLearnerAtStart());
+        window.ShowChosenLearner();
+        const std::string before = folder.ReadConfig();
+        const QString path = QDir(m_files.path()).filePath(QStringLiteral("bad.xml"));
+        const QString categories = QString::number(GetDatabase().CategoryCount());
+        const QStringList files{
+            QStringLiteral("<ZavorenLearner version=\"1\" categories=\"%1\"><User name=\"Z\">").arg(categories),
+            QStringLiteral("<Zavoren><Users/></Zavoren>"),
+            QStringLiteral("<ZavorenLearner version=\"1\" categories=\"2\"><User name=\"Z\"/></ZavorenLearner>"),
+        };
+        const QStringList said{QStringLiteral("is damaged."), QStringLiteral("is not a learner exported by Zavoren!."),
+            QStringLiteral("was written with a character database of 2 categories; this one has %1.").arg(categories)};
+        for (int i = 0; i < files.size(); ++i) {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            file.write(files[i].toUtf8());
+            file.close();
+            m_prompt.messages.clear();
+            QVERIFY(!window.ImportLearnerFrom(path));
+            QCOMPARE(m_prompt.messages.size(), 1);
+            QVERIFY2(m_prompt.messages[0].contains(said[i]), qPrintable(m_prompt.messages[0]));
+            QVERIFY(m_prompt.messages[0].endsWith(QStringLiteral("Nothing was imported.")));
+            QCOMPARE(folder.ReadConfig(), before);
+        }
+        QCOMPARE(GetConfigStore().UserCount(), 1);
+        // An export to a place that cannot be written is said so.
+        m_prompt.messages.clear();
+        QVERIFY(!window.ExportLearnerTo(QDir(m_files.path()).filePath(QStringLiteral("no/such/folder.xml"))));
+        QVERIFY(m_prompt.messages.value(0).startsWith(QStringLiteral("Export learner: The learner could not be written")));
+    }
+
 private:
     RecordingPrompt m_prompt;
     RecordingOpener m_urls;
+    QTemporaryDir m_files;
 };
 
 QTEST_MAIN(MainWindowTest)
