@@ -148,11 +148,13 @@ void ProgressWindow::ShowLearned(int pickerIndex)
             days->setTickCount(std::min(7, std::max(2, static_cast<int>(perDay.size()))));
         } else if (auto* count = qobject_cast<QValueAxis*>(axis)) {
             count->setRange(0, std::max(5, most + most / 10 + 1));
+            count->applyNiceNumbers(); // whole numbers of characters on the ticks
         }
     }
     m_learnedView->setAccessibleDescription(
-        tr("%n character(s) learned by %1", nullptr, perDay.empty() ? 0 : perDay.back())
-            .arg(DateOfDay(m_stats->Today()).toString(Qt::ISODate)));
+        tr("Characters learned by %1: %2")
+            .arg(DateOfDay(m_stats->Today()).toString(Qt::ISODate))
+            .arg(perDay.empty() ? 0 : perDay.back()));
 }
 
 QWidget* ProgressWindow::BuildTestsTab()
@@ -172,20 +174,32 @@ QWidget* ProgressWindow::BuildTestsTab()
     }
     m_passed->setColor(QColor(46, 160, 67));
     m_failed->setColor(QColor(214, 69, 65));
+    series->setBarWidth(0.9);
     series->append(m_passed);
     series->append(m_failed);
     chart->addSeries(series);
+    // One bar pair a week, placed by a category axis whose labels are hidden: a year of week
+    // labels does not fit. The dates go on a time axis over the same span below it.
     auto* axis = new QBarCategoryAxis(chart);
     axis->append(weeks);
-    axis->setTitleText(tr("Week beginning"));
-    axis->setLabelsAngle(-90);
+    axis->setLabelsVisible(false);
+    axis->setGridLineVisible(false);
+    chart->addAxis(axis, Qt::AlignBottom);
+    series->attachAxis(axis);
+    const auto allWeeks = m_stats->TestsPerWeek();
+    auto* dates = new QDateTimeAxis(chart);
+    dates->setFormat(QStringLiteral("yyyy-MM-dd"));
+    dates->setRange(QDateTime(DateOfDay(allWeeks.front().monday), QTime(0, 0)),
+        QDateTime(DateOfDay(allWeeks.back().monday + 7), QTime(0, 0)));
+    dates->setTickCount(std::min(7, static_cast<int>(allWeeks.size()) + 1));
+    dates->setTitleText(tr("Week beginning"));
+    chart->addAxis(dates, Qt::AlignBottom);
     auto* count = new QValueAxis(chart);
     count->setLabelFormat(QStringLiteral("%d"));
     count->setRange(0, std::max(5, most + 1));
+    count->applyNiceNumbers();
     count->setTitleText(tr("Tests"));
-    chart->addAxis(axis, Qt::AlignBottom);
     chart->addAxis(count, Qt::AlignLeft);
-    series->attachAxis(axis);
     series->attachAxis(count);
     m_testsView = MakeChartView(chart, tr("Tests passed and failed per week"), nullptr);
     return m_testsView;
@@ -232,8 +246,8 @@ QWidget* ProgressWindow::BuildTroubleTab()
     m_trouble->setGridSize(QSize(GlyphSide + 72, GlyphSide + 44));
     m_trouble->setWordWrap(true);
     for (const LearnerStatistics::Trouble& t : m_stats->TroubleCharacters(TroubleCount)) {
-        const QString counts = tr("%n mistake(s)", nullptr, t.mistakes) + QLatin1Char('\n')
-            + tr("%n failed", nullptr, t.failures);
+        const QString counts = (t.mistakes == 1 ? tr("1 mistake") : tr("%1 mistakes").arg(t.mistakes))
+            + QLatin1Char('\n') + (t.failures == 1 ? tr("1 test failed") : tr("%1 tests failed").arg(t.failures));
         auto* item = new QListWidgetItem(counts, m_trouble);
         item->setData(Qt::UserRole, t.id);
         item->setTextAlignment(Qt::AlignHCenter | Qt::AlignTop);

@@ -1,6 +1,7 @@
 // Renders the program's pages offscreen into PNG files, so that a change to a page can be looked
 // at: home, category (with learned and untested characters), lesson (mid-character, after a
-// refused stroke), reading test, drawing test, Kanji Info, User Manager, About.
+// refused stroke), reading test, drawing test, Kanji Info, User Manager, About, and the four
+// parts of the progress window.
 //   render_pages DATABASE OUTPUT_FOLDER [--dark]
 // Run with QT_QPA_PLATFORM=offscreen, and QT_SCALE_FACTOR=2 for a device pixel ratio of 2;
 // render_all.sh beside this file renders every page at ratios 1 and 2, light and dark.
@@ -15,6 +16,7 @@
 #include "KanjiInfoDialog.h"
 #include "LessonPage.h"
 #include "MessageBoxPrompt.h"
+#include "ProgressWindow.h"
 #include "ReadingTestPage.h"
 #include "TestContainer.h"
 #include "User.h"
@@ -26,6 +28,7 @@
 #include <QMouseEvent>
 #include <QPalette>
 #include <QStyleFactory>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -167,5 +170,24 @@ int main(int argc, char** argv)
 
     AboutDialog about([](const QUrl&) { return false; });
     ok &= Save(about, out, QStringLiteral("about"));
+
+    // A year of work: a lesson every other day and its test, some failed with mistakes.
+    const int today = EventDay("2026-11-22T20:00:00+01:00");
+    for (int day = today - 365, n = 0; day <= today; day += 2, ++n) {
+        const std::uint16_t id = grade1[static_cast<std::size_t>(n) % grade1.size()];
+        learner.AddEvent({DayText(day) + "T18:00:00+01:00", LearnerEvent::Lesson, 0, id, -1});
+        learner.AddEvent({DayText(day) + "T18:30:00+01:00", n % 5 == 0 ? LearnerEvent::Failed : LearnerEvent::Passed,
+            0, id, n % 3});
+        if (n % 5 != 0 && !learner.GetProgress(0).IsLearned(id))
+            learner.GetProgress(0).AddLearned(id);
+    }
+    ProgressWindow progress(db, prompt, learner, "2026-11-22T20:00:00+01:00");
+    progress.setAttribute(Qt::WA_DeleteOnClose, false);
+    progress.resize(720, 520);
+    const char* const tabs[] = {"progress-learned", "progress-tests", "progress-categories", "progress-trouble"};
+    for (int i = 0; i < 4; ++i) {
+        progress.Tabs()->setCurrentIndex(i);
+        ok &= Save(progress, out, QString::fromLatin1(tabs[i]));
+    }
     return ok ? 0 : 1;
 }

@@ -7,11 +7,15 @@ trap 'rm -rf "$work"' EXIT
 prefix=$work/prefix
 cmake --install "$build" --prefix "$prefix" > "$work/install.log"
 
-for f in bin/zavoren bin/zavoren-db libexec/zavoren/zavoren share/zavoren/database share/zavoren/Zavoren.html \
+for f in bin/zavoren bin/zavoren-db libexec/zavoren/zavoren libexec/zavoren/zavoren-progress.so share/zavoren/database share/zavoren/Zavoren.html \
          share/applications/zavoren.desktop share/icons/hicolor/64x64/apps/zavoren.png; do
     [ -e "$prefix/$f" ] || { echo "missing after install: $f"; exit 1; }
 done
 "$prefix/bin/zavoren-db" info "$prefix/share/zavoren/database" > /dev/null
+# The progress window's module finds every library it needs.
+if ldd "$prefix/libexec/zavoren/zavoren-progress.so" | grep -q 'not found'; then
+    echo "the progress module misses libraries"; ldd "$prefix/libexec/zavoren/zavoren-progress.so"; exit 1
+fi
 
 export XDG_DATA_HOME=$work/data XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work/runtime
 mkdir -m 700 -p "$XDG_RUNTIME_DIR"
