@@ -87,22 +87,13 @@ void BM_SaveUserWithEveryCharacter(benchmark::State& state)
 }
 BENCHMARK(BM_SaveUserWithEveryCharacter)->Unit(benchmark::kMillisecond);
 
-/// Local time of the `minute`th minute of day `day` after 1 January 2015, as events spell it.
+/// Local time of the `minute`th minute after six in the evening of day `day` after 1 January
+/// 2015, as events spell it.
 std::string EventTime(int day, int minute)
 {
-    // Days to a civil date (Howard Hinnant's algorithm).
-    const int z = day + 16436 + 719468; // 2015-01-01 is day 16436 of the Unix epoch
-    const int era = z / 146097;
-    const int doe = z - era * 146097;
-    const int yoe = (doe - doe / 1460 + doe / 36524 - doe / 146096) / 365;
-    const int doy = doe - (365 * yoe + yoe / 4 - yoe / 100);
-    const int mp = (5 * doy + 2) / 153;
-    const int d = doy - (153 * mp + 2) / 5 + 1;
-    const int m = mp < 10 ? mp + 3 : mp - 9;
-    const int y = yoe + era * 400 + (m <= 2 ? 1 : 0);
-    char text[32];
-    std::snprintf(text, sizeof text, "%04d-%02d-%02dT%02d:%02d:00+01:00", y, m, d, 18 + minute / 60, minute % 60);
-    return text;
+    char time[32];
+    std::snprintf(time, sizeof time, "T%02d:%02d:00+01:00", 18 + minute / 60, minute % 60);
+    return DayText(DayOfDate(2015, 1, 1) + day) + time;
 }
 
 void BM_SaveUserWithTenYearsOfHistory(benchmark::State& state)

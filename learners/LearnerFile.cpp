@@ -4,6 +4,7 @@
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
 #include "UserRecordXml.h"
+#include "XmlText.h"
 
 #include <pugixml.hpp>
 
@@ -23,22 +24,6 @@ constexpr unsigned Version = 1;
 constexpr std::uintmax_t MaxFileBytes = 64u * 1024 * 1024;
 /// Deeper nesting than a learner's file ever has is refused.
 constexpr int MaxDepth = 16;
-
-class StringWriter : public pugi::xml_writer {
-public:
-    void write(const void* data, size_t size) override { text.append(static_cast<const char*>(data), size); }
-    std::string text;
-};
-
-class DepthCheck : public pugi::xml_tree_walker {
-public:
-    bool for_each(pugi::xml_node&) override
-    {
-        tooDeep = depth() >= MaxDepth;
-        return !tooDeep;
-    }
-    bool tooDeep = false;
-};
 
 /// Digits only, at most 65535.
 bool IsNumber(const char* text, unsigned& value)
@@ -84,9 +69,7 @@ Problem Export(const std::string& path, User& learner, std::uint16_t categories)
         pugi::xml_node user = root.append_child("User");
         user.append_attribute("name") = learner.Name() ? learner.Name() : "";
         WriteUserRecord(user, learner, categories);
-        StringWriter writer;
-        document.save(writer, "  ", pugi::format_default, pugi::encoding_utf8);
-        text = std::move(writer.text);
+        text = DocumentText(document);
     } catch (const std::bad_alloc&) {
         return Problem::CannotWrite;
     }
@@ -127,12 +110,11 @@ Imported Import(const std::string& path, CharacterDatabase& database)
             result.problem = Problem::NotAnExport;
             return result;
         }
-        DepthCheck depth;
-        document.traverse(depth);
+        const bool tooDeep = NestedAtLeast(document, MaxDepth);
         const pugi::xml_node user = root.child("User");
         const std::string name = user.attribute("name").value();
         unsigned categories = 0;
-        if (depth.tooDeep || !user || name.empty() || name.find('\'') != std::string::npos
+        if (tooDeep || !user || name.empty() || name.find('\'') != std::string::npos
             || !IsNumber(root.attribute("categories").value(), categories)) {
             result.problem = Problem::Damaged;
             return result;

@@ -5,6 +5,7 @@
 #include "DatabaseLoadException.h"
 #include "TextRules.h"
 #include "UserRecordXml.h"
+#include "XmlText.h"
 
 #include <cctype>
 #include <cerrno>
@@ -41,24 +42,6 @@ std::string Format(const char* format, const char* a, const char* b = "", const 
     std::snprintf(out.data(), out.size() + 1, format, a, b, c);
     return out;
 }
-
-/// A buffer that pugixml writes the document into, for one write(2) loop.
-class StringWriter : public pugi::xml_writer {
-public:
-    void write(const void* data, size_t size) override { text.append(static_cast<const char*>(data), size); }
-    std::string text;
-};
-
-/// Finds an element nested deeper than MaxDepth, without recursion.
-class DepthCheck : public pugi::xml_tree_walker {
-public:
-    bool for_each(pugi::xml_node&) override
-    {
-        tooDeep = depth() >= static_cast<int>(MaxDepth);
-        return !tooDeep;
-    }
-    bool tooDeep = false;
-};
 
 /// True for the names that SaveFile gives its temporary files: the file's name, a dot and the
 /// six letters or digits that mkstemp chose.
@@ -120,9 +103,7 @@ void XmlConfigStore::Open(const DatabaseSource& database)
     if (!S_ISREG(info.st_mode) || !m_document.load_file(m_path.c_str(), options) || !m_document.document_element()
         || !UsersNode())
         throw ConfigException(LoadFailed);
-    DepthCheck depth;
-    m_document.traverse(depth);
-    if (depth.tooDeep)
+    if (NestedAtLeast(m_document, static_cast<int>(MaxDepth)))
         throw ConfigException(LoadFailed);
     // The document is written back as UTF-8 whatever it was read as; its declaration says so.
     for (pugi::xml_node node = m_document.first_child(); node; node = node.next_sibling())
@@ -286,9 +267,7 @@ bool XmlConfigStore::SaveFile()
 {
     std::string text;
     try {
-        StringWriter writer;
-        m_document.save(writer, "  ", pugi::format_default, pugi::encoding_utf8);
-        text = std::move(writer.text);
+        text = DocumentText(m_document);
     } catch (const std::bad_alloc&) {
         throw ConfigException(SaveFailed);
     }

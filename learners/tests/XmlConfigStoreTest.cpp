@@ -624,6 +624,37 @@ TEST_F(StoreTest, HistoryOfEveryKindRoundTrips)
     EXPECT_EQ(Open()->LoadUser("Anna")->History().size(), events.size());
 }
 
+TEST_F(StoreTest, TheHistoryLeavesTheProgressElementsAsTheyWere)
+{
+    // The same learner saved with and without history: taking the History element away gives
+    // the very same file, so a reader that knows nothing of it finds the same progress.
+    auto save = [&](bool withHistory) {
+        WriteText(Config(), "<?xml version=\"1.0\"?>\n<Zavoren><Users/></Zavoren>\n");
+        auto store = Open();
+        EXPECT_TRUE(store->AddUser("Anna"));
+        auto anna = store->LoadUser("Anna");
+        anna->GetProgress(0).AddLearned(3);
+        anna->GetProgress(0).AddUntested(4);
+        anna->GetProgress(5).AddLearned(900);
+        if (withHistory) {
+            anna->AddEvent({"2026-11-20T08:00:00+01:00", LearnerEvent::Lesson, 0, 4, -1});
+            anna->AddEvent({"2026-11-20T08:05:00+01:00", LearnerEvent::Passed, 0, 3, 1});
+        }
+        EXPECT_TRUE(store->SaveUser(*anna));
+        return ReadText(Config());
+    };
+    const std::string plain = save(false);
+    std::string withHistory = save(true);
+    const auto begin = withHistory.find("<History>");
+    const auto end = withHistory.find("</History>");
+    ASSERT_NE(begin, std::string::npos);
+    ASSERT_NE(end, std::string::npos);
+    // The element and the line it stands on.
+    const auto lineStart = withHistory.rfind('\n', begin) + 1;
+    withHistory.erase(lineStart, withHistory.find('\n', end) + 1 - lineStart);
+    EXPECT_EQ(withHistory, plain);
+}
+
 TEST_F(StoreTest, AFileWithoutHistoryLoadsAnEmptyOneAndIsWrittenAsBefore)
 {
     WriteText(Config(),

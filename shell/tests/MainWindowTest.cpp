@@ -46,17 +46,6 @@
 
 using namespace testsupport;
 
-namespace {
-std::uint32_t FixedSeed()
-{
-    return 99;
-}
-
-std::string FixedClock()
-{
-    return "2026-11-22T09:08:07+01:00";
-}
-} // namespace
 using Codes = std::vector<std::uint16_t>;
 
 namespace {
@@ -641,15 +630,8 @@ private slots:
 
     void anImportedNameThatIsTakenIsReplacedOrRenamedOrLeft()
     {
-        const QString exported = QDir(m_files.path()).filePath(QStringLiteral("anna.xml"));
-        {
-            DataFolder folder(R"(<Z><Users currentUser="Anna"><User name="Anna"/></Users></Z>)");
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-            QVERIFY(window.ChooseLearnerAtStart());
-            window.ShowChosenLearner();
-            window.Learner()->GetProgress(0).AddLearned(7);
-            QVERIFY(window.ExportLearnerTo(exported));
-        }
+        const QString exported = ExportAnnaWithOneLearned();
+        QVERIFY(!exported.isEmpty());
         DataFolder folder(R"(<Z><Users currentUser="Ben"><User name="Anna"/><User name="Ben"/></Users></Z>)");
         MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
         QVERIFY(window.ChooseLearnerAtStart());
@@ -686,15 +668,8 @@ private slots:
 
     void replacingTheOpenLearnerShowsTheImportedRecord()
     {
-        const QString exported = QDir(m_files.path()).filePath(QStringLiteral("anna.xml"));
-        {
-            DataFolder folder(R"(<Z><Users currentUser="Anna"><User name="Anna"/></Users></Z>)");
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-            QVERIFY(window.ChooseLearnerAtStart());
-            window.ShowChosenLearner();
-            window.Learner()->GetProgress(0).AddLearned(7);
-            QVERIFY(window.ExportLearnerTo(exported));
-        }
+        const QString exported = ExportAnnaWithOneLearned();
+        QVERIFY(!exported.isEmpty());
         DataFolder folder(R"(<Z><Users currentUser="Anna"><User name="Anna"/></Users></Z>)");
         MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
         QVERIFY(window.ChooseLearnerAtStart());
@@ -743,6 +718,20 @@ private slots:
     }
 
 private:
+    /// Anna with character 7 learned, exported from a data folder of her own; the file's path,
+    /// or an empty one when the export failed.
+    QString ExportAnnaWithOneLearned()
+    {
+        const QString exported = QDir(m_files.path()).filePath(QStringLiteral("anna.xml"));
+        DataFolder folder(R"(<Z><Users currentUser="Anna"><User name="Anna"/></Users></Z>)");
+        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
+        if (!window.ChooseLearnerAtStart())
+            return QString();
+        window.ShowChosenLearner();
+        window.Learner()->GetProgress(0).AddLearned(7);
+        return window.ExportLearnerTo(exported) ? exported : QString();
+    }
+
     RecordingPrompt m_prompt;
     RecordingOpener m_urls;
     QTemporaryDir m_files;

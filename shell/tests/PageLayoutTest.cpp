@@ -40,16 +40,6 @@ using namespace testsupport;
 
 namespace {
 
-std::uint32_t FixedSeed()
-{
-    return 99;
-}
-
-std::string FixedClock()
-{
-    return "2026-11-22T09:08:07+01:00";
-}
-
 /// The visible children of `page` that reach outside it, described; empty when there are none.
 QString ChildrenOutside(QWidget* page)
 {

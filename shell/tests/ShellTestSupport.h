@@ -9,9 +9,20 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <memory>
+
+/// The seed of every random draw in a test, and the time every event is dated with.
+inline std::uint32_t FixedSeed()
+{
+    return 99;
+}
+inline std::string FixedClock()
+{
+    return "2026-11-22T09:08:07+01:00";
+}
 
 class DataFolder {
 public:
