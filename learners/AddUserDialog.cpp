@@ -59,13 +59,13 @@ std::string AddLearnerByName(ConfigStore& store, Prompt& prompt, QWidget* parent
         const std::string name = dialog.Name().toStdString();
         if (name.find('\'') != std::string::npos) {
             // The learner file could never find such a name again: say why it is refused.
-            prompt.Ask(parent, QMessageBox::NoIcon, QStringLiteral("Can't create user"),
-                QStringLiteral("A user name cannot contain an apostrophe ('). Try another user name"));
+            prompt.Ask(parent, QMessageBox::NoIcon, QCoreApplication::translate("AddUserDialog", "Can't create user"),
+                QCoreApplication::translate("AddUserDialog", "A user name cannot contain an apostrophe ('). Try another user name"));
             continue;
         }
         if (!store.AddUser(name)) {
-            prompt.Ask(parent, QMessageBox::NoIcon, QStringLiteral("Can't create user"),
-                QStringLiteral("User already exists. Try another user name"));
+            prompt.Ask(parent, QMessageBox::NoIcon, QCoreApplication::translate("AddUserDialog", "Can't create user"),
+                QCoreApplication::translate("AddUserDialog", "User already exists. Try another user name"));
             continue;
         }
         return name;

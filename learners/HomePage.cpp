@@ -49,7 +49,7 @@ QString HomePage::CategoryText(const char* name, std::size_t learned, std::size_
 {
     QString text = QString::fromUtf8(name ? name : "");
     if (learned > 0)
-        text += QString::asprintf(" (%d of %d)", static_cast<int>(learned), static_cast<int>(total));
+        text += tr(" (%1 of %2)").arg(learned).arg(total);
     return text;
 }
 
@@ -80,7 +80,7 @@ void HomePage::SetUser(User* user)
                 FillItem(item, i);
             }
         } catch (const ZavorenCommon::DatabaseLoadException& e) {
-            m_prompt.StoreError(this, "Zavoren Database Error", e.what());
+            m_prompt.StoreError(this, DatabaseErrorTitle, e.what());
         }
     }
     UpdateButtons();
@@ -94,7 +94,7 @@ void HomePage::RefreshSelectedCategory()
     try {
         FillItem(selected.front(), static_cast<std::uint16_t>(selected.front()->data(0, Qt::UserRole).toUInt()));
     } catch (const ZavorenCommon::DatabaseLoadException& e) {
-        m_prompt.StoreError(this, "Zavoren Database Error", e.what());
+        m_prompt.StoreError(this, DatabaseErrorTitle, e.what());
     }
 }
 

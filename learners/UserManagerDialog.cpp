@@ -123,8 +123,8 @@ void UserManagerDialog::OnAdd()
 void UserManagerDialog::OnDelete()
 {
     const bool current = EqualsIgnoringAsciiCase(m_selectedUserName, m_store.CurrentUserName());
-    const auto answer = m_prompt.Ask(this, QMessageBox::Question, QStringLiteral("Delete User"),
-        current ? QStringLiteral("Delete current user?") : QStringLiteral("Delete user?"),
+    const auto answer = m_prompt.Ask(this, QMessageBox::Question, tr("Delete User"),
+        current ? tr("Delete current user?") : tr("Delete user?"),
         QMessageBox::Yes | QMessageBox::No);
     if (answer != QMessageBox::Yes)
         return;

@@ -16,9 +16,10 @@
 namespace {
 /// String 223: shown in the empty strip while a lesson is possible.
 const char* const LessonHint
-    = "To learn characters press 'Lesson' button and then test learned characters by pressing 'Test' button.";
+    = QT_TRANSLATE_NOOP("CategoryPage",
+        "To learn characters press 'Lesson' button and then test learned characters by pressing 'Test' button.");
 /// String 225: shown in the empty strip when no lesson is possible.
-const char* const CategoryComplete = "Category complete";
+const char* const CategoryComplete = QT_TRANSLATE_NOOP("CategoryPage", "Category complete");
 } // namespace
 
 CategoryPage::CategoryPage(CharacterDatabase& database, Prompt& prompt, SeedSource seeds, QWidget* parent)
@@ -110,7 +111,7 @@ bool CategoryPage::SetCategory(std::uint16_t categoryId, CategoryProgress* progr
         m_category = m_database.LoadCategory(categoryId);
     } catch (const ZavorenCommon::DatabaseLoadException& e) {
         m_category.reset();
-        m_prompt.StoreError(this, "Zavoren Database Error", e.what());
+        m_prompt.StoreError(this, DatabaseErrorTitle, e.what());
         Refresh();
         return false;
     }
@@ -144,7 +145,7 @@ void CategoryPage::RefreshButtons()
     RetestButton()->setEnabled(s.retestEnabled);
     LessonButton()->setEnabled(s.lessonEnabled);
     m_learnAction->setEnabled(s.lessonEnabled);
-    Strip()->SetEmptyMessage(QString::fromUtf8(s.lessonEnabled ? LessonHint : CategoryComplete));
+    Strip()->SetEmptyMessage(tr(s.lessonEnabled ? LessonHint : CategoryComplete));
     SetDefaultButton(s.testIsDefault ? TestButton() : LessonButton());
 }
 

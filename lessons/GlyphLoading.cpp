@@ -4,10 +4,6 @@
 #include "DatabaseLoadException.h"
 #include "Prompt.h"
 
-namespace {
-const char* const DatabaseErrorTitle = "Zavoren Database Error";
-} // namespace
-
 std::unique_ptr<Element> LoadGlyphOrReport(
     CharacterDatabase& database, std::uint16_t elementId, Prompt& prompt, QWidget* parent)
 {

@@ -77,7 +77,7 @@ void ReadingTestPage::SetCharacter(const Character* character)
             m_choices = ReadingChoices::Build(m_database, *character, m_random);
         } catch (const ZavorenCommon::DatabaseLoadException& e) {
             m_choices = {};
-            m_prompt.StoreError(this, "Zavoren Database Error", e.what());
+            m_prompt.StoreError(this, DatabaseErrorTitle, e.what());
         }
     } else {
         m_choices = {};

@@ -67,7 +67,7 @@ void TestContainer::AskQuestion()
         m_character.reset();
         m_character = m_database.LoadCharacter(*code);
     } catch (const ZavorenCommon::DatabaseLoadException& e) {
-        m_prompt.StoreError(this, "Zavoren Database Error", e.what());
+        m_prompt.StoreError(this, DatabaseErrorTitle, e.what());
     }
     QuestionPage* page = m_schedule.CurrentPage() == Reading ? static_cast<QuestionPage*>(m_reading)
                                                              : static_cast<QuestionPage*>(m_drawing);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QCoreApplication>
+
 #include "CoachingPreferences.h"
 #include "Form.h"
 #include "StrokePath.h"
@@ -13,7 +15,12 @@ class InputCanvas;
 /// lines. In the drawing test nothing gives the character away: a misplaced stroke is only
 /// "Wrong place." and no arrow or start mark is drawn.
 class WritingCoach {
+    Q_DECLARE_TR_FUNCTIONS(WritingCoach)
 public:
+    /// What the feedback line says of a refused stroke, in the learner's language; in a lesson a
+    /// misplaced stroke is told which way it belongs.
+    static QString Explain(const StrokeVerdict& verdict, bool lesson);
+
     enum class Mode { Lesson, Test };
 
     WritingCoach(InputCanvas* canvas, FeedbackLine* line, Mode mode);

@@ -15,7 +15,7 @@ AboutDialog::AboutDialog(UrlOpener open, QWidget* owner) : QDialog(owner)
     auto* icon = new QLabel(this);
     icon->setPixmap(QPixmap(QStringLiteral(":/images/zavoren.png")));
     icon->setAccessibleName(tr("Zavoren! icon"));
-    auto* product = new QLabel(QStringLiteral("Zavoren! Kanji Learning Program"), this);
+    auto* product = new QLabel(tr("Zavoren! Kanji Learning Program"), this);
     QFont bold = product->font();
     bold.setBold(true);
     product->setFont(bold);

@@ -29,6 +29,6 @@ QString VersionText()
 #if defined(ZAVOREN_VERSION_MAJOR) && defined(ZAVOREN_VERSION_MINOR) && defined(ZAVOREN_VERSION_PATCH)
     return QString::asprintf("v%d.%d.%d", ZAVOREN_VERSION_MAJOR, ZAVOREN_VERSION_MINOR, ZAVOREN_VERSION_PATCH);
 #else
-    return QStringLiteral("unknown version");
+    return QCoreApplication::translate("AboutDialog", "unknown version");
 #endif
 }

@@ -34,7 +34,6 @@ using ZavorenCommon::ConfigException;
 
 namespace {
 
-const char* const ConfigErrorTitle = "Zavoren Configuration Error";
 
 /// Keys the window takes and ignores, so that the pages never see them.
 const QKeySequence IgnoredKeys[] = {
@@ -129,9 +128,9 @@ void MainWindow::ChangePreferences()
 void MainWindow::BuildMenu()
 {
     QMenu* file = menuBar()->addMenu(tr("&File"));
-    m_usersAction = file->addAction(QStringLiteral("Users"), this, &MainWindow::ChooseLearner);
+    m_usersAction = file->addAction(tr("Users"), this, &MainWindow::ChooseLearner);
     file->addSeparator();
-    m_exitAction = file->addAction(QStringLiteral("Exit"), this, &QWidget::close);
+    m_exitAction = file->addAction(tr("Exit"), this, &QWidget::close);
     QMenu* tools = menuBar()->addMenu(tr("&Tools"));
     m_progressAction = tools->addAction(tr("Progress…"), this, &MainWindow::ShowProgress);
     m_exportAction = tools->addAction(tr("Export learner…"), this, &MainWindow::ExportLearner);
@@ -140,13 +139,13 @@ void MainWindow::BuildMenu()
     m_preferencesAction = tools->addAction(tr("Preferences…"), this, &MainWindow::ChangePreferences);
     UpdateLearnerActions();
     QMenu* help = menuBar()->addMenu(tr("&Help"));
-    m_contentsAction = help->addAction(QStringLiteral("Contents"), this, [this] { OpenHelpContents(m_open); });
-    QMenu* links = help->addMenu(QStringLiteral("Links"));
-    m_siteAction = links->addAction(QStringLiteral("Quelmar Software site"), this, [this] { OpenMakerSite(m_open); });
-    m_siteAction->setStatusTip(QStringLiteral("Open Quelmar Software web site"));
+    m_contentsAction = help->addAction(tr("Contents"), this, [this] { OpenHelpContents(m_open); });
+    QMenu* links = help->addMenu(tr("Links"));
+    m_siteAction = links->addAction(tr("Quelmar Software site"), this, [this] { OpenMakerSite(m_open); });
+    m_siteAction->setStatusTip(tr("Open Quelmar Software web site"));
     help->addSeparator();
-    m_aboutAction = help->addAction(QStringLiteral("About"), this, [this] { ShowAbout(m_open, this); });
-    m_aboutAction->setStatusTip(QStringLiteral("About Zavoren"));
+    m_aboutAction = help->addAction(tr("About"), this, [this] { ShowAbout(m_open, this); });
+    m_aboutAction->setStatusTip(tr("About Zavoren"));
 }
 
 std::optional<ProgressRecorder> MainWindow::Recorder()
@@ -165,7 +164,7 @@ CategoryProgress* MainWindow::CurrentCategory() const
 
 void MainWindow::ReportStoreError(const char* message)
 {
-    m_prompt.StoreError(this, ConfigErrorTitle, message);
+    m_prompt.StoreError(this, ConfigurationErrorTitle, message);
     QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }
 
@@ -194,7 +193,7 @@ bool MainWindow::ChooseLearnerAtStart()
             m_chosenAtStart = m_store.LoadUser(m_managerChoice);
         }
     } catch (const ConfigException& e) {
-        m_prompt.StoreError(nullptr, ConfigErrorTitle, e.what());
+        m_prompt.StoreError(nullptr, ConfigurationErrorTitle, e.what());
         return false;
     }
     // Sized to the home page, centred; a stored position wins.
@@ -334,7 +333,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         try {
             m_store.SaveUser(*m_learner);
         } catch (const ConfigException& e) {
-            m_prompt.StoreError(this, ConfigErrorTitle, e.what());
+            m_prompt.StoreError(this, ConfigurationErrorTitle, e.what());
         }
     }
     SavePlacement();

@@ -80,7 +80,7 @@ int RunZavoren(const StartupOptions& options, Prompt& prompt)
         store = &GetConfigStore();
     } catch (const ZavorenCommon::ConfigException& e) {
         splash.close();
-        prompt.StoreError(nullptr, "Zavoren Configuration Error", e.what());
+        prompt.StoreError(nullptr, ConfigurationErrorTitle, e.what());
         ReleaseDataStores();
         return 0;
     }

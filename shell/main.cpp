@@ -4,6 +4,7 @@
 #include "DisplayCheck.h"
 #include "MessageBoxPrompt.h"
 #include "Startup.h"
+#include "Translations.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -51,6 +52,8 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("Zavoren!"));
     QApplication::setOrganizationName(QStringLiteral("Zavoren"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/zavoren.png")));
+    // The learner's language (LANGUAGE, LC_ALL, LC_MESSAGES, LANG), English otherwise.
+    InstallTranslations(app, QLocale::system());
     MessageBoxPrompt prompt;
     if (reportHelper)
         return RunCrashReportHelper(prompt, CrashReportFolder());

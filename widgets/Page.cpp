@@ -42,5 +42,5 @@ int VerticalUnits(const QWidget* widget, int units)
 QString TextOrNotAvailable(const char* text)
 {
     // Strings 218 to 220 of the program: shown where a character has no such text.
-    return text && *text ? QString::fromUtf8(text) : QStringLiteral("N/A");
+    return text && *text ? QString::fromUtf8(text) : Page::tr("N/A");
 }

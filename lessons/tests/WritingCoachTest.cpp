@@ -55,6 +55,25 @@ class WritingCoachTest : public QObject {
     Q_OBJECT
 
 private slots:
+    void theLinesSayWhatTheVerdictsSayInEnglish()
+    {
+        // Without a translation the line says exactly the checker's own words, every kind and way.
+        using Kind = StrokeVerdict::Kind;
+        for (Kind kind : {Kind::Accepted, Kind::WrongOrder, Kind::WrongDirection, Kind::WrongPlace, Kind::TooShort,
+                 Kind::TooLong, Kind::WrongShape, Kind::CharacterComplete})
+            for (const QPointF& way : {QPointF(0, -40), QPointF(0, 40), QPointF(-40, 0), QPointF(40, 0), QPointF(-30, -30),
+                     QPointF(30, -30), QPointF(-30, 30), QPointF(30, 30)})
+                for (bool lesson : {true, false}) {
+                    StrokeVerdict v;
+                    v.kind = kind;
+                    v.drawnAs = 3;
+                    v.expected = 1;
+                    v.dx = static_cast<float>(way.x());
+                    v.dy = static_cast<float>(way.y());
+                    QCOMPARE(WritingCoach::Explain(v, lesson), QString::fromStdString(VerdictText(v, lesson)));
+                }
+    }
+
     void initTestCase()
     {
         // One character: a line across at y 30, then a line down the middle.

@@ -1,0 +1,888 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About Zavoren!</source>
+        <translation>Über Zavoren!</translation>
+    </message>
+    <message>
+        <source>Zavoren! icon</source>
+        <translation>Zavoren!-Symbol</translation>
+    </message>
+    <message>
+        <source>Zavoren! Kanji Learning Program</source>
+        <translation>Zavoren! Kanji-Lernprogramm</translation>
+    </message>
+    <message>
+        <source>Copyright © Quelmar Software. Teaches kanji by writing.</source>
+        <translation>Copyright © Quelmar Software. Lehrt Kanji durch Schreiben.</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>Support</translation>
+    </message>
+    <message>
+        <source>Stroke data: KanjiVG, © Ulrich Apel, CC BY-SA 3.0.
+Readings and meanings: KANJIDIC2, © the Electronic Dictionary Research and Development Group, CC BY-SA 4.0.
+The character database is a derived work shared under CC BY-SA.</source>
+        <translation>Strichdaten: KanjiVG, © Ulrich Apel, CC BY-SA 3.0.
+Lesungen und Bedeutungen: KANJIDIC2, © Electronic Dictionary Research and Development Group, CC BY-SA 4.0.
+Die Zeichendatenbank ist ein abgeleitetes Werk unter CC BY-SA.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>unknown version</source>
+        <translation>unbekannte Version</translation>
+    </message>
+</context>
+<context>
+    <name>AddUserDialog</name>
+    <message>
+        <source>Add New User</source>
+        <translation>Neuen Benutzer hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Enter user name:</source>
+        <translation>&amp;Benutzername:</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>Abbre&amp;chen</translation>
+    </message>
+    <message>
+        <source>Can&apos;t create user</source>
+        <translation>Benutzer kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>A user name cannot contain an apostrophe (&apos;). Try another user name</source>
+        <translation>Ein Benutzername darf keinen Apostroph (&apos;) enthalten. Versuchen Sie einen anderen Namen</translation>
+    </message>
+    <message>
+        <source>User already exists. Try another user name</source>
+        <translation>Der Benutzer existiert bereits. Versuchen Sie einen anderen Namen</translation>
+    </message>
+</context>
+<context>
+    <name>CategoryPage</name>
+    <message>
+        <source>Category</source>
+        <translation>Kategorie</translation>
+    </message>
+    <message>
+        <source>All characters of the category: those learned, and those still to be learned. Right-click a character for more.</source>
+        <translation>Alle Zeichen der Kategorie: die gelernten und die noch zu lernenden. Rechtsklick auf ein Zeichen für mehr.</translation>
+    </message>
+    <message>
+        <source>Untested:</source>
+        <translation>Ungetestet:</translation>
+    </message>
+    <message>
+        <source>Characters met in a lesson and waiting for a test.</source>
+        <translation>In einer Lektion gesehene Zeichen, die auf einen Test warten.</translation>
+    </message>
+    <message>
+        <source>&amp;Lesson</source>
+        <translation>&amp;Lektion</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>&amp;Test</translation>
+    </message>
+    <message>
+        <source>&amp;Retest</source>
+        <translation>&amp;Erneut testen</translation>
+    </message>
+    <message>
+        <source>&amp;Forget</source>
+        <translation>&amp;Vergessen</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>To learn characters press &apos;Lesson&apos; button and then test learned characters by pressing &apos;Test&apos; button.</source>
+        <translation>Um Zeichen zu lernen, drücken Sie „Lektion“ und testen Sie die gelernten Zeichen dann mit „Test“.</translation>
+    </message>
+    <message>
+        <source>Category complete</source>
+        <translation>Kategorie abgeschlossen</translation>
+    </message>
+    <message>
+        <source>Characters of the category</source>
+        <translation>Zeichen der Kategorie</translation>
+    </message>
+    <message>
+        <source>Untested characters</source>
+        <translation>Ungetestete Zeichen</translation>
+    </message>
+    <message>
+        <source>Learned</source>
+        <translation>Gelernt</translation>
+    </message>
+    <message>
+        <source>&amp;Info</source>
+        <translation>&amp;Info</translation>
+    </message>
+    <message>
+        <source>&amp;Review</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Unlearned</source>
+        <translation>Nicht gelernt</translation>
+    </message>
+    <message>
+        <source>&amp;Learn</source>
+        <translation>&amp;Lernen</translation>
+    </message>
+    <message>
+        <source>Untested</source>
+        <translation>Ungetestet</translation>
+    </message>
+    <message>
+        <source>Learned Kanji</source>
+        <translation>Gelernte Kanji</translation>
+    </message>
+    <message>
+        <source>Kanji to be Learned</source>
+        <translation>Noch zu lernende Kanji</translation>
+    </message>
+</context>
+<context>
+    <name>CharacterGrid</name>
+    <message>
+        <source>Characters</source>
+        <translation>Zeichen</translation>
+    </message>
+</context>
+<context>
+    <name>CrashHandler</name>
+    <message>
+        <source>Oops...<byte value="xd"/>
+Fatal error in Zavoren.<byte value="xd"/>
+<byte value="xd"/>
+Do you want to get minidump for it?</source>
+        <translation>Hoppla...<byte value="xd"/>
+Schwerer Fehler in Zavoren.<byte value="xd"/>
+<byte value="xd"/>
+Möchten Sie einen Minidump davon erhalten?</translation>
+    </message>
+    <message>
+        <source>Unhandled Exception</source>
+        <translation>Unbehandelte Ausnahme</translation>
+    </message>
+    <message>
+        <source>MiniDump</source>
+        <translation>MiniDump</translation>
+    </message>
+    <message>
+        <source>Minidump successfuly created in application folder.</source>
+        <translation>Minidump im Programmordner erstellt.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Unable to generate minidump.</source>
+        <translation>Minidump kann nicht erstellt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayCanvas</name>
+    <message>
+        <source>Character</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>Click to see the character written stroke by stroke</source>
+        <translation>Klicken, um das Zeichen Strich für Strich geschrieben zu sehen</translation>
+    </message>
+</context>
+<context>
+    <name>DrawingTestPage</name>
+    <message>
+        <source>Drawing test</source>
+        <translation>Schreibtest</translation>
+    </message>
+    <message>
+        <source>Click to see the character written stroke by stroke</source>
+        <translation>Klicken, um das Zeichen Strich für Strich geschrieben zu sehen</translation>
+    </message>
+    <message>
+        <source>ON reading:</source>
+        <translation>ON-Lesung:</translation>
+    </message>
+    <message>
+        <source>KUN reading:</source>
+        <translation>KUN-Lesung:</translation>
+    </message>
+    <message>
+        <source>Meaning:</source>
+        <translation>Bedeutung:</translation>
+    </message>
+    <message>
+        <source>Write the character from its readings and meaning. Click the box on the left to see it (counts as a mistake before the drawing is complete).</source>
+        <translation>Schreiben Sie das Zeichen nach seinen Lesungen und seiner Bedeutung. Ein Klick auf das linke Feld zeigt es (zählt als Fehler, bevor die Zeichnung fertig ist).</translation>
+    </message>
+</context>
+<context>
+    <name>FeedbackLine</name>
+    <message>
+        <source>Stroke feedback</source>
+        <translation>Rückmeldung zum Strich</translation>
+    </message>
+</context>
+<context>
+    <name>HomePage</name>
+    <message>
+        <source>Home</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>User:</source>
+        <translation>Benutzer:</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>&amp;Categories:</source>
+        <translation>&amp;Kategorien:</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Kategorie</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Kategorien</translation>
+    </message>
+    <message>
+        <source> (%1 of %2)</source>
+        <translation> (%1 von %2)</translation>
+    </message>
+</context>
+<context>
+    <name>InputCanvas</name>
+    <message>
+        <source>Writing canvas</source>
+        <translation>Schreibfläche</translation>
+    </message>
+    <message>
+        <source>Write the character here with the mouse, one stroke at a time</source>
+        <translation>Schreiben Sie das Zeichen hier mit der Maus, einen Strich nach dem anderen</translation>
+    </message>
+</context>
+<context>
+    <name>KanjiInfoDialog</name>
+    <message>
+        <source> Kanji Info</source>
+        <translation> Kanji-Info</translation>
+    </message>
+    <message>
+        <source>Click to see the character written stroke by stroke</source>
+        <translation>Klicken, um das Zeichen Strich für Strich geschrieben zu sehen</translation>
+    </message>
+    <message>
+        <source>ON reading:</source>
+        <translation>ON-Lesung:</translation>
+    </message>
+    <message>
+        <source>KUN reading:</source>
+        <translation>KUN-Lesung:</translation>
+    </message>
+    <message>
+        <source>Meaning:</source>
+        <translation>Bedeutung:</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>LessonPage</name>
+    <message>
+        <source>Lesson</source>
+        <translation>Lektion</translation>
+    </message>
+    <message>
+        <source>Click to see the character written stroke by stroke</source>
+        <translation>Klicken, um das Zeichen Strich für Strich geschrieben zu sehen</translation>
+    </message>
+    <message>
+        <source>The character to learn. Click it to watch it being written stroke by stroke.</source>
+        <translation>Das zu lernende Zeichen. Klicken Sie darauf, um es Strich für Strich geschrieben zu sehen.</translation>
+    </message>
+    <message>
+        <source>ON reading</source>
+        <translation>ON-Lesung</translation>
+    </message>
+    <message>
+        <source>KUN reading</source>
+        <translation>KUN-Lesung</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>Bedeutung</translation>
+    </message>
+    <message>
+        <source>Write the character here with the mouse, stroke by stroke in the right order. A stroke that does not match is wiped.</source>
+        <translation>Schreiben Sie das Zeichen hier mit der Maus, Strich für Strich in der richtigen Reihenfolge. Ein unpassender Strich wird gelöscht.</translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Hint</source>
+        <translation>&amp;Hinweis</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>Users</source>
+        <translation>Benutzer</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>E&amp;xtras</translation>
+    </message>
+    <message>
+        <source>Progress…</source>
+        <translation>Fortschritt…</translation>
+    </message>
+    <message>
+        <source>Export learner…</source>
+        <translation>Lernenden exportieren…</translation>
+    </message>
+    <message>
+        <source>Import learner…</source>
+        <translation>Lernenden importieren…</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Einstellungen…</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Quelmar Software site</source>
+        <translation>Website von Quelmar Software</translation>
+    </message>
+    <message>
+        <source>Open Quelmar Software web site</source>
+        <translation>Website von Quelmar Software öffnen</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>About Zavoren</source>
+        <translation>Über Zavoren</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>The progress window cannot be opened: %1</source>
+        <translation>Das Fortschrittsfenster kann nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>Export learner</source>
+        <translation>Lernenden exportieren</translation>
+    </message>
+    <message>
+        <source>Zavoren! learners (*.xml);;All files (*)</source>
+        <translation>Zavoren!-Lernende (*.xml);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Import learner</source>
+        <translation>Lernenden importieren</translation>
+    </message>
+    <message>
+        <source>The learner could not be written to &quot;%1&quot;. Nothing was changed.</source>
+        <translation>Der Lernende konnte nicht nach „%1“ geschrieben werden. Es wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read.</source>
+        <translation>Die Datei „%1“ kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a learner exported by Zavoren!.</source>
+        <translation>„%1“ ist kein von Zavoren! exportierter Lernender.</translation>
+    </message>
+    <message>
+        <source>The learner file &quot;%1&quot; is damaged.</source>
+        <translation>Die Lernenden-Datei „%1“ ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The learner file &quot;%1&quot; was written with a character database of %2 categories; this one has %3.</source>
+        <translation>Die Lernenden-Datei „%1“ wurde mit einer Zeichendatenbank mit %2 Kategorien geschrieben; diese hat %3.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Es wurde nichts importiert.</translation>
+    </message>
+    <message>
+        <source>A learner named &quot;%1&quot; already exists. Replace their record with the imported one?
+
+Yes replaces it; No imports the learner under another name.</source>
+        <translation>Es gibt bereits einen Lernenden namens „%1“. Seinen Stand durch den importierten ersetzen?
+
+Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</translation>
+    </message>
+</context>
+<context>
+    <name>Page</name>
+    <message>
+        <source>N/A</source>
+        <translation>k. A.</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Explain refused strokes</source>
+        <translation>Abgelehnte Striche erklären</translation>
+    </message>
+    <message>
+        <source>Practice grid</source>
+        <translation>Übungsraster</translation>
+    </message>
+    <message>
+        <source>Show where a stroke starts after three misses</source>
+        <translation>Nach drei Fehlversuchen zeigen, wo ein Strich beginnt</translation>
+    </message>
+    <message>
+        <source>Bring the window onto the screen at start</source>
+        <translation>Fenster beim Start auf den Bildschirm holen</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressWindow</name>
+    <message>
+        <source>Progress of %1</source>
+        <translation>Fortschritt von %1</translation>
+    </message>
+    <message>
+        <source>Category %1</source>
+        <translation>Kategorie %1</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>&amp;Learned</source>
+        <translation>&amp;Gelernt</translation>
+    </message>
+    <message>
+        <source>&amp;Tests</source>
+        <translation>&amp;Tests</translation>
+    </message>
+    <message>
+        <source>&amp;Categories</source>
+        <translation>&amp;Kategorien</translation>
+    </message>
+    <message>
+        <source>T&amp;rouble characters</source>
+        <translation>&amp;Schwierige Zeichen</translation>
+    </message>
+    <message>
+        <source>Category shown</source>
+        <translation>Angezeigte Kategorie</translation>
+    </message>
+    <message>
+        <source>All categories</source>
+        <translation>Alle Kategorien</translation>
+    </message>
+    <message>
+        <source>C&amp;ategory:</source>
+        <translation>K&amp;ategorie:</translation>
+    </message>
+    <message>
+        <source>Characters learned</source>
+        <translation>Gelernte Zeichen</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Characters</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>Characters learned over time</source>
+        <translation>Gelernte Zeichen im Lauf der Zeit</translation>
+    </message>
+    <message>
+        <source>Characters learned by %1: %2</source>
+        <translation>Bis %1 gelernte Zeichen: %2</translation>
+    </message>
+    <message>
+        <source>Tests per week</source>
+        <translation>Tests pro Woche</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Bestanden</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Nicht bestanden</translation>
+    </message>
+    <message>
+        <source>Week beginning</source>
+        <translation>Woche ab</translation>
+    </message>
+    <message>
+        <source>Tests</source>
+        <translation>Tests</translation>
+    </message>
+    <message>
+        <source>Tests passed and failed per week</source>
+        <translation>Bestandene und nicht bestandene Tests pro Woche</translation>
+    </message>
+    <message>
+        <source>Progress in each category</source>
+        <translation>Fortschritt in jeder Kategorie</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Kategorie</translation>
+    </message>
+    <message>
+        <source>Learned</source>
+        <translation>Gelernt</translation>
+    </message>
+    <message>
+        <source>Untested</source>
+        <translation>Ungetestet</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Gesamt</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Erledigt</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 learned</source>
+        <translation>%1: %2 von %3 gelernt</translation>
+    </message>
+    <message>
+        <source>Trouble characters, the most troubled first</source>
+        <translation>Schwierige Zeichen, die schwierigsten zuerst</translation>
+    </message>
+    <message>
+        <source>1 mistake</source>
+        <translation>1 Fehler</translation>
+    </message>
+    <message>
+        <source>%1 mistakes</source>
+        <translation>%1 Fehler</translation>
+    </message>
+    <message>
+        <source>1 test failed</source>
+        <translation>1 Test nicht bestanden</translation>
+    </message>
+    <message>
+        <source>%1 tests failed</source>
+        <translation>%1 Tests nicht bestanden</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingTestPage</name>
+    <message>
+        <source>Reading test</source>
+        <translation>Lesetest</translation>
+    </message>
+    <message>
+        <source>Click to see the character written stroke by stroke</source>
+        <translation>Klicken, um das Zeichen Strich für Strich geschrieben zu sehen</translation>
+    </message>
+    <message>
+        <source>ON reading:</source>
+        <translation>ON-Lesung:</translation>
+    </message>
+    <message>
+        <source>KUN reading:</source>
+        <translation>KUN-Lesung:</translation>
+    </message>
+    <message>
+        <source>Meaning:</source>
+        <translation>Bedeutung:</translation>
+    </message>
+    <message>
+        <source>Select ON reading</source>
+        <translation>ON-Lesung wählen</translation>
+    </message>
+    <message>
+        <source>?</source>
+        <translation>?</translation>
+    </message>
+    <message>
+        <source>Select KUN reading</source>
+        <translation>KUN-Lesung wählen</translation>
+    </message>
+</context>
+<context>
+    <name>SplashWindow</name>
+    <message>
+        <source>Zavoren! is starting</source>
+        <translation>Zavoren! startet</translation>
+    </message>
+    <message>
+        <source>Loading the characters</source>
+        <translation>Die Zeichen werden geladen</translation>
+    </message>
+</context>
+<context>
+    <name>TestContainer</name>
+    <message>
+        <source>Test</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+</context>
+<context>
+    <name>UserManagerDialog</name>
+    <message>
+        <source>User Manager</source>
+        <translation>Benutzerverwaltung</translation>
+    </message>
+    <message>
+        <source>&amp;Users:</source>
+        <translation>&amp;Benutzer:</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Users</source>
+        <translation>Benutzer</translation>
+    </message>
+    <message>
+        <source>Delete User</source>
+        <translation>Benutzer entfernen</translation>
+    </message>
+    <message>
+        <source>Delete current user?</source>
+        <translation>Aktuellen Benutzer entfernen?</translation>
+    </message>
+    <message>
+        <source>Delete user?</source>
+        <translation>Benutzer entfernen?</translation>
+    </message>
+</context>
+<context>
+    <name>WritingCoach</name>
+    <message>
+        <source>Wrong order: that is stroke %1. Write stroke %2 first.</source>
+        <translation>Falsche Reihenfolge: das ist Strich %1. Schreiben Sie zuerst Strich %2.</translation>
+    </message>
+    <message>
+        <source>Wrong direction: start this stroke from the other end.</source>
+        <translation>Falsche Richtung: beginnen Sie diesen Strich am anderen Ende.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further up.</source>
+        <translation>Falsche Stelle: dieser Strich gehört weiter nach oben.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further down.</source>
+        <translation>Falsche Stelle: dieser Strich gehört weiter nach unten.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further left.</source>
+        <translation>Falsche Stelle: dieser Strich gehört weiter nach links.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further right.</source>
+        <translation>Falsche Stelle: dieser Strich gehört weiter nach rechts.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further up and to the left.</source>
+        <translation>Falsche Stelle: dieser Strich gehört weiter nach oben links.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further up and to the right.</source>
+        <translation>Falsche Stelle: dieser Strich gehört weiter nach oben rechts.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further down and to the left.</source>
+        <translation>Falsche Stelle: dieser Strich gehört weiter nach unten links.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further down and to the right.</source>
+        <translation>Falsche Stelle: dieser Strich gehört weiter nach unten rechts.</translation>
+    </message>
+    <message>
+        <source>Wrong place.</source>
+        <translation>Falsche Stelle.</translation>
+    </message>
+    <message>
+        <source>Too short: this stroke is longer.</source>
+        <translation>Zu kurz: dieser Strich ist länger.</translation>
+    </message>
+    <message>
+        <source>Too long: this stroke is shorter.</source>
+        <translation>Zu lang: dieser Strich ist kürzer.</translation>
+    </message>
+    <message>
+        <source>Wrong shape: compare it with the model.</source>
+        <translation>Falsche Form: vergleichen Sie mit der Vorlage.</translation>
+    </message>
+    <message>
+        <source>The character is already complete.</source>
+        <translation>Das Zeichen ist schon vollständig.</translation>
+    </message>
+</context>
+<context>
+    <name>ZavorenCommon</name>
+    <message>
+        <source>Zavoren Database Error</source>
+        <translation>Zavoren-Datenbankfehler</translation>
+    </message>
+    <message>
+        <source>Zavoren Configuration Error</source>
+        <translation>Zavoren-Konfigurationsfehler</translation>
+    </message>
+    <message>
+        <source>Unable to open database</source>
+        <translation>Datenbank kann nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>Unable to read database header</source>
+        <translation>Datenbankkopf kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Unable to read dictionary</source>
+        <translation>Wörterbuch kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Character id out of range</source>
+        <translation>Zeichennummer außerhalb des Bereichs</translation>
+    </message>
+    <message>
+        <source>Character does not exist</source>
+        <translation>Das Zeichen existiert nicht</translation>
+    </message>
+    <message>
+        <source>Unable to load character</source>
+        <translation>Zeichen kann nicht geladen werden</translation>
+    </message>
+    <message>
+        <source>Element id out of range</source>
+        <translation>Elementnummer außerhalb des Bereichs</translation>
+    </message>
+    <message>
+        <source>Element does not exist</source>
+        <translation>Das Element existiert nicht</translation>
+    </message>
+    <message>
+        <source>Unable to load element</source>
+        <translation>Element kann nicht geladen werden</translation>
+    </message>
+    <message>
+        <source>No such category</source>
+        <translation>Keine solche Kategorie</translation>
+    </message>
+    <message>
+        <source>Unable to load category</source>
+        <translation>Kategorie kann nicht geladen werden</translation>
+    </message>
+    <message>
+        <source>Config file does not exist. Try to reinstall Zavoren.</source>
+        <translation>Die Konfigurationsdatei existiert nicht. Installieren Sie Zavoren neu.</translation>
+    </message>
+    <message>
+        <source>Config file is ReadOnly. Check file attirbutes or reinstall Zavoren.</source>
+        <translation>Die Konfigurationsdatei ist schreibgeschützt. Prüfen Sie die Dateiattribute oder installieren Sie Zavoren neu.</translation>
+    </message>
+    <message>
+        <source>Unable to load config</source>
+        <translation>Konfiguration kann nicht geladen werden</translation>
+    </message>
+    <message>
+        <source>Unable to save config</source>
+        <translation>Konfiguration kann nicht gespeichert werden</translation>
+    </message>
+</context>
+</TS>

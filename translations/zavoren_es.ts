@@ -1,0 +1,888 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About Zavoren!</source>
+        <translation>Acerca de Zavoren!</translation>
+    </message>
+    <message>
+        <source>Zavoren! icon</source>
+        <translation>Icono de Zavoren!</translation>
+    </message>
+    <message>
+        <source>Zavoren! Kanji Learning Program</source>
+        <translation>Zavoren! Programa para aprender kanji</translation>
+    </message>
+    <message>
+        <source>Copyright © Quelmar Software. Teaches kanji by writing.</source>
+        <translation>Copyright © Quelmar Software. Enseña kanji escribiendo.</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>Soporte</translation>
+    </message>
+    <message>
+        <source>Stroke data: KanjiVG, © Ulrich Apel, CC BY-SA 3.0.
+Readings and meanings: KANJIDIC2, © the Electronic Dictionary Research and Development Group, CC BY-SA 4.0.
+The character database is a derived work shared under CC BY-SA.</source>
+        <translation>Datos de los trazos: KanjiVG, © Ulrich Apel, CC BY-SA 3.0.
+Lecturas y significados: KANJIDIC2, © Electronic Dictionary Research and Development Group, CC BY-SA 4.0.
+La base de caracteres es una obra derivada compartida bajo CC BY-SA.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>unknown version</source>
+        <translation>versión desconocida</translation>
+    </message>
+</context>
+<context>
+    <name>AddUserDialog</name>
+    <message>
+        <source>Add New User</source>
+        <translation>Añadir usuario</translation>
+    </message>
+    <message>
+        <source>&amp;Enter user name:</source>
+        <translation>&amp;Nombre de usuario:</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;Aceptar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>Can&apos;t create user</source>
+        <translation>No se puede crear el usuario</translation>
+    </message>
+    <message>
+        <source>A user name cannot contain an apostrophe (&apos;). Try another user name</source>
+        <translation>Un nombre de usuario no puede contener un apóstrofo (&apos;). Pruebe con otro nombre</translation>
+    </message>
+    <message>
+        <source>User already exists. Try another user name</source>
+        <translation>El usuario ya existe. Pruebe con otro nombre</translation>
+    </message>
+</context>
+<context>
+    <name>CategoryPage</name>
+    <message>
+        <source>Category</source>
+        <translation>Categoría</translation>
+    </message>
+    <message>
+        <source>All characters of the category: those learned, and those still to be learned. Right-click a character for more.</source>
+        <translation>Todos los caracteres de la categoría: los aprendidos y los que faltan por aprender. Haga clic derecho en un carácter para más opciones.</translation>
+    </message>
+    <message>
+        <source>Untested:</source>
+        <translation>Sin probar:</translation>
+    </message>
+    <message>
+        <source>Characters met in a lesson and waiting for a test.</source>
+        <translation>Caracteres vistos en una lección que esperan una prueba.</translation>
+    </message>
+    <message>
+        <source>&amp;Lesson</source>
+        <translation>&amp;Lección</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>&amp;Prueba</translation>
+    </message>
+    <message>
+        <source>&amp;Retest</source>
+        <translation>&amp;Repetir prueba</translation>
+    </message>
+    <message>
+        <source>&amp;Forget</source>
+        <translation>&amp;Olvidar</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Volver</translation>
+    </message>
+    <message>
+        <source>To learn characters press &apos;Lesson&apos; button and then test learned characters by pressing &apos;Test&apos; button.</source>
+        <translation>Para aprender caracteres pulse «Lección» y después ponga a prueba los aprendidos con «Prueba».</translation>
+    </message>
+    <message>
+        <source>Category complete</source>
+        <translation>Categoría completada</translation>
+    </message>
+    <message>
+        <source>Characters of the category</source>
+        <translation>Caracteres de la categoría</translation>
+    </message>
+    <message>
+        <source>Untested characters</source>
+        <translation>Caracteres sin probar</translation>
+    </message>
+    <message>
+        <source>Learned</source>
+        <translation>Aprendidos</translation>
+    </message>
+    <message>
+        <source>&amp;Info</source>
+        <translation>&amp;Información</translation>
+    </message>
+    <message>
+        <source>&amp;Review</source>
+        <translation>&amp;Repasar</translation>
+    </message>
+    <message>
+        <source>Unlearned</source>
+        <translation>No aprendidos</translation>
+    </message>
+    <message>
+        <source>&amp;Learn</source>
+        <translation>&amp;Aprender</translation>
+    </message>
+    <message>
+        <source>Untested</source>
+        <translation>Sin probar</translation>
+    </message>
+    <message>
+        <source>Learned Kanji</source>
+        <translation>Kanji aprendidos</translation>
+    </message>
+    <message>
+        <source>Kanji to be Learned</source>
+        <translation>Kanji por aprender</translation>
+    </message>
+</context>
+<context>
+    <name>CharacterGrid</name>
+    <message>
+        <source>Characters</source>
+        <translation>Caracteres</translation>
+    </message>
+</context>
+<context>
+    <name>CrashHandler</name>
+    <message>
+        <source>Oops...<byte value="xd"/>
+Fatal error in Zavoren.<byte value="xd"/>
+<byte value="xd"/>
+Do you want to get minidump for it?</source>
+        <translation>Vaya...<byte value="xd"/>
+Error fatal en Zavoren.<byte value="xd"/>
+<byte value="xd"/>
+¿Desea obtener un minidump?</translation>
+    </message>
+    <message>
+        <source>Unhandled Exception</source>
+        <translation>Excepción no controlada</translation>
+    </message>
+    <message>
+        <source>MiniDump</source>
+        <translation>MiniDump</translation>
+    </message>
+    <message>
+        <source>Minidump successfuly created in application folder.</source>
+        <translation>Minidump creado en la carpeta de la aplicación.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Unable to generate minidump.</source>
+        <translation>No se puede generar el minidump.</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayCanvas</name>
+    <message>
+        <source>Character</source>
+        <translation>Carácter</translation>
+    </message>
+    <message>
+        <source>Click to see the character written stroke by stroke</source>
+        <translation>Haga clic para ver el carácter escrito trazo a trazo</translation>
+    </message>
+</context>
+<context>
+    <name>DrawingTestPage</name>
+    <message>
+        <source>Drawing test</source>
+        <translation>Prueba de escritura</translation>
+    </message>
+    <message>
+        <source>Click to see the character written stroke by stroke</source>
+        <translation>Haga clic para ver el carácter escrito trazo a trazo</translation>
+    </message>
+    <message>
+        <source>ON reading:</source>
+        <translation>Lectura ON:</translation>
+    </message>
+    <message>
+        <source>KUN reading:</source>
+        <translation>Lectura KUN:</translation>
+    </message>
+    <message>
+        <source>Meaning:</source>
+        <translation>Significado:</translation>
+    </message>
+    <message>
+        <source>Write the character from its readings and meaning. Click the box on the left to see it (counts as a mistake before the drawing is complete).</source>
+        <translation>Escriba el carácter a partir de sus lecturas y su significado. Haga clic en el cuadro de la izquierda para verlo (cuenta como error antes de terminar el dibujo).</translation>
+    </message>
+</context>
+<context>
+    <name>FeedbackLine</name>
+    <message>
+        <source>Stroke feedback</source>
+        <translation>Comentario sobre el trazo</translation>
+    </message>
+</context>
+<context>
+    <name>HomePage</name>
+    <message>
+        <source>Home</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>User:</source>
+        <translation>Usuario:</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Nombre de usuario</translation>
+    </message>
+    <message>
+        <source>&amp;Categories:</source>
+        <translation>&amp;Categorías:</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Categoría</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Abrir</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Categorías</translation>
+    </message>
+    <message>
+        <source> (%1 of %2)</source>
+        <translation> (%1 de %2)</translation>
+    </message>
+</context>
+<context>
+    <name>InputCanvas</name>
+    <message>
+        <source>Writing canvas</source>
+        <translation>Área de escritura</translation>
+    </message>
+    <message>
+        <source>Write the character here with the mouse, one stroke at a time</source>
+        <translation>Escriba aquí el carácter con el ratón, un trazo cada vez</translation>
+    </message>
+</context>
+<context>
+    <name>KanjiInfoDialog</name>
+    <message>
+        <source> Kanji Info</source>
+        <translation> Información del kanji</translation>
+    </message>
+    <message>
+        <source>Click to see the character written stroke by stroke</source>
+        <translation>Haga clic para ver el carácter escrito trazo a trazo</translation>
+    </message>
+    <message>
+        <source>ON reading:</source>
+        <translation>Lectura ON:</translation>
+    </message>
+    <message>
+        <source>KUN reading:</source>
+        <translation>Lectura KUN:</translation>
+    </message>
+    <message>
+        <source>Meaning:</source>
+        <translation>Significado:</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>LessonPage</name>
+    <message>
+        <source>Lesson</source>
+        <translation>Lección</translation>
+    </message>
+    <message>
+        <source>Click to see the character written stroke by stroke</source>
+        <translation>Haga clic para ver el carácter escrito trazo a trazo</translation>
+    </message>
+    <message>
+        <source>The character to learn. Click it to watch it being written stroke by stroke.</source>
+        <translation>El carácter que aprender. Haga clic para verlo escrito trazo a trazo.</translation>
+    </message>
+    <message>
+        <source>ON reading</source>
+        <translation>Lectura ON</translation>
+    </message>
+    <message>
+        <source>KUN reading</source>
+        <translation>Lectura KUN</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>Significado</translation>
+    </message>
+    <message>
+        <source>Write the character here with the mouse, stroke by stroke in the right order. A stroke that does not match is wiped.</source>
+        <translation>Escriba aquí el carácter con el ratón, trazo a trazo en el orden correcto. Un trazo que no coincide se borra.</translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>&amp;Borrar</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Hint</source>
+        <translation>&amp;Pista</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Abandonar</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Siguiente</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>Users</source>
+        <translation>Usuarios</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Herramientas</translation>
+    </message>
+    <message>
+        <source>Progress…</source>
+        <translation>Progreso…</translation>
+    </message>
+    <message>
+        <source>Export learner…</source>
+        <translation>Exportar alumno…</translation>
+    </message>
+    <message>
+        <source>Import learner…</source>
+        <translation>Importar alumno…</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Preferencias…</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Contenido</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Enlaces</translation>
+    </message>
+    <message>
+        <source>Quelmar Software site</source>
+        <translation>Sitio de Quelmar Software</translation>
+    </message>
+    <message>
+        <source>Open Quelmar Software web site</source>
+        <translation>Abrir el sitio web de Quelmar Software</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>About Zavoren</source>
+        <translation>Acerca de Zavoren</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>The progress window cannot be opened: %1</source>
+        <translation>No se puede abrir la ventana de progreso: %1</translation>
+    </message>
+    <message>
+        <source>Export learner</source>
+        <translation>Exportar alumno</translation>
+    </message>
+    <message>
+        <source>Zavoren! learners (*.xml);;All files (*)</source>
+        <translation>Alumnos de Zavoren! (*.xml);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Import learner</source>
+        <translation>Importar alumno</translation>
+    </message>
+    <message>
+        <source>The learner could not be written to &quot;%1&quot;. Nothing was changed.</source>
+        <translation>No se pudo escribir el alumno en «%1». No se cambió nada.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read.</source>
+        <translation>No se puede leer el archivo «%1».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a learner exported by Zavoren!.</source>
+        <translation>«%1» no es un alumno exportado por Zavoren!.</translation>
+    </message>
+    <message>
+        <source>The learner file &quot;%1&quot; is damaged.</source>
+        <translation>El archivo de alumno «%1» está dañado.</translation>
+    </message>
+    <message>
+        <source>The learner file &quot;%1&quot; was written with a character database of %2 categories; this one has %3.</source>
+        <translation>El archivo de alumno «%1» se escribió con una base de caracteres de %2 categorías; esta tiene %3.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>No se importó nada.</translation>
+    </message>
+    <message>
+        <source>A learner named &quot;%1&quot; already exists. Replace their record with the imported one?
+
+Yes replaces it; No imports the learner under another name.</source>
+        <translation>Ya existe un alumno llamado «%1». ¿Sustituir su registro por el importado?
+
+Sí lo sustituye; No importa al alumno con otro nombre.</translation>
+    </message>
+</context>
+<context>
+    <name>Page</name>
+    <message>
+        <source>N/A</source>
+        <translation>N/D</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferencias</translation>
+    </message>
+    <message>
+        <source>Explain refused strokes</source>
+        <translation>Explicar los trazos rechazados</translation>
+    </message>
+    <message>
+        <source>Practice grid</source>
+        <translation>Cuadrícula de práctica</translation>
+    </message>
+    <message>
+        <source>Show where a stroke starts after three misses</source>
+        <translation>Mostrar dónde empieza un trazo tras tres fallos</translation>
+    </message>
+    <message>
+        <source>Bring the window onto the screen at start</source>
+        <translation>Traer la ventana a la pantalla al iniciar</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressWindow</name>
+    <message>
+        <source>Progress of %1</source>
+        <translation>Progreso de %1</translation>
+    </message>
+    <message>
+        <source>Category %1</source>
+        <translation>Categoría %1</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>&amp;Learned</source>
+        <translation>&amp;Aprendidos</translation>
+    </message>
+    <message>
+        <source>&amp;Tests</source>
+        <translation>&amp;Pruebas</translation>
+    </message>
+    <message>
+        <source>&amp;Categories</source>
+        <translation>&amp;Categorías</translation>
+    </message>
+    <message>
+        <source>T&amp;rouble characters</source>
+        <translation>Caracteres &amp;difíciles</translation>
+    </message>
+    <message>
+        <source>Category shown</source>
+        <translation>Categoría mostrada</translation>
+    </message>
+    <message>
+        <source>All categories</source>
+        <translation>Todas las categorías</translation>
+    </message>
+    <message>
+        <source>C&amp;ategory:</source>
+        <translation>C&amp;ategoría:</translation>
+    </message>
+    <message>
+        <source>Characters learned</source>
+        <translation>Caracteres aprendidos</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Characters</source>
+        <translation>Caracteres</translation>
+    </message>
+    <message>
+        <source>Characters learned over time</source>
+        <translation>Caracteres aprendidos a lo largo del tiempo</translation>
+    </message>
+    <message>
+        <source>Characters learned by %1: %2</source>
+        <translation>Caracteres aprendidos hasta el %1: %2</translation>
+    </message>
+    <message>
+        <source>Tests per week</source>
+        <translation>Pruebas por semana</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Superadas</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Falladas</translation>
+    </message>
+    <message>
+        <source>Week beginning</source>
+        <translation>Semana del</translation>
+    </message>
+    <message>
+        <source>Tests</source>
+        <translation>Pruebas</translation>
+    </message>
+    <message>
+        <source>Tests passed and failed per week</source>
+        <translation>Pruebas superadas y falladas por semana</translation>
+    </message>
+    <message>
+        <source>Progress in each category</source>
+        <translation>Progreso en cada categoría</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Categoría</translation>
+    </message>
+    <message>
+        <source>Learned</source>
+        <translation>Aprendidos</translation>
+    </message>
+    <message>
+        <source>Untested</source>
+        <translation>Sin probar</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Hecho</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 learned</source>
+        <translation>%1: %2 de %3 aprendidos</translation>
+    </message>
+    <message>
+        <source>Trouble characters, the most troubled first</source>
+        <translation>Caracteres difíciles, los más difíciles primero</translation>
+    </message>
+    <message>
+        <source>1 mistake</source>
+        <translation>1 error</translation>
+    </message>
+    <message>
+        <source>%1 mistakes</source>
+        <translation>%1 errores</translation>
+    </message>
+    <message>
+        <source>1 test failed</source>
+        <translation>1 prueba fallada</translation>
+    </message>
+    <message>
+        <source>%1 tests failed</source>
+        <translation>%1 pruebas falladas</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingTestPage</name>
+    <message>
+        <source>Reading test</source>
+        <translation>Prueba de lectura</translation>
+    </message>
+    <message>
+        <source>Click to see the character written stroke by stroke</source>
+        <translation>Haga clic para ver el carácter escrito trazo a trazo</translation>
+    </message>
+    <message>
+        <source>ON reading:</source>
+        <translation>Lectura ON:</translation>
+    </message>
+    <message>
+        <source>KUN reading:</source>
+        <translation>Lectura KUN:</translation>
+    </message>
+    <message>
+        <source>Meaning:</source>
+        <translation>Significado:</translation>
+    </message>
+    <message>
+        <source>Select ON reading</source>
+        <translation>Elija la lectura ON</translation>
+    </message>
+    <message>
+        <source>?</source>
+        <translation>?</translation>
+    </message>
+    <message>
+        <source>Select KUN reading</source>
+        <translation>Elija la lectura KUN</translation>
+    </message>
+</context>
+<context>
+    <name>SplashWindow</name>
+    <message>
+        <source>Zavoren! is starting</source>
+        <translation>Zavoren! se está iniciando</translation>
+    </message>
+    <message>
+        <source>Loading the characters</source>
+        <translation>Cargando los caracteres</translation>
+    </message>
+</context>
+<context>
+    <name>TestContainer</name>
+    <message>
+        <source>Test</source>
+        <translation>Prueba</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Abandonar</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Siguiente</translation>
+    </message>
+</context>
+<context>
+    <name>UserManagerDialog</name>
+    <message>
+        <source>User Manager</source>
+        <translation>Administrador de usuarios</translation>
+    </message>
+    <message>
+        <source>&amp;Users:</source>
+        <translation>&amp;Usuarios:</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Abrir</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Añadir</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Users</source>
+        <translation>Usuarios</translation>
+    </message>
+    <message>
+        <source>Delete User</source>
+        <translation>Eliminar usuario</translation>
+    </message>
+    <message>
+        <source>Delete current user?</source>
+        <translation>¿Eliminar el usuario actual?</translation>
+    </message>
+    <message>
+        <source>Delete user?</source>
+        <translation>¿Eliminar el usuario?</translation>
+    </message>
+</context>
+<context>
+    <name>WritingCoach</name>
+    <message>
+        <source>Wrong order: that is stroke %1. Write stroke %2 first.</source>
+        <translation>Orden equivocado: ese es el trazo %1. Escriba primero el trazo %2.</translation>
+    </message>
+    <message>
+        <source>Wrong direction: start this stroke from the other end.</source>
+        <translation>Dirección equivocada: empiece este trazo por el otro extremo.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further up.</source>
+        <translation>Lugar equivocado: este trazo va más arriba.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further down.</source>
+        <translation>Lugar equivocado: este trazo va más abajo.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further left.</source>
+        <translation>Lugar equivocado: este trazo va más a la izquierda.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further right.</source>
+        <translation>Lugar equivocado: este trazo va más a la derecha.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further up and to the left.</source>
+        <translation>Lugar equivocado: este trazo va más arriba y a la izquierda.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further up and to the right.</source>
+        <translation>Lugar equivocado: este trazo va más arriba y a la derecha.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further down and to the left.</source>
+        <translation>Lugar equivocado: este trazo va más abajo y a la izquierda.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further down and to the right.</source>
+        <translation>Lugar equivocado: este trazo va más abajo y a la derecha.</translation>
+    </message>
+    <message>
+        <source>Wrong place.</source>
+        <translation>Lugar equivocado.</translation>
+    </message>
+    <message>
+        <source>Too short: this stroke is longer.</source>
+        <translation>Demasiado corto: este trazo es más largo.</translation>
+    </message>
+    <message>
+        <source>Too long: this stroke is shorter.</source>
+        <translation>Demasiado largo: este trazo es más corto.</translation>
+    </message>
+    <message>
+        <source>Wrong shape: compare it with the model.</source>
+        <translation>Forma equivocada: compárela con el modelo.</translation>
+    </message>
+    <message>
+        <source>The character is already complete.</source>
+        <translation>El carácter ya está completo.</translation>
+    </message>
+</context>
+<context>
+    <name>ZavorenCommon</name>
+    <message>
+        <source>Zavoren Database Error</source>
+        <translation>Error de base de datos de Zavoren</translation>
+    </message>
+    <message>
+        <source>Zavoren Configuration Error</source>
+        <translation>Error de configuración de Zavoren</translation>
+    </message>
+    <message>
+        <source>Unable to open database</source>
+        <translation>No se puede abrir la base de datos</translation>
+    </message>
+    <message>
+        <source>Unable to read database header</source>
+        <translation>No se puede leer la cabecera de la base de datos</translation>
+    </message>
+    <message>
+        <source>Unable to read dictionary</source>
+        <translation>No se puede leer el diccionario</translation>
+    </message>
+    <message>
+        <source>Character id out of range</source>
+        <translation>Identificador de carácter fuera de rango</translation>
+    </message>
+    <message>
+        <source>Character does not exist</source>
+        <translation>El carácter no existe</translation>
+    </message>
+    <message>
+        <source>Unable to load character</source>
+        <translation>No se puede cargar el carácter</translation>
+    </message>
+    <message>
+        <source>Element id out of range</source>
+        <translation>Identificador de elemento fuera de rango</translation>
+    </message>
+    <message>
+        <source>Element does not exist</source>
+        <translation>El elemento no existe</translation>
+    </message>
+    <message>
+        <source>Unable to load element</source>
+        <translation>No se puede cargar el elemento</translation>
+    </message>
+    <message>
+        <source>No such category</source>
+        <translation>No existe esa categoría</translation>
+    </message>
+    <message>
+        <source>Unable to load category</source>
+        <translation>No se puede cargar la categoría</translation>
+    </message>
+    <message>
+        <source>Config file does not exist. Try to reinstall Zavoren.</source>
+        <translation>El archivo de configuración no existe. Intente reinstalar Zavoren.</translation>
+    </message>
+    <message>
+        <source>Config file is ReadOnly. Check file attirbutes or reinstall Zavoren.</source>
+        <translation>El archivo de configuración es de solo lectura. Compruebe sus atributos o reinstale Zavoren.</translation>
+    </message>
+    <message>
+        <source>Unable to load config</source>
+        <translation>No se puede cargar la configuración</translation>
+    </message>
+    <message>
+        <source>Unable to save config</source>
+        <translation>No se puede guardar la configuración</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,888 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About Zavoren!</source>
+        <translation>À propos de Zavoren!</translation>
+    </message>
+    <message>
+        <source>Zavoren! icon</source>
+        <translation>Icône de Zavoren!</translation>
+    </message>
+    <message>
+        <source>Zavoren! Kanji Learning Program</source>
+        <translation>Zavoren! Programme d’apprentissage des kanji</translation>
+    </message>
+    <message>
+        <source>Copyright © Quelmar Software. Teaches kanji by writing.</source>
+        <translation>Copyright © Quelmar Software. Enseigne les kanji par l’écriture.</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>Assistance</translation>
+    </message>
+    <message>
+        <source>Stroke data: KanjiVG, © Ulrich Apel, CC BY-SA 3.0.
+Readings and meanings: KANJIDIC2, © the Electronic Dictionary Research and Development Group, CC BY-SA 4.0.
+The character database is a derived work shared under CC BY-SA.</source>
+        <translation>Données des traits : KanjiVG, © Ulrich Apel, CC BY-SA 3.0.
+Lectures et sens : KANJIDIC2, © Electronic Dictionary Research and Development Group, CC BY-SA 4.0.
+La base de caractères est une œuvre dérivée partagée sous CC BY-SA.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>unknown version</source>
+        <translation>version inconnue</translation>
+    </message>
+</context>
+<context>
+    <name>AddUserDialog</name>
+    <message>
+        <source>Add New User</source>
+        <translation>Ajouter un utilisateur</translation>
+    </message>
+    <message>
+        <source>&amp;Enter user name:</source>
+        <translation>&amp;Nom de l’utilisateur :</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>A&amp;nnuler</translation>
+    </message>
+    <message>
+        <source>Can&apos;t create user</source>
+        <translation>Impossible de créer l’utilisateur</translation>
+    </message>
+    <message>
+        <source>A user name cannot contain an apostrophe (&apos;). Try another user name</source>
+        <translation>Un nom d’utilisateur ne peut pas contenir d’apostrophe (&apos;). Essayez un autre nom</translation>
+    </message>
+    <message>
+        <source>User already exists. Try another user name</source>
+        <translation>L’utilisateur existe déjà. Essayez un autre nom</translation>
+    </message>
+</context>
+<context>
+    <name>CategoryPage</name>
+    <message>
+        <source>Category</source>
+        <translation>Catégorie</translation>
+    </message>
+    <message>
+        <source>All characters of the category: those learned, and those still to be learned. Right-click a character for more.</source>
+        <translation>Tous les caractères de la catégorie : ceux appris et ceux à apprendre. Clic droit sur un caractère pour plus d’options.</translation>
+    </message>
+    <message>
+        <source>Untested:</source>
+        <translation>Non testés :</translation>
+    </message>
+    <message>
+        <source>Characters met in a lesson and waiting for a test.</source>
+        <translation>Caractères vus en leçon et en attente d’un test.</translation>
+    </message>
+    <message>
+        <source>&amp;Lesson</source>
+        <translation>&amp;Leçon</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>&amp;Test</translation>
+    </message>
+    <message>
+        <source>&amp;Retest</source>
+        <translation>&amp;Retester</translation>
+    </message>
+    <message>
+        <source>&amp;Forget</source>
+        <translation>&amp;Oublier</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Retour</translation>
+    </message>
+    <message>
+        <source>To learn characters press &apos;Lesson&apos; button and then test learned characters by pressing &apos;Test&apos; button.</source>
+        <translation>Pour apprendre des caractères, appuyez sur « Leçon », puis testez les caractères appris avec « Test ».</translation>
+    </message>
+    <message>
+        <source>Category complete</source>
+        <translation>Catégorie terminée</translation>
+    </message>
+    <message>
+        <source>Characters of the category</source>
+        <translation>Caractères de la catégorie</translation>
+    </message>
+    <message>
+        <source>Untested characters</source>
+        <translation>Caractères non testés</translation>
+    </message>
+    <message>
+        <source>Learned</source>
+        <translation>Appris</translation>
+    </message>
+    <message>
+        <source>&amp;Info</source>
+        <translation>&amp;Infos</translation>
+    </message>
+    <message>
+        <source>&amp;Review</source>
+        <translation>&amp;Réviser</translation>
+    </message>
+    <message>
+        <source>Unlearned</source>
+        <translation>Non appris</translation>
+    </message>
+    <message>
+        <source>&amp;Learn</source>
+        <translation>&amp;Apprendre</translation>
+    </message>
+    <message>
+        <source>Untested</source>
+        <translation>Non testés</translation>
+    </message>
+    <message>
+        <source>Learned Kanji</source>
+        <translation>Kanji appris</translation>
+    </message>
+    <message>
+        <source>Kanji to be Learned</source>
+        <translation>Kanji à apprendre</translation>
+    </message>
+</context>
+<context>
+    <name>CharacterGrid</name>
+    <message>
+        <source>Characters</source>
+        <translation>Caractères</translation>
+    </message>
+</context>
+<context>
+    <name>CrashHandler</name>
+    <message>
+        <source>Oops...<byte value="xd"/>
+Fatal error in Zavoren.<byte value="xd"/>
+<byte value="xd"/>
+Do you want to get minidump for it?</source>
+        <translation>Oups...<byte value="xd"/>
+Erreur fatale dans Zavoren.<byte value="xd"/>
+<byte value="xd"/>
+Voulez-vous en obtenir un minidump ?</translation>
+    </message>
+    <message>
+        <source>Unhandled Exception</source>
+        <translation>Exception non gérée</translation>
+    </message>
+    <message>
+        <source>MiniDump</source>
+        <translation>MiniDump</translation>
+    </message>
+    <message>
+        <source>Minidump successfuly created in application folder.</source>
+        <translation>Minidump créé dans le dossier de l’application.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Unable to generate minidump.</source>
+        <translation>Impossible de générer le minidump.</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayCanvas</name>
+    <message>
+        <source>Character</source>
+        <translation>Caractère</translation>
+    </message>
+    <message>
+        <source>Click to see the character written stroke by stroke</source>
+        <translation>Cliquez pour voir le caractère tracé trait par trait</translation>
+    </message>
+</context>
+<context>
+    <name>DrawingTestPage</name>
+    <message>
+        <source>Drawing test</source>
+        <translation>Test d’écriture</translation>
+    </message>
+    <message>
+        <source>Click to see the character written stroke by stroke</source>
+        <translation>Cliquez pour voir le caractère tracé trait par trait</translation>
+    </message>
+    <message>
+        <source>ON reading:</source>
+        <translation>Lecture ON :</translation>
+    </message>
+    <message>
+        <source>KUN reading:</source>
+        <translation>Lecture KUN :</translation>
+    </message>
+    <message>
+        <source>Meaning:</source>
+        <translation>Sens :</translation>
+    </message>
+    <message>
+        <source>Write the character from its readings and meaning. Click the box on the left to see it (counts as a mistake before the drawing is complete).</source>
+        <translation>Écrivez le caractère d’après ses lectures et son sens. Cliquez sur la case de gauche pour le voir (compte comme une erreur avant la fin du tracé).</translation>
+    </message>
+</context>
+<context>
+    <name>FeedbackLine</name>
+    <message>
+        <source>Stroke feedback</source>
+        <translation>Commentaire sur le trait</translation>
+    </message>
+</context>
+<context>
+    <name>HomePage</name>
+    <message>
+        <source>Home</source>
+        <translation>Accueil</translation>
+    </message>
+    <message>
+        <source>User:</source>
+        <translation>Utilisateur :</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Nom d’utilisateur</translation>
+    </message>
+    <message>
+        <source>&amp;Categories:</source>
+        <translation>&amp;Catégories :</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Catégorie</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Catégories</translation>
+    </message>
+    <message>
+        <source> (%1 of %2)</source>
+        <translation> (%1 sur %2)</translation>
+    </message>
+</context>
+<context>
+    <name>InputCanvas</name>
+    <message>
+        <source>Writing canvas</source>
+        <translation>Zone d’écriture</translation>
+    </message>
+    <message>
+        <source>Write the character here with the mouse, one stroke at a time</source>
+        <translation>Écrivez le caractère ici à la souris, un trait à la fois</translation>
+    </message>
+</context>
+<context>
+    <name>KanjiInfoDialog</name>
+    <message>
+        <source> Kanji Info</source>
+        <translation> Infos sur le kanji</translation>
+    </message>
+    <message>
+        <source>Click to see the character written stroke by stroke</source>
+        <translation>Cliquez pour voir le caractère tracé trait par trait</translation>
+    </message>
+    <message>
+        <source>ON reading:</source>
+        <translation>Lecture ON :</translation>
+    </message>
+    <message>
+        <source>KUN reading:</source>
+        <translation>Lecture KUN :</translation>
+    </message>
+    <message>
+        <source>Meaning:</source>
+        <translation>Sens :</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>LessonPage</name>
+    <message>
+        <source>Lesson</source>
+        <translation>Leçon</translation>
+    </message>
+    <message>
+        <source>Click to see the character written stroke by stroke</source>
+        <translation>Cliquez pour voir le caractère tracé trait par trait</translation>
+    </message>
+    <message>
+        <source>The character to learn. Click it to watch it being written stroke by stroke.</source>
+        <translation>Le caractère à apprendre. Cliquez dessus pour le voir tracé trait par trait.</translation>
+    </message>
+    <message>
+        <source>ON reading</source>
+        <translation>Lecture ON</translation>
+    </message>
+    <message>
+        <source>KUN reading</source>
+        <translation>Lecture KUN</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>Sens</translation>
+    </message>
+    <message>
+        <source>Write the character here with the mouse, stroke by stroke in the right order. A stroke that does not match is wiped.</source>
+        <translation>Écrivez le caractère ici à la souris, trait par trait dans le bon ordre. Un trait qui ne correspond pas est effacé.</translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>&amp;Effacer</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler le trait</translation>
+    </message>
+    <message>
+        <source>&amp;Hint</source>
+        <translation>&amp;Indice</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Abandonner</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Suivant</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>Users</source>
+        <translation>Utilisateurs</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Outils</translation>
+    </message>
+    <message>
+        <source>Progress…</source>
+        <translation>Progrès…</translation>
+    </message>
+    <message>
+        <source>Export learner…</source>
+        <translation>Exporter l’apprenant…</translation>
+    </message>
+    <message>
+        <source>Import learner…</source>
+        <translation>Importer un apprenant…</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Préférences…</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aide</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Sommaire</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Liens</translation>
+    </message>
+    <message>
+        <source>Quelmar Software site</source>
+        <translation>Site de Quelmar Software</translation>
+    </message>
+    <message>
+        <source>Open Quelmar Software web site</source>
+        <translation>Ouvrir le site de Quelmar Software</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>About Zavoren</source>
+        <translation>À propos de Zavoren</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progrès</translation>
+    </message>
+    <message>
+        <source>The progress window cannot be opened: %1</source>
+        <translation>La fenêtre des progrès ne peut pas s’ouvrir : %1</translation>
+    </message>
+    <message>
+        <source>Export learner</source>
+        <translation>Exporter l’apprenant</translation>
+    </message>
+    <message>
+        <source>Zavoren! learners (*.xml);;All files (*)</source>
+        <translation>Apprenants Zavoren! (*.xml);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Import learner</source>
+        <translation>Importer un apprenant</translation>
+    </message>
+    <message>
+        <source>The learner could not be written to &quot;%1&quot;. Nothing was changed.</source>
+        <translation>L’apprenant n’a pas pu être écrit dans « %1 ». Rien n’a été modifié.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read.</source>
+        <translation>Le fichier « %1 » ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a learner exported by Zavoren!.</source>
+        <translation>« %1 » n’est pas un apprenant exporté par Zavoren!.</translation>
+    </message>
+    <message>
+        <source>The learner file &quot;%1&quot; is damaged.</source>
+        <translation>Le fichier d’apprenant « %1 » est endommagé.</translation>
+    </message>
+    <message>
+        <source>The learner file &quot;%1&quot; was written with a character database of %2 categories; this one has %3.</source>
+        <translation>Le fichier d’apprenant « %1 » a été écrit avec une base de caractères de %2 catégories ; celle-ci en a %3.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Rien n’a été importé.</translation>
+    </message>
+    <message>
+        <source>A learner named &quot;%1&quot; already exists. Replace their record with the imported one?
+
+Yes replaces it; No imports the learner under another name.</source>
+        <translation>Un apprenant nommé « %1 » existe déjà. Remplacer son dossier par celui importé ?
+
+Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
+    </message>
+</context>
+<context>
+    <name>Page</name>
+    <message>
+        <source>N/A</source>
+        <translation>N/D</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Préférences</translation>
+    </message>
+    <message>
+        <source>Explain refused strokes</source>
+        <translation>Expliquer les traits refusés</translation>
+    </message>
+    <message>
+        <source>Practice grid</source>
+        <translation>Grille d’entraînement</translation>
+    </message>
+    <message>
+        <source>Show where a stroke starts after three misses</source>
+        <translation>Montrer où commence un trait après trois échecs</translation>
+    </message>
+    <message>
+        <source>Bring the window onto the screen at start</source>
+        <translation>Ramener la fenêtre sur l’écran au démarrage</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressWindow</name>
+    <message>
+        <source>Progress of %1</source>
+        <translation>Progrès de %1</translation>
+    </message>
+    <message>
+        <source>Category %1</source>
+        <translation>Catégorie %1</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progrès</translation>
+    </message>
+    <message>
+        <source>&amp;Learned</source>
+        <translation>&amp;Appris</translation>
+    </message>
+    <message>
+        <source>&amp;Tests</source>
+        <translation>&amp;Tests</translation>
+    </message>
+    <message>
+        <source>&amp;Categories</source>
+        <translation>&amp;Catégories</translation>
+    </message>
+    <message>
+        <source>T&amp;rouble characters</source>
+        <translation>Caractères &amp;difficiles</translation>
+    </message>
+    <message>
+        <source>Category shown</source>
+        <translation>Catégorie affichée</translation>
+    </message>
+    <message>
+        <source>All categories</source>
+        <translation>Toutes les catégories</translation>
+    </message>
+    <message>
+        <source>C&amp;ategory:</source>
+        <translation>C&amp;atégorie :</translation>
+    </message>
+    <message>
+        <source>Characters learned</source>
+        <translation>Caractères appris</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Characters</source>
+        <translation>Caractères</translation>
+    </message>
+    <message>
+        <source>Characters learned over time</source>
+        <translation>Caractères appris au fil du temps</translation>
+    </message>
+    <message>
+        <source>Characters learned by %1: %2</source>
+        <translation>Caractères appris au %1 : %2</translation>
+    </message>
+    <message>
+        <source>Tests per week</source>
+        <translation>Tests par semaine</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Réussis</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Échoués</translation>
+    </message>
+    <message>
+        <source>Week beginning</source>
+        <translation>Semaine du</translation>
+    </message>
+    <message>
+        <source>Tests</source>
+        <translation>Tests</translation>
+    </message>
+    <message>
+        <source>Tests passed and failed per week</source>
+        <translation>Tests réussis et échoués par semaine</translation>
+    </message>
+    <message>
+        <source>Progress in each category</source>
+        <translation>Progrès dans chaque catégorie</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Catégorie</translation>
+    </message>
+    <message>
+        <source>Learned</source>
+        <translation>Appris</translation>
+    </message>
+    <message>
+        <source>Untested</source>
+        <translation>Non testés</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fait</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 learned</source>
+        <translation>%1 : %2 sur %3 appris</translation>
+    </message>
+    <message>
+        <source>Trouble characters, the most troubled first</source>
+        <translation>Caractères difficiles, les plus difficiles d’abord</translation>
+    </message>
+    <message>
+        <source>1 mistake</source>
+        <translation>1 erreur</translation>
+    </message>
+    <message>
+        <source>%1 mistakes</source>
+        <translation>%1 erreurs</translation>
+    </message>
+    <message>
+        <source>1 test failed</source>
+        <translation>1 test échoué</translation>
+    </message>
+    <message>
+        <source>%1 tests failed</source>
+        <translation>%1 tests échoués</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingTestPage</name>
+    <message>
+        <source>Reading test</source>
+        <translation>Test de lecture</translation>
+    </message>
+    <message>
+        <source>Click to see the character written stroke by stroke</source>
+        <translation>Cliquez pour voir le caractère tracé trait par trait</translation>
+    </message>
+    <message>
+        <source>ON reading:</source>
+        <translation>Lecture ON :</translation>
+    </message>
+    <message>
+        <source>KUN reading:</source>
+        <translation>Lecture KUN :</translation>
+    </message>
+    <message>
+        <source>Meaning:</source>
+        <translation>Sens :</translation>
+    </message>
+    <message>
+        <source>Select ON reading</source>
+        <translation>Choisissez la lecture ON</translation>
+    </message>
+    <message>
+        <source>?</source>
+        <translation>?</translation>
+    </message>
+    <message>
+        <source>Select KUN reading</source>
+        <translation>Choisissez la lecture KUN</translation>
+    </message>
+</context>
+<context>
+    <name>SplashWindow</name>
+    <message>
+        <source>Zavoren! is starting</source>
+        <translation>Zavoren! démarre</translation>
+    </message>
+    <message>
+        <source>Loading the characters</source>
+        <translation>Chargement des caractères</translation>
+    </message>
+</context>
+<context>
+    <name>TestContainer</name>
+    <message>
+        <source>Test</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Abandonner</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Suivant</translation>
+    </message>
+</context>
+<context>
+    <name>UserManagerDialog</name>
+    <message>
+        <source>User Manager</source>
+        <translation>Gestion des utilisateurs</translation>
+    </message>
+    <message>
+        <source>&amp;Users:</source>
+        <translation>&amp;Utilisateurs :</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Ajouter</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>Users</source>
+        <translation>Utilisateurs</translation>
+    </message>
+    <message>
+        <source>Delete User</source>
+        <translation>Supprimer l’utilisateur</translation>
+    </message>
+    <message>
+        <source>Delete current user?</source>
+        <translation>Supprimer l’utilisateur actuel ?</translation>
+    </message>
+    <message>
+        <source>Delete user?</source>
+        <translation>Supprimer l’utilisateur ?</translation>
+    </message>
+</context>
+<context>
+    <name>WritingCoach</name>
+    <message>
+        <source>Wrong order: that is stroke %1. Write stroke %2 first.</source>
+        <translation>Mauvais ordre : c’est le trait %1. Écrivez d’abord le trait %2.</translation>
+    </message>
+    <message>
+        <source>Wrong direction: start this stroke from the other end.</source>
+        <translation>Mauvais sens : commencez ce trait par l’autre bout.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further up.</source>
+        <translation>Mauvais endroit : ce trait va plus haut.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further down.</source>
+        <translation>Mauvais endroit : ce trait va plus bas.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further left.</source>
+        <translation>Mauvais endroit : ce trait va plus à gauche.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further right.</source>
+        <translation>Mauvais endroit : ce trait va plus à droite.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further up and to the left.</source>
+        <translation>Mauvais endroit : ce trait va plus haut et plus à gauche.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further up and to the right.</source>
+        <translation>Mauvais endroit : ce trait va plus haut et plus à droite.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further down and to the left.</source>
+        <translation>Mauvais endroit : ce trait va plus bas et plus à gauche.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further down and to the right.</source>
+        <translation>Mauvais endroit : ce trait va plus bas et plus à droite.</translation>
+    </message>
+    <message>
+        <source>Wrong place.</source>
+        <translation>Mauvais endroit.</translation>
+    </message>
+    <message>
+        <source>Too short: this stroke is longer.</source>
+        <translation>Trop court : ce trait est plus long.</translation>
+    </message>
+    <message>
+        <source>Too long: this stroke is shorter.</source>
+        <translation>Trop long : ce trait est plus court.</translation>
+    </message>
+    <message>
+        <source>Wrong shape: compare it with the model.</source>
+        <translation>Mauvaise forme : comparez avec le modèle.</translation>
+    </message>
+    <message>
+        <source>The character is already complete.</source>
+        <translation>Le caractère est déjà complet.</translation>
+    </message>
+</context>
+<context>
+    <name>ZavorenCommon</name>
+    <message>
+        <source>Zavoren Database Error</source>
+        <translation>Erreur de base de données de Zavoren</translation>
+    </message>
+    <message>
+        <source>Zavoren Configuration Error</source>
+        <translation>Erreur de configuration de Zavoren</translation>
+    </message>
+    <message>
+        <source>Unable to open database</source>
+        <translation>Impossible d’ouvrir la base de données</translation>
+    </message>
+    <message>
+        <source>Unable to read database header</source>
+        <translation>Impossible de lire l’en-tête de la base de données</translation>
+    </message>
+    <message>
+        <source>Unable to read dictionary</source>
+        <translation>Impossible de lire le dictionnaire</translation>
+    </message>
+    <message>
+        <source>Character id out of range</source>
+        <translation>Identifiant de caractère hors limites</translation>
+    </message>
+    <message>
+        <source>Character does not exist</source>
+        <translation>Le caractère n’existe pas</translation>
+    </message>
+    <message>
+        <source>Unable to load character</source>
+        <translation>Impossible de charger le caractère</translation>
+    </message>
+    <message>
+        <source>Element id out of range</source>
+        <translation>Identifiant d’élément hors limites</translation>
+    </message>
+    <message>
+        <source>Element does not exist</source>
+        <translation>L’élément n’existe pas</translation>
+    </message>
+    <message>
+        <source>Unable to load element</source>
+        <translation>Impossible de charger l’élément</translation>
+    </message>
+    <message>
+        <source>No such category</source>
+        <translation>Catégorie inexistante</translation>
+    </message>
+    <message>
+        <source>Unable to load category</source>
+        <translation>Impossible de charger la catégorie</translation>
+    </message>
+    <message>
+        <source>Config file does not exist. Try to reinstall Zavoren.</source>
+        <translation>Le fichier de configuration n’existe pas. Essayez de réinstaller Zavoren.</translation>
+    </message>
+    <message>
+        <source>Config file is ReadOnly. Check file attirbutes or reinstall Zavoren.</source>
+        <translation>Le fichier de configuration est en lecture seule. Vérifiez ses attributs ou réinstallez Zavoren.</translation>
+    </message>
+    <message>
+        <source>Unable to load config</source>
+        <translation>Impossible de charger la configuration</translation>
+    </message>
+    <message>
+        <source>Unable to save config</source>
+        <translation>Impossible d’enregistrer la configuration</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,888 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru" sourcelanguage="en">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About Zavoren!</source>
+        <translation>О программе Zavoren!</translation>
+    </message>
+    <message>
+        <source>Zavoren! icon</source>
+        <translation>Значок Zavoren!</translation>
+    </message>
+    <message>
+        <source>Zavoren! Kanji Learning Program</source>
+        <translation>Zavoren! Программа для изучения кандзи</translation>
+    </message>
+    <message>
+        <source>Copyright © Quelmar Software. Teaches kanji by writing.</source>
+        <translation>© Quelmar Software. Учит кандзи через письмо.</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>Поддержка</translation>
+    </message>
+    <message>
+        <source>Stroke data: KanjiVG, © Ulrich Apel, CC BY-SA 3.0.
+Readings and meanings: KANJIDIC2, © the Electronic Dictionary Research and Development Group, CC BY-SA 4.0.
+The character database is a derived work shared under CC BY-SA.</source>
+        <translation>Данные о чертах: KanjiVG, © Ulrich Apel, CC BY-SA 3.0.
+Чтения и значения: KANJIDIC2, © Electronic Dictionary Research and Development Group, CC BY-SA 4.0.
+База знаков — производное произведение под лицензией CC BY-SA.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>unknown version</source>
+        <translation>неизвестная версия</translation>
+    </message>
+</context>
+<context>
+    <name>AddUserDialog</name>
+    <message>
+        <source>Add New User</source>
+        <translation>Новый пользователь</translation>
+    </message>
+    <message>
+        <source>&amp;Enter user name:</source>
+        <translation>&amp;Имя пользователя:</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;ОК</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Отмена</translation>
+    </message>
+    <message>
+        <source>Can&apos;t create user</source>
+        <translation>Не удаётся создать пользователя</translation>
+    </message>
+    <message>
+        <source>A user name cannot contain an apostrophe (&apos;). Try another user name</source>
+        <translation>Имя пользователя не может содержать апостроф (&apos;). Попробуйте другое имя</translation>
+    </message>
+    <message>
+        <source>User already exists. Try another user name</source>
+        <translation>Такой пользователь уже есть. Попробуйте другое имя</translation>
+    </message>
+</context>
+<context>
+    <name>CategoryPage</name>
+    <message>
+        <source>Category</source>
+        <translation>Категория</translation>
+    </message>
+    <message>
+        <source>All characters of the category: those learned, and those still to be learned. Right-click a character for more.</source>
+        <translation>Все знаки категории: выученные и те, что ещё предстоит выучить. Щёлкните знак правой кнопкой, чтобы увидеть больше.</translation>
+    </message>
+    <message>
+        <source>Untested:</source>
+        <translation>Непроверенные:</translation>
+    </message>
+    <message>
+        <source>Characters met in a lesson and waiting for a test.</source>
+        <translation>Знаки из уроков, ожидающие теста.</translation>
+    </message>
+    <message>
+        <source>&amp;Lesson</source>
+        <translation>&amp;Урок</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>&amp;Тест</translation>
+    </message>
+    <message>
+        <source>&amp;Retest</source>
+        <translation>&amp;Перепроверить</translation>
+    </message>
+    <message>
+        <source>&amp;Forget</source>
+        <translation>&amp;Забыть</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Назад</translation>
+    </message>
+    <message>
+        <source>To learn characters press &apos;Lesson&apos; button and then test learned characters by pressing &apos;Test&apos; button.</source>
+        <translation>Чтобы учить знаки, нажмите «Урок», а затем проверьте выученные знаки кнопкой «Тест».</translation>
+    </message>
+    <message>
+        <source>Category complete</source>
+        <translation>Категория пройдена</translation>
+    </message>
+    <message>
+        <source>Characters of the category</source>
+        <translation>Знаки категории</translation>
+    </message>
+    <message>
+        <source>Untested characters</source>
+        <translation>Непроверенные знаки</translation>
+    </message>
+    <message>
+        <source>Learned</source>
+        <translation>Выучено</translation>
+    </message>
+    <message>
+        <source>&amp;Info</source>
+        <translation>&amp;Сведения</translation>
+    </message>
+    <message>
+        <source>&amp;Review</source>
+        <translation>&amp;Повторить</translation>
+    </message>
+    <message>
+        <source>Unlearned</source>
+        <translation>Невыученные</translation>
+    </message>
+    <message>
+        <source>&amp;Learn</source>
+        <translation>&amp;Учить</translation>
+    </message>
+    <message>
+        <source>Untested</source>
+        <translation>Непроверенные</translation>
+    </message>
+    <message>
+        <source>Learned Kanji</source>
+        <translation>Выученные кандзи</translation>
+    </message>
+    <message>
+        <source>Kanji to be Learned</source>
+        <translation>Кандзи для изучения</translation>
+    </message>
+</context>
+<context>
+    <name>CharacterGrid</name>
+    <message>
+        <source>Characters</source>
+        <translation>Знаки</translation>
+    </message>
+</context>
+<context>
+    <name>CrashHandler</name>
+    <message>
+        <source>Oops...<byte value="xd"/>
+Fatal error in Zavoren.<byte value="xd"/>
+<byte value="xd"/>
+Do you want to get minidump for it?</source>
+        <translation>Ой...<byte value="xd"/>
+Критическая ошибка в Zavoren.<byte value="xd"/>
+<byte value="xd"/>
+Создать минидамп?</translation>
+    </message>
+    <message>
+        <source>Unhandled Exception</source>
+        <translation>Необработанное исключение</translation>
+    </message>
+    <message>
+        <source>MiniDump</source>
+        <translation>MiniDump</translation>
+    </message>
+    <message>
+        <source>Minidump successfuly created in application folder.</source>
+        <translation>Минидамп создан в папке программы.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Ошибка</translation>
+    </message>
+    <message>
+        <source>Unable to generate minidump.</source>
+        <translation>Не удаётся создать минидамп.</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayCanvas</name>
+    <message>
+        <source>Character</source>
+        <translation>Знак</translation>
+    </message>
+    <message>
+        <source>Click to see the character written stroke by stroke</source>
+        <translation>Щёлкните, чтобы увидеть написание знака черта за чертой</translation>
+    </message>
+</context>
+<context>
+    <name>DrawingTestPage</name>
+    <message>
+        <source>Drawing test</source>
+        <translation>Тест написания</translation>
+    </message>
+    <message>
+        <source>Click to see the character written stroke by stroke</source>
+        <translation>Щёлкните, чтобы увидеть написание знака черта за чертой</translation>
+    </message>
+    <message>
+        <source>ON reading:</source>
+        <translation>Чтение ОН:</translation>
+    </message>
+    <message>
+        <source>KUN reading:</source>
+        <translation>Чтение КУН:</translation>
+    </message>
+    <message>
+        <source>Meaning:</source>
+        <translation>Значение:</translation>
+    </message>
+    <message>
+        <source>Write the character from its readings and meaning. Click the box on the left to see it (counts as a mistake before the drawing is complete).</source>
+        <translation>Напишите знак по его чтениям и значению. Щелчок по левому полю покажет его (до окончания рисунка считается ошибкой).</translation>
+    </message>
+</context>
+<context>
+    <name>FeedbackLine</name>
+    <message>
+        <source>Stroke feedback</source>
+        <translation>Отзыв о черте</translation>
+    </message>
+</context>
+<context>
+    <name>HomePage</name>
+    <message>
+        <source>Home</source>
+        <translation>Главная</translation>
+    </message>
+    <message>
+        <source>User:</source>
+        <translation>Пользователь:</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Имя пользователя</translation>
+    </message>
+    <message>
+        <source>&amp;Categories:</source>
+        <translation>&amp;Категории:</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Категория</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Открыть</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Категории</translation>
+    </message>
+    <message>
+        <source> (%1 of %2)</source>
+        <translation> (%1 из %2)</translation>
+    </message>
+</context>
+<context>
+    <name>InputCanvas</name>
+    <message>
+        <source>Writing canvas</source>
+        <translation>Поле для письма</translation>
+    </message>
+    <message>
+        <source>Write the character here with the mouse, one stroke at a time</source>
+        <translation>Пишите знак здесь мышью, по одной черте</translation>
+    </message>
+</context>
+<context>
+    <name>KanjiInfoDialog</name>
+    <message>
+        <source> Kanji Info</source>
+        <translation> Сведения о кандзи</translation>
+    </message>
+    <message>
+        <source>Click to see the character written stroke by stroke</source>
+        <translation>Щёлкните, чтобы увидеть написание знака черта за чертой</translation>
+    </message>
+    <message>
+        <source>ON reading:</source>
+        <translation>Чтение ОН:</translation>
+    </message>
+    <message>
+        <source>KUN reading:</source>
+        <translation>Чтение КУН:</translation>
+    </message>
+    <message>
+        <source>Meaning:</source>
+        <translation>Значение:</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>LessonPage</name>
+    <message>
+        <source>Lesson</source>
+        <translation>Урок</translation>
+    </message>
+    <message>
+        <source>Click to see the character written stroke by stroke</source>
+        <translation>Щёлкните, чтобы увидеть написание знака черта за чертой</translation>
+    </message>
+    <message>
+        <source>The character to learn. Click it to watch it being written stroke by stroke.</source>
+        <translation>Знак для изучения. Щёлкните, чтобы увидеть его написание черта за чертой.</translation>
+    </message>
+    <message>
+        <source>ON reading</source>
+        <translation>Чтение ОН</translation>
+    </message>
+    <message>
+        <source>KUN reading</source>
+        <translation>Чтение КУН</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>Значение</translation>
+    </message>
+    <message>
+        <source>Write the character here with the mouse, stroke by stroke in the right order. A stroke that does not match is wiped.</source>
+        <translation>Пишите знак здесь мышью, черта за чертой в правильном порядке. Неподходящая черта стирается.</translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>&amp;Очистить</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Отменить</translation>
+    </message>
+    <message>
+        <source>&amp;Hint</source>
+        <translation>&amp;Подсказка</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Прервать</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Далее</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Файл</translation>
+    </message>
+    <message>
+        <source>Users</source>
+        <translation>Пользователи</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Выход</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Сервис</translation>
+    </message>
+    <message>
+        <source>Progress…</source>
+        <translation>Успехи…</translation>
+    </message>
+    <message>
+        <source>Export learner…</source>
+        <translation>Экспортировать ученика…</translation>
+    </message>
+    <message>
+        <source>Import learner…</source>
+        <translation>Импортировать ученика…</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Настройки…</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Справка</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Содержание</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Ссылки</translation>
+    </message>
+    <message>
+        <source>Quelmar Software site</source>
+        <translation>Сайт Quelmar Software</translation>
+    </message>
+    <message>
+        <source>Open Quelmar Software web site</source>
+        <translation>Открыть сайт Quelmar Software</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>О программе</translation>
+    </message>
+    <message>
+        <source>About Zavoren</source>
+        <translation>О программе Zavoren</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Успехи</translation>
+    </message>
+    <message>
+        <source>The progress window cannot be opened: %1</source>
+        <translation>Не удаётся открыть окно успехов: %1</translation>
+    </message>
+    <message>
+        <source>Export learner</source>
+        <translation>Экспорт ученика</translation>
+    </message>
+    <message>
+        <source>Zavoren! learners (*.xml);;All files (*)</source>
+        <translation>Ученики Zavoren! (*.xml);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>Import learner</source>
+        <translation>Импорт ученика</translation>
+    </message>
+    <message>
+        <source>The learner could not be written to &quot;%1&quot;. Nothing was changed.</source>
+        <translation>Не удалось записать ученика в «%1». Ничего не изменено.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read.</source>
+        <translation>Не удаётся прочитать файл «%1».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a learner exported by Zavoren!.</source>
+        <translation>«%1» — это не ученик, экспортированный из Zavoren!.</translation>
+    </message>
+    <message>
+        <source>The learner file &quot;%1&quot; is damaged.</source>
+        <translation>Файл ученика «%1» повреждён.</translation>
+    </message>
+    <message>
+        <source>The learner file &quot;%1&quot; was written with a character database of %2 categories; this one has %3.</source>
+        <translation>Файл ученика «%1» записан с базой знаков из %2 категорий, а в этой их %3.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Ничего не импортировано.</translation>
+    </message>
+    <message>
+        <source>A learner named &quot;%1&quot; already exists. Replace their record with the imported one?
+
+Yes replaces it; No imports the learner under another name.</source>
+        <translation>Ученик с именем «%1» уже есть. Заменить его данные импортированными?
+
+«Да» заменяет; «Нет» импортирует ученика под другим именем.</translation>
+    </message>
+</context>
+<context>
+    <name>Page</name>
+    <message>
+        <source>N/A</source>
+        <translation>н/д</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>Explain refused strokes</source>
+        <translation>Объяснять отклонённые черты</translation>
+    </message>
+    <message>
+        <source>Practice grid</source>
+        <translation>Разметка для письма</translation>
+    </message>
+    <message>
+        <source>Show where a stroke starts after three misses</source>
+        <translation>Показывать начало черты после трёх промахов</translation>
+    </message>
+    <message>
+        <source>Bring the window onto the screen at start</source>
+        <translation>Возвращать окно на экран при запуске</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressWindow</name>
+    <message>
+        <source>Progress of %1</source>
+        <translation>Успехи: %1</translation>
+    </message>
+    <message>
+        <source>Category %1</source>
+        <translation>Категория %1</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Успехи</translation>
+    </message>
+    <message>
+        <source>&amp;Learned</source>
+        <translation>&amp;Выучено</translation>
+    </message>
+    <message>
+        <source>&amp;Tests</source>
+        <translation>&amp;Тесты</translation>
+    </message>
+    <message>
+        <source>&amp;Categories</source>
+        <translation>&amp;Категории</translation>
+    </message>
+    <message>
+        <source>T&amp;rouble characters</source>
+        <translation>&amp;Трудные знаки</translation>
+    </message>
+    <message>
+        <source>Category shown</source>
+        <translation>Показанная категория</translation>
+    </message>
+    <message>
+        <source>All categories</source>
+        <translation>Все категории</translation>
+    </message>
+    <message>
+        <source>C&amp;ategory:</source>
+        <translation>К&amp;атегория:</translation>
+    </message>
+    <message>
+        <source>Characters learned</source>
+        <translation>Выученные знаки</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Дата</translation>
+    </message>
+    <message>
+        <source>Characters</source>
+        <translation>Знаки</translation>
+    </message>
+    <message>
+        <source>Characters learned over time</source>
+        <translation>Выученные знаки по времени</translation>
+    </message>
+    <message>
+        <source>Characters learned by %1: %2</source>
+        <translation>Выучено знаков к %1: %2</translation>
+    </message>
+    <message>
+        <source>Tests per week</source>
+        <translation>Тесты по неделям</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Сдано</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Не сдано</translation>
+    </message>
+    <message>
+        <source>Week beginning</source>
+        <translation>Неделя с</translation>
+    </message>
+    <message>
+        <source>Tests</source>
+        <translation>Тесты</translation>
+    </message>
+    <message>
+        <source>Tests passed and failed per week</source>
+        <translation>Сданные и несданные тесты по неделям</translation>
+    </message>
+    <message>
+        <source>Progress in each category</source>
+        <translation>Успехи по категориям</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Категория</translation>
+    </message>
+    <message>
+        <source>Learned</source>
+        <translation>Выучено</translation>
+    </message>
+    <message>
+        <source>Untested</source>
+        <translation>Непроверенные</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Всего</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Готово</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 learned</source>
+        <translation>%1: выучено %2 из %3</translation>
+    </message>
+    <message>
+        <source>Trouble characters, the most troubled first</source>
+        <translation>Трудные знаки, самые трудные первыми</translation>
+    </message>
+    <message>
+        <source>1 mistake</source>
+        <translation>1 ошибка</translation>
+    </message>
+    <message>
+        <source>%1 mistakes</source>
+        <translation>ошибок: %1</translation>
+    </message>
+    <message>
+        <source>1 test failed</source>
+        <translation>не сдан 1 тест</translation>
+    </message>
+    <message>
+        <source>%1 tests failed</source>
+        <translation>не сдано тестов: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingTestPage</name>
+    <message>
+        <source>Reading test</source>
+        <translation>Тест чтений</translation>
+    </message>
+    <message>
+        <source>Click to see the character written stroke by stroke</source>
+        <translation>Щёлкните, чтобы увидеть написание знака черта за чертой</translation>
+    </message>
+    <message>
+        <source>ON reading:</source>
+        <translation>Чтение ОН:</translation>
+    </message>
+    <message>
+        <source>KUN reading:</source>
+        <translation>Чтение КУН:</translation>
+    </message>
+    <message>
+        <source>Meaning:</source>
+        <translation>Значение:</translation>
+    </message>
+    <message>
+        <source>Select ON reading</source>
+        <translation>Выберите чтение ОН</translation>
+    </message>
+    <message>
+        <source>?</source>
+        <translation>?</translation>
+    </message>
+    <message>
+        <source>Select KUN reading</source>
+        <translation>Выберите чтение КУН</translation>
+    </message>
+</context>
+<context>
+    <name>SplashWindow</name>
+    <message>
+        <source>Zavoren! is starting</source>
+        <translation>Zavoren! запускается</translation>
+    </message>
+    <message>
+        <source>Loading the characters</source>
+        <translation>Загрузка знаков</translation>
+    </message>
+</context>
+<context>
+    <name>TestContainer</name>
+    <message>
+        <source>Test</source>
+        <translation>Тест</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Прервать</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Далее</translation>
+    </message>
+</context>
+<context>
+    <name>UserManagerDialog</name>
+    <message>
+        <source>User Manager</source>
+        <translation>Пользователи</translation>
+    </message>
+    <message>
+        <source>&amp;Users:</source>
+        <translation>&amp;Пользователи:</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Открыть</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Добавить</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Удалить</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Закрыть</translation>
+    </message>
+    <message>
+        <source>Users</source>
+        <translation>Пользователи</translation>
+    </message>
+    <message>
+        <source>Delete User</source>
+        <translation>Удаление пользователя</translation>
+    </message>
+    <message>
+        <source>Delete current user?</source>
+        <translation>Удалить текущего пользователя?</translation>
+    </message>
+    <message>
+        <source>Delete user?</source>
+        <translation>Удалить пользователя?</translation>
+    </message>
+</context>
+<context>
+    <name>WritingCoach</name>
+    <message>
+        <source>Wrong order: that is stroke %1. Write stroke %2 first.</source>
+        <translation>Неверный порядок: это черта %1. Сначала напишите черту %2.</translation>
+    </message>
+    <message>
+        <source>Wrong direction: start this stroke from the other end.</source>
+        <translation>Неверное направление: начните эту черту с другого конца.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further up.</source>
+        <translation>Не то место: эта черта выше.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further down.</source>
+        <translation>Не то место: эта черта ниже.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further left.</source>
+        <translation>Не то место: эта черта левее.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further right.</source>
+        <translation>Не то место: эта черта правее.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further up and to the left.</source>
+        <translation>Не то место: эта черта выше и левее.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further up and to the right.</source>
+        <translation>Не то место: эта черта выше и правее.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further down and to the left.</source>
+        <translation>Не то место: эта черта ниже и левее.</translation>
+    </message>
+    <message>
+        <source>Wrong place: this stroke belongs further down and to the right.</source>
+        <translation>Не то место: эта черта ниже и правее.</translation>
+    </message>
+    <message>
+        <source>Wrong place.</source>
+        <translation>Не то место.</translation>
+    </message>
+    <message>
+        <source>Too short: this stroke is longer.</source>
+        <translation>Слишком коротко: эта черта длиннее.</translation>
+    </message>
+    <message>
+        <source>Too long: this stroke is shorter.</source>
+        <translation>Слишком длинно: эта черта короче.</translation>
+    </message>
+    <message>
+        <source>Wrong shape: compare it with the model.</source>
+        <translation>Неверная форма: сравните с образцом.</translation>
+    </message>
+    <message>
+        <source>The character is already complete.</source>
+        <translation>Знак уже написан полностью.</translation>
+    </message>
+</context>
+<context>
+    <name>ZavorenCommon</name>
+    <message>
+        <source>Zavoren Database Error</source>
+        <translation>Ошибка базы данных Zavoren</translation>
+    </message>
+    <message>
+        <source>Zavoren Configuration Error</source>
+        <translation>Ошибка конфигурации Zavoren</translation>
+    </message>
+    <message>
+        <source>Unable to open database</source>
+        <translation>Не удаётся открыть базу данных</translation>
+    </message>
+    <message>
+        <source>Unable to read database header</source>
+        <translation>Не удаётся прочитать заголовок базы данных</translation>
+    </message>
+    <message>
+        <source>Unable to read dictionary</source>
+        <translation>Не удаётся прочитать словарь</translation>
+    </message>
+    <message>
+        <source>Character id out of range</source>
+        <translation>Номер знака вне диапазона</translation>
+    </message>
+    <message>
+        <source>Character does not exist</source>
+        <translation>Знак не существует</translation>
+    </message>
+    <message>
+        <source>Unable to load character</source>
+        <translation>Не удаётся загрузить знак</translation>
+    </message>
+    <message>
+        <source>Element id out of range</source>
+        <translation>Номер элемента вне диапазона</translation>
+    </message>
+    <message>
+        <source>Element does not exist</source>
+        <translation>Элемент не существует</translation>
+    </message>
+    <message>
+        <source>Unable to load element</source>
+        <translation>Не удаётся загрузить элемент</translation>
+    </message>
+    <message>
+        <source>No such category</source>
+        <translation>Нет такой категории</translation>
+    </message>
+    <message>
+        <source>Unable to load category</source>
+        <translation>Не удаётся загрузить категорию</translation>
+    </message>
+    <message>
+        <source>Config file does not exist. Try to reinstall Zavoren.</source>
+        <translation>Файл конфигурации не существует. Попробуйте переустановить Zavoren.</translation>
+    </message>
+    <message>
+        <source>Config file is ReadOnly. Check file attirbutes or reinstall Zavoren.</source>
+        <translation>Файл конфигурации доступен только для чтения. Проверьте атрибуты файла или переустановите Zavoren.</translation>
+    </message>
+    <message>
+        <source>Unable to load config</source>
+        <translation>Не удаётся загрузить конфигурацию</translation>
+    </message>
+    <message>
+        <source>Unable to save config</source>
+        <translation>Не удаётся сохранить конфигурацию</translation>
+    </message>
+</context>
+</TS>
