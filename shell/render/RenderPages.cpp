@@ -4,7 +4,8 @@
 // parts of the progress window.
 //   render_pages DATABASE OUTPUT_FOLDER [--dark]
 // Run with QT_QPA_PLATFORM=offscreen, and QT_SCALE_FACTOR=2 for a device pixel ratio of 2;
-// render_all.sh beside this file renders every page at ratios 1 and 2, light and dark.
+// render_all.sh beside this file renders every page at ratios 1 and 2, light and dark; with
+// LANGUAGE=fr (or another language) set, in that language.
 
 #include "AboutDialog.h"
 #include "CategoryPage.h"
@@ -19,6 +20,7 @@
 #include "ProgressWindow.h"
 #include "ReadingTestPage.h"
 #include "TestContainer.h"
+#include "Translations.h"
 #include "User.h"
 #include "UserManagerDialog.h"
 #include "XmlConfigStore.h"
@@ -94,6 +96,8 @@ void Write(InputCanvas* canvas, const Form& glyph, std::uint16_t stroke, float s
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
+    // In the language of the environment, as the program starts: LANGUAGE=fr renders in French.
+    InstallTranslations(app, QLocale::system());
     if (argc < 3) {
         std::fprintf(stderr, "usage: render_pages DATABASE OUTPUT_FOLDER [--dark]\n");
         return 2;

@@ -27,6 +27,28 @@ folder=$XDG_DATA_HOME/zavoren
 grep -q '<Users/>' "$folder/config.xml" || { echo "config.xml not prepared"; exit 1; }
 [ -L "$folder/database" ] && [ -L "$folder/Zavoren.html" ] || { echo "database or help not linked"; exit 1; }
 
+# The meanings follow the learner's language; English where there is no database for it.
+for language in fr es pt; do
+    [ -f "$prefix/share/zavoren/database-$language" ] || { echo "missing database-$language"; exit 1; }
+done
+LANGUAGE=fr "$prefix/bin/zavoren" --prepare
+[ "$(readlink "$folder/database")" = "$prefix/share/zavoren/database-fr" ] || { echo "no French database: $(readlink "$folder/database")"; exit 1; }
+LANGUAGE= LC_ALL= LC_MESSAGES= LANG=pt_BR.UTF-8 "$prefix/bin/zavoren" --prepare
+[ "$(readlink "$folder/database")" = "$prefix/share/zavoren/database-pt" ] || { echo "no Portuguese database"; exit 1; }
+LANGUAGE=de "$prefix/bin/zavoren" --prepare
+[ "$(readlink "$folder/database")" = "$prefix/share/zavoren/database" ] || { echo "no English database for German"; exit 1; }
+# A database the learner placed there stays, as a file or as a link of their own.
+cp "$prefix/share/zavoren/database-es" "$work/mine"
+ln -sfn "$work/mine" "$folder/database"
+LANGUAGE=fr "$prefix/bin/zavoren" --prepare
+[ "$(readlink "$folder/database")" = "$work/mine" ] || { echo "the learner's database link was replaced"; exit 1; }
+rm "$folder/database"
+cp "$work/mine" "$folder/database"
+LANGUAGE=fr "$prefix/bin/zavoren" --prepare
+[ -f "$folder/database" ] && [ ! -L "$folder/database" ] || { echo "the learner's database was replaced"; exit 1; }
+rm "$folder/database"
+"$prefix/bin/zavoren" --prepare
+
 # An existing learner file is never overwritten.
 printf '<Zavoren><Users currentUser="Anna"><User name="Anna"/></Users></Zavoren>' > "$folder/config.xml"
 "$prefix/bin/zavoren" --prepare

@@ -89,6 +89,7 @@ std::map<char32_t, KanjiDicEntry> ReadKanjiDic(const std::string& path, const st
         entry.grade = ToInt(misc.child_value("grade"));
         entry.strokeCount = ToInt(misc.child_value("stroke_count"));
         entry.frequency = ToInt(misc.child_value("freq"));
+        std::vector<std::string> englishMeanings;
         for (pugi::xml_node group : node.child("reading_meaning").children("rmgroup")) {
             for (pugi::xml_node reading : group.children("reading")) {
                 const std::string type = reading.attribute("r_type").value();
@@ -99,12 +100,16 @@ std::map<char32_t, KanjiDicEntry> ReadKanjiDic(const std::string& path, const st
             }
             for (pugi::xml_node meaning : group.children("meaning")) {
                 const pugi::xml_attribute lang = meaning.attribute("m_lang");
-                const bool wanted
-                    = language == "en" ? !lang || std::string(lang.value()) == "en" : lang && language == lang.value();
-                if (wanted)
+                const bool english = !lang || std::string(lang.value()) == "en";
+                if (language == "en" ? english : lang && language == lang.value())
                     entry.meanings.emplace_back(meaning.child_value());
+                else if (english)
+                    englishMeanings.emplace_back(meaning.child_value());
             }
         }
+        // A character without a meaning in the language keeps its English one: better than none.
+        if (entry.meanings.empty())
+            entry.meanings = std::move(englishMeanings);
         entries[entry.codePoint] = std::move(entry);
     }
     return entries;

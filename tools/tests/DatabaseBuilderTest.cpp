@@ -66,6 +66,9 @@ TEST(KanjiDic, ReadsGzippedAndPlainAlike)
     EXPECT_EQ(water.kunReadings, (std::vector<std::string>{"みず", "みず-"}));
     EXPECT_EQ(water.meanings, std::vector<std::string>{"water"});
     EXPECT_EQ(ReadKanjiDic(Data + "/kanjidic2-sample.xml", "fr").at(U'水').meanings, std::vector<std::string>{"eau"});
+    // Without a French meaning, the English one.
+    EXPECT_EQ(ReadKanjiDic(Data + "/kanjidic2-sample.xml", "fr").at(U'右').meanings, std::vector<std::string>{"right"});
+    EXPECT_TRUE(ReadKanjiDic(Data + "/kanjidic2-sample.xml", "fr").at(U'二').meanings.empty());
     EXPECT_THROW(ReadKanjiDic(Data + "/missing.xml", "en"), KanjiDicError);
     EXPECT_THROW(ReadKanjiDic(Data + "/kanjivg/04e00.svg", "en"), KanjiDicError);
 }

@@ -1,0 +1,97 @@
+// The databases with meanings in other languages hold the same characters, categories and
+// readings as the English one, so that a learner's progress stays valid whichever is linked.
+
+#include "FileCharacterDatabase.h"
+#include "XmlConfigStore.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::vector<std::string> LanguageDatabases()
+{
+    std::vector<std::string> paths;
+    std::stringstream list(ZAVOREN_LANGUAGE_DATABASES);
+    for (std::string path; std::getline(list, path, '|');)
+        paths.push_back(path);
+    return paths;
+}
+
+std::string Text(const char* text)
+{
+    return text ? text : "";
+}
+
+TEST(LanguageDatabases, HoldTheSameCharactersAndReadings)
+{
+    FileCharacterDatabase english(ZAVOREN_STANDARD_DATABASE);
+    english.Preload(nullptr);
+    const auto paths = LanguageDatabases();
+    ASSERT_EQ(paths.size(), 3u); // French, Spanish, Portuguese
+    for (const std::string& path : paths) {
+        SCOPED_TRACE(path);
+        FileCharacterDatabase other(path);
+        other.Preload(nullptr);
+        ASSERT_EQ(other.CharacterCount(), english.CharacterCount());
+        ASSERT_EQ(other.CategoryCount(), english.CategoryCount());
+        for (std::uint16_t c = 0; c < english.CategoryCount(); ++c)
+            EXPECT_EQ(other.LoadCategory(c)->Characters(), english.LoadCategory(c)->Characters());
+        int otherMeanings = 0;
+        for (std::uint16_t id = 0; id < english.CharacterCount(); ++id) {
+            const auto a = english.LoadCharacter(id);
+            const auto b = other.LoadCharacter(id);
+            ASSERT_EQ(Text(a->OnReading()), Text(b->OnReading())) << id;
+            ASSERT_EQ(Text(a->KunReading()), Text(b->KunReading())) << id;
+            ASSERT_EQ(a->ElementId(), b->ElementId());
+            otherMeanings += Text(a->Meaning()) != Text(b->Meaning()) ? 1 : 0;
+        }
+        EXPECT_GT(otherMeanings, 1000); // the meanings are in the other language
+    }
+}
+
+TEST(LanguageDatabases, ALearnersProgressOpensWithEveryDatabase)
+{
+    const fs::path dir = fs::temp_directory_path() / ("language-databases-" + std::to_string(::getpid()));
+    fs::create_directories(dir);
+    const fs::path config = dir / "config.xml";
+    std::ofstream(config) << "<?xml version=\"1.0\"?>\n<Zavoren><Users/></Zavoren>\n";
+    std::vector<std::uint16_t> learned, untested;
+    {
+        FileCharacterDatabase english(ZAVOREN_STANDARD_DATABASE);
+        english.Preload(nullptr);
+        XmlConfigStore store(config.string(), english);
+        ASSERT_TRUE(store.AddUser("Anna"));
+        auto anna = store.LoadUser("Anna");
+        learned = english.LoadCategory(0)->Characters();
+        learned.resize(10);
+        untested = english.LoadCategory(6)->Characters();
+        untested.resize(3);
+        for (std::uint16_t id : learned)
+            anna->GetProgress(0).AddLearned(id);
+        for (std::uint16_t id : untested)
+            anna->GetProgress(6).AddUntested(id);
+        ASSERT_TRUE(store.SaveUser(*anna));
+    }
+    for (const std::string& path : LanguageDatabases()) {
+        SCOPED_TRACE(path);
+        FileCharacterDatabase other(path);
+        other.Preload(nullptr);
+        XmlConfigStore store(config.string(), other);
+        auto anna = store.LoadUser("Anna");
+        ASSERT_TRUE(anna);
+        EXPECT_EQ(anna->GetProgress(0).Learned(), learned);
+        EXPECT_EQ(anna->GetProgress(6).Untested(), untested);
+        for (std::uint16_t id : learned)
+            EXPECT_TRUE(other.CharacterExists(id));
+        EXPECT_TRUE(store.SaveUser(*anna));
+    }
+    fs::remove_all(dir);
+}
+
+} // namespace
