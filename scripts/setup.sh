@@ -16,6 +16,7 @@ packages=(
     fonts-ipafont-gothic kanjidic-xml
     clang libclang-rt-14-dev
     xvfb xauth
+    lintian desktop-file-utils appstream
 )
 
 as_root() {

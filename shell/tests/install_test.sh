@@ -8,7 +8,9 @@ prefix=$work/prefix
 cmake --install "$build" --prefix "$prefix" > "$work/install.log"
 
 for f in bin/zavoren bin/zavoren-db libexec/zavoren/zavoren libexec/zavoren/zavoren-progress.so share/zavoren/database share/zavoren/Zavoren.html \
-         share/applications/zavoren.desktop share/icons/hicolor/64x64/apps/zavoren.png; do
+         share/applications/io.github.zavoren.Zavoren.desktop share/metainfo/io.github.zavoren.Zavoren.metainfo.xml \
+         share/icons/hicolor/64x64/apps/io.github.zavoren.Zavoren.png share/icons/hicolor/scalable/apps/io.github.zavoren.Zavoren.svg \
+         share/man/man1/zavoren.1.gz share/man/man1/zavoren-db.1.gz share/doc/zavoren/copyright share/doc/zavoren/changelog.gz; do
     [ -e "$prefix/$f" ] || { echo "missing after install: $f"; exit 1; }
 done
 "$prefix/bin/zavoren-db" info "$prefix/share/zavoren/database" > /dev/null
