@@ -10,6 +10,7 @@ ProgressViewFactory* LoadProgressModule(QString& error)
     QObject* instance = loader.instance();
     auto* factory = qobject_cast<ProgressViewFactory*>(instance);
     if (!factory)
-        error = instance ? QStringLiteral("%1 is not the progress module").arg(loader.fileName()) : loader.errorString();
+        error = instance ? QCoreApplication::translate("MainWindow", "%1 is not the progress module").arg(loader.fileName())
+                         : loader.errorString();
     return factory;
 }

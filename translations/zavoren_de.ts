@@ -481,6 +481,10 @@ Yes replaces it; No imports the learner under another name.</source>
 
 Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</translation>
     </message>
+    <message>
+        <source>%1 is not the progress module</source>
+        <translation>%1 ist nicht das Fortschrittsmodul</translation>
+    </message>
 </context>
 <context>
     <name>Page</name>

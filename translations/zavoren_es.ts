@@ -481,6 +481,10 @@ Yes replaces it; No imports the learner under another name.</source>
 
 Sí lo sustituye; No importa al alumno con otro nombre.</translation>
     </message>
+    <message>
+        <source>%1 is not the progress module</source>
+        <translation>%1 no es el módulo de progreso</translation>
+    </message>
 </context>
 <context>
     <name>Page</name>

@@ -481,6 +481,10 @@ Yes replaces it; No imports the learner under another name.</source>
 
 Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
     </message>
+    <message>
+        <source>%1 is not the progress module</source>
+        <translation>%1 n’est pas le module des progrès</translation>
+    </message>
 </context>
 <context>
     <name>Page</name>

@@ -481,6 +481,10 @@ Yes replaces it; No imports the learner under another name.</source>
 
 Sim substitui; Não importa o aluno com outro nome.</translation>
     </message>
+    <message>
+        <source>%1 is not the progress module</source>
+        <translation>%1 não é o módulo de progresso</translation>
+    </message>
 </context>
 <context>
     <name>Page</name>

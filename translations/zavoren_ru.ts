@@ -481,6 +481,10 @@ Yes replaces it; No imports the learner under another name.</source>
 
 «Да» заменяет; «Нет» импортирует ученика под другим именем.</translation>
     </message>
+    <message>
+        <source>%1 is not the progress module</source>
+        <translation>%1 — не модуль успехов</translation>
+    </message>
 </context>
 <context>
     <name>Page</name>
