@@ -7,6 +7,7 @@
 #include "UserRecordXml.h"
 #include "XmlText.h"
 
+#include <array>
 #include <cctype>
 #include <cerrno>
 #include <chrono>
@@ -15,6 +16,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
+#include <fstream>
 #include <stdexcept>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -41,6 +43,26 @@ std::string Format(const char* format, const char* a, const char* b = "", const 
     std::string out(static_cast<std::size_t>(n), '\0');
     std::snprintf(out.data(), out.size() + 1, format, a, b, c);
     return out;
+}
+
+/// The whole content of a regular file; false when it cannot be read.
+bool ReadWholeFile(const std::string& path, std::string& text)
+{
+    std::ifstream file(path, std::ios::binary);
+    if (!file)
+        return false;
+    text.assign(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+    return !file.bad();
+}
+
+/// What tells whether a file was changed: its inode, size and modification time.
+std::array<long long, 4> FileStamp(const std::string& path)
+{
+    struct stat info { };
+    if (::stat(path.c_str(), &info) != 0)
+        return {-1, -1, -1, -1};
+    return {static_cast<long long>(info.st_ino), static_cast<long long>(info.st_size),
+        static_cast<long long>(info.st_mtim.tv_sec), static_cast<long long>(info.st_mtim.tv_nsec)};
 }
 
 /// True for the names that SaveFile gives its temporary files: the file's name, a dot and the
@@ -100,9 +122,11 @@ void XmlConfigStore::Open(const DatabaseSource& database)
     if ((info.st_mode & 0222) == 0 || ::access(m_path.c_str(), W_OK) != 0)
         throw ConfigException("Config file is ReadOnly. Check file attirbutes or reinstall Zavoren.");
     const unsigned options = pugi::parse_default | pugi::parse_declaration | pugi::parse_comments;
-    if (!S_ISREG(info.st_mode) || !m_document.load_file(m_path.c_str(), options) || !m_document.document_element()
+    if (!S_ISREG(info.st_mode) || !ReadWholeFile(m_path, m_fileText)
+        || !m_document.load_buffer(m_fileText.data(), m_fileText.size(), options) || !m_document.document_element()
         || !UsersNode())
         throw ConfigException(LoadFailed);
+    m_fileStamp = FileStamp(m_path);
     if (NestedAtLeast(m_document, static_cast<int>(MaxDepth)))
         throw ConfigException(LoadFailed);
     // The document is written back as UTF-8 whatever it was read as; its declaration says so.
@@ -272,14 +296,24 @@ bool XmlConfigStore::SaveFile()
         throw ConfigException(SaveFailed);
     }
 
+    // The very text the file holds, untouched since: nothing to write (closing without a change
+    // leaves the disk alone).
+    if (text == m_fileText && FileStamp(m_path) == m_fileStamp)
+        return true;
     // Write a sibling file, make it durable, then rename it over the old one: a failure at any
     // point leaves the previous config.xml complete.
     switch (ReplaceFileAtomically(m_path, text)) {
-    case FileWrite::Written: return true;
+    case FileWrite::Written:
+        m_fileText = std::move(text);
+        m_fileStamp = FileStamp(m_path);
+        return true;
     case FileWrite::NoRights:
         // A folder the learner may not create files in, holding a file they may write: rewrite
         // the file itself, as saving did before files were replaced atomically.
-        return RewriteInPlace(text);
+        RewriteInPlace(text);
+        m_fileText = std::move(text);
+        m_fileStamp = FileStamp(m_path);
+        return true;
     case FileWrite::Failed: break;
     }
     throw ConfigException(SaveFailed);

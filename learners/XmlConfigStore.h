@@ -5,6 +5,7 @@
 
 #include <pugixml.hpp>
 
+#include <array>
 #include <functional>
 #include <string>
 #include <vector>
@@ -57,4 +58,7 @@ private:
     std::string m_currentUserName;
     CharacterDatabase* m_database = nullptr;
     std::string m_path;
+    /// What the file held when it was read or last written, and how it was stamped then.
+    std::string m_fileText;
+    std::array<long long, 4> m_fileStamp{};
 };

@@ -591,6 +591,36 @@ TEST_F(StoreTest, RunningOutOfMemoryIsAConfigException)
 #endif
 }
 
+TEST_F(StoreTest, ASaveThatChangesNothingLeavesTheFileAlone)
+{
+    WriteText(Config(), "<?xml version=\"1.0\"?>\n<Zavoren><Users currentUser=\"Anna\"><User name=\"Anna\"/></Users></Zavoren>\n");
+    {
+        auto store = Open();
+        auto anna = store->LoadUser("Anna");
+        ASSERT_TRUE(store->SaveUser(*anna)); // the record gains its Progress elements: written
+    }
+    struct stat before { };
+    ASSERT_EQ(::stat(Config().c_str(), &before), 0);
+    const std::string text = ReadText(Config());
+    {
+        auto store = Open();
+        auto anna = store->LoadUser("Anna");
+        ASSERT_TRUE(store->SaveUser(*anna)); // the same record: nothing to write
+        struct stat after { };
+        ASSERT_EQ(::stat(Config().c_str(), &after), 0);
+        EXPECT_EQ(after.st_ino, before.st_ino);
+        EXPECT_EQ(ReadText(Config()), text);
+        // Changed by someone else since it was read: written again, as always.
+        WriteText(Config(), text + "\n");
+        ASSERT_TRUE(store->SaveUser(*anna));
+        EXPECT_EQ(ReadText(Config()), text);
+        // A change of the learner's is written.
+        anna->GetProgress(0).AddLearned(5);
+        ASSERT_TRUE(store->SaveUser(*anna));
+        EXPECT_NE(ReadText(Config()), text);
+    }
+}
+
 TEST_F(StoreTest, HistoryOfEveryKindRoundTrips)
 {
     auto store = Open();
