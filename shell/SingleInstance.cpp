@@ -10,6 +10,8 @@
 
 #include <cerrno>
 #include <cstring>
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -78,15 +80,21 @@ SingleInstance::~SingleInstance()
         ::close(m_listener);
         ::unlink(m_socketPath.constData());
     }
+    if (m_lockFile >= 0)
+        ::close(m_lockFile);
 }
 
 bool SingleInstance::Acquire()
 {
     const QString key = KeyFor(m_name);
-    m_lock = std::make_unique<QLockFile>(QDir(LockDirectory()).filePath(key + QStringLiteral(".lock")));
-    m_lock->setStaleLockTime(0);
+    const QByteArray lockPath = QFile::encodeName(QDir(LockDirectory()).filePath(key + QStringLiteral(".lock")));
     m_socketPath = QFile::encodeName(QDir(LockDirectory()).filePath(key + QStringLiteral(".socket")));
-    if (!m_lock->tryLock(0)) {
+    m_lockFile = ::open(lockPath.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    if (m_lockFile < 0)
+        return true; // no lock can be taken here: runs alone all the same
+    if (::flock(m_lockFile, LOCK_EX | LOCK_NB) != 0) {
+        ::close(m_lockFile);
+        m_lockFile = -1;
         // Another copy runs: ask it to come forward. Nothing is shown by this one.
         AskToComeForward(m_socketPath);
         return false;

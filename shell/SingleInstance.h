@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QLockFile>
 #include <QObject>
 #include <QString>
 
@@ -31,7 +30,9 @@ private:
     void AcceptRequests();
 
     QString m_name;
-    std::unique_ptr<QLockFile> m_lock;
+    /// The lock file, held with flock for the life of the copy: the system lets it go when the
+    /// process ends, however it ends, and taking it writes nothing to the disk.
+    int m_lockFile = -1;
     QByteArray m_socketPath;
     int m_listener = -1;
     QSocketNotifier* m_notifier = nullptr;
