@@ -4,10 +4,12 @@
 #include "DatabaseLoadException.h"
 #include "FittedText.h"
 #include "Prompt.h"
+#include "StoredPicture.h"
 #include "User.h"
 #include "ui_HomePage.h"
 
 namespace {
+
 /// Page size in dialog units, converted with the font's metrics.
 constexpr int PageWidthUnits = 197;
 constexpr int PageHeightUnits = 264;
@@ -17,6 +19,9 @@ HomePage::HomePage(CharacterDatabase& database, Prompt& prompt, QWidget* parent)
     : Page(parent), m_ui(std::make_unique<Ui::HomePage>()), m_database(database), m_prompt(prompt)
 {
     m_ui->setupUi(this);
+    // The pictures of a category with progress and of one not begun, decoded at build time.
+    m_progressIcon = QIcon(QPixmap::fromImage(StoredPicture(QStringLiteral("category-progress"))));
+    m_newIcon = QIcon(QPixmap::fromImage(StoredPicture(QStringLiteral("category-new"))));
     CategoryList()->setAccessibleName(tr("Categories"));
     CategoryList()->setIconSize(QSize(16, 16));
     MakeTextBox(UserNameLabel(), 1);
@@ -59,8 +64,7 @@ void HomePage::FillItem(QTreeWidgetItem* item, std::uint16_t categoryId)
     const std::size_t learned = m_user->GetProgress(category->Id()).LearnedCount();
     item->setText(0, CategoryText(category->Name(), learned, category->CharacterCount()));
     item->setIcon(0,
-        QIcon(learned > 0 ? QStringLiteral(":/images/category-progress.png")
-                          : QStringLiteral(":/images/category-new.png")));
+        learned > 0 ? m_progressIcon : m_newIcon);
     item->setData(0, Qt::UserRole, categoryId);
     item->setData(0, Qt::UserRole + 1, learned > 0 ? 1 : 0); // the picture shown: 1 with progress
 }

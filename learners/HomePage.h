@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QIcon>
+
 #include "Page.h"
 
 #include <memory>
@@ -50,4 +52,6 @@ private:
     Prompt& m_prompt;
     User* m_user = nullptr;
     std::uint16_t m_chosenCategory = 0;
+    QIcon m_progressIcon;
+    QIcon m_newIcon;
 };

@@ -1,5 +1,7 @@
 #include "SplashWindow.h"
 
+#include "StoredPicture.h"
+
 #include <QGuiApplication>
 #include <QPainter>
 #include <QProgressBar>
@@ -9,14 +11,11 @@ namespace {
 
 /// The start-up picture for the screen's device pixel ratio: drawn at twice the size for any
 /// ratio above 1, so that it is shown sharp (or scaled down smoothly), never scaled up.
-QPixmap SplashPicture()
+QImage SplashPicture()
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
-    if (!screen || screen->devicePixelRatio() <= 1.0)
-        return QPixmap(QStringLiteral(":/images/splash.png"));
-    QPixmap picture(QStringLiteral(":/images/splash@2x.png"));
-    picture.setDevicePixelRatio(2.0);
-    return picture;
+    const bool sharp = screen && screen->devicePixelRatio() > 1.0;
+    return StoredPicture(sharp ? QStringLiteral("splash@2x") : QStringLiteral("splash"));
 }
 
 } // namespace
@@ -78,5 +77,5 @@ void SplashWindow::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawPixmap(rect(), m_picture);
+    painter.drawImage(QRectF(rect()), m_picture);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QImage>
+
 #include "DatabaseProgress.h"
 
 #include <QElapsedTimer>
@@ -17,7 +19,7 @@ public:
     /// False when the picture could not be loaded (no splash is shown then).
     bool HasPicture() const { return !m_picture.isNull(); }
     /// The picture shown, at the device pixel ratio it was drawn for.
-    const QPixmap& Picture() const { return m_picture; }
+    const QImage& Picture() const { return m_picture; }
     QProgressBar* Bar() const { return m_bar; }
 
     void SetPosition(std::uint32_t position) override;
@@ -31,7 +33,7 @@ private:
     /// (or `force`): loading does not pump events, so this is the only way progress shows.
     void ShowProgress(bool force);
 
-    QPixmap m_picture;
+    QImage m_picture; ///< drawn straight from the program's file: never copied
     int m_position = 0;
     int m_shownFill = -1;
     QElapsedTimer m_sinceRepaint;

@@ -1,0 +1,27 @@
+#include "StoredPicture.h"
+
+#include <QResource>
+#include <QtEndian>
+
+QImage StoredPicture(const QString& name)
+{
+    const QResource resource(QStringLiteral(":/pictures/%1.pic").arg(name));
+    constexpr qint64 HeadSize = 6 + 4 * 4;
+    if (!resource.isValid() || resource.compressionAlgorithm() != QResource::NoCompression
+        || resource.size() < HeadSize)
+        return QImage();
+    const uchar* data = resource.data();
+    if (QByteArray::fromRawData(reinterpret_cast<const char*>(data), 6) != "ZVPIC1")
+        return QImage();
+    const auto field = [data](int index) { return qFromLittleEndian<quint32>(data + 6 + 4 * index); };
+    const quint32 width = field(0), height = field(1), format = field(2), stride = field(3);
+    const bool knownFormat = format == QImage::Format_RGB32 || format == QImage::Format_ARGB32_Premultiplied;
+    if (!knownFormat || width == 0 || height == 0 || stride < 4 * width
+        || qint64(stride) * height > resource.size() - HeadSize)
+        return QImage();
+    // The pixels stay where the program's file holds them: nothing is copied.
+    QImage picture(data + HeadSize, int(width), int(height), int(stride), QImage::Format(format));
+    if (name.endsWith(QLatin1String("@2x")))
+        picture.setDevicePixelRatio(2.0);
+    return picture;
+}
