@@ -7,9 +7,13 @@ FeedbackLine::FeedbackLine(QWidget* parent) : QLabel(parent)
     setObjectName(QStringLiteral("strokeFeedback"));
     setAccessibleName(tr("Stroke feedback"));
     setAccessibleDescription(QString());
-    setWordWrap(false);
-    // One line high even when empty.
-    setMinimumHeight(fontMetrics().height() + 4);
+    // As wide as the writing canvas above it, whatever it says; a long message (a language with
+    // longer words) wraps onto a second line, for which there is always room.
+    setWordWrap(true);
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    setFixedHeight(2 * fontMetrics().lineSpacing() + 4);
 }
 
 void FeedbackLine::Say(const QString& message)

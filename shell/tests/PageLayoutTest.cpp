@@ -11,6 +11,7 @@
 #include "Contrast.h"
 #include "DisplayCanvas.h"
 #include "DrawingTestPage.h"
+#include "FeedbackLine.h"
 #include "FittedText.h"
 #include "HomePage.h"
 #include "HyperlinkLabel.h"
@@ -194,6 +195,16 @@ private slots:
             QCOMPARE(PlaceInWindow(lesson->Display()), *display);
             QCOMPARE(PlaceInWindow(lesson->NextButton()), *next);
             QCOMPARE(m_window->size(), windowSize);
+            // The longest explanation of a refused stroke moves nothing either (it wraps).
+            lesson->Feedback()->Say(
+                QStringLiteral("Falsche Stelle: dieser Strich gehört weiter nach unten rechts, weiter als man denkt."));
+            QApplication::processEvents();
+            QCOMPARE(PlaceInWindow(lesson->Input()), *input);
+            QCOMPARE(PlaceInWindow(lesson->NextButton()), *next);
+            QCOMPARE(m_window->size(), windowSize);
+            const QString inside = ChildrenOutside(lesson) + ClippedLabels(lesson);
+            QVERIFY2(inside.isEmpty(), qPrintable(inside));
+            lesson->Feedback()->Clear();
             // The caption shows the meaning in full, or as much as fits with the rest in its tooltip.
             const auto character = GetDatabase().LoadCharacter(code);
             QCOMPARE(FullText(lesson->MeaningBox()), QString::fromUtf8(character->Meaning()));
