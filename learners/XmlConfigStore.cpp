@@ -291,7 +291,7 @@ bool XmlConfigStore::SaveFile()
 {
     std::string text;
     try {
-        text = DocumentText(m_document);
+        text = DocumentText(m_document, m_fileText.size() + m_fileText.size() / 16);
     } catch (const std::bad_alloc&) {
         throw ConfigException(SaveFailed);
     }

@@ -25,9 +25,10 @@ private:
 
 } // namespace
 
-std::string DocumentText(const pugi::xml_document& document)
+std::string DocumentText(const pugi::xml_document& document, std::size_t expected)
 {
     StringWriter writer;
+    writer.text.reserve(expected);
     document.save(writer, "  ", pugi::format_default, pugi::encoding_utf8);
     return std::move(writer.text);
 }
