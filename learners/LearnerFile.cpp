@@ -3,6 +3,7 @@
 #include "AtomicFile.h"
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
+#include "TextRules.h"
 #include "UserRecordXml.h"
 #include "XmlText.h"
 
@@ -25,31 +26,17 @@ constexpr std::uintmax_t MaxFileBytes = 64u * 1024 * 1024;
 /// Deeper nesting than a learner's file ever has is refused.
 constexpr int MaxDepth = 16;
 
-/// Digits only, at most 65535.
-bool IsNumber(const char* text, unsigned& value)
-{
-    if (!*text || std::strlen(text) > 5)
-        return false;
-    value = 0;
-    for (const char* p = text; *p; ++p) {
-        if (*p < '0' || *p > '9')
-            return false;
-        value = value * 10 + static_cast<unsigned>(*p - '0');
-    }
-    return value <= 0xFFFF;
-}
-
 /// Every category and character id of the record is a plain number of `database`.
 bool FitsDatabase(const pugi::xml_node& user, CharacterDatabase& database)
 {
     for (pugi::xml_node progress : user.children("Progress")) {
         unsigned category = 0;
-        if (!IsNumber(progress.attribute("categoryId").value(), category) || category >= database.CategoryCount())
+        if (!ParsePlainNumber(progress.attribute("categoryId").value(), category) || category >= database.CategoryCount())
             return false;
         for (const char* list : {"Learned", "Untested"})
             for (pugi::xml_node character : progress.child(list).children("Character")) {
                 unsigned id = 0;
-                if (!IsNumber(character.attribute("id").value(), id) || !database.CharacterExists(static_cast<std::uint16_t>(id)))
+                if (!ParsePlainNumber(character.attribute("id").value(), id) || !database.CharacterExists(static_cast<std::uint16_t>(id)))
                     return false;
             }
     }
@@ -105,7 +92,7 @@ Imported Import(const std::string& path, CharacterDatabase& database)
         }
         const pugi::xml_node root = document.document_element();
         unsigned version = 0;
-        if (std::strcmp(root.name(), RootName) != 0 || !IsNumber(root.attribute("version").value(), version)
+        if (std::strcmp(root.name(), RootName) != 0 || !ParsePlainNumber(root.attribute("version").value(), version)
             || version != Version) {
             result.problem = Problem::NotAnExport;
             return result;
@@ -115,7 +102,7 @@ Imported Import(const std::string& path, CharacterDatabase& database)
         const std::string name = user.attribute("name").value();
         unsigned categories = 0;
         if (tooDeep || !user || name.empty() || name.find('\'') != std::string::npos
-            || !IsNumber(root.attribute("categories").value(), categories)) {
+            || !ParsePlainNumber(root.attribute("categories").value(), categories)) {
             result.problem = Problem::Damaged;
             return result;
         }

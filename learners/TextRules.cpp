@@ -40,3 +40,16 @@ bool EqualsIgnoringAsciiCase(std::string_view a, std::string_view b)
     }
     return true;
 }
+
+bool ParsePlainNumber(std::string_view text, unsigned& value)
+{
+    if (text.empty() || text.size() > 5)
+        return false;
+    value = 0;
+    for (const char c : text) {
+        if (c < '0' || c > '9')
+            return false;
+        value = value * 10 + static_cast<unsigned>(c - '0');
+    }
+    return value <= 0xFFFF;
+}

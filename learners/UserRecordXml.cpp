@@ -4,18 +4,11 @@
 
 namespace {
 
-/// Digits only, at most `max`: how the program writes the numbers of an event.
-bool IsPlainNumber(const char* text, unsigned max)
+/// A number of an event's, as the program writes them.
+bool IsPlainNumber(const char* text)
 {
-    if (!*text)
-        return false;
-    unsigned long value = 0;
-    for (const char* p = text; *p; ++p) {
-        if (*p < '0' || *p > '9' || p - text > 5)
-            return false;
-        value = value * 10 + static_cast<unsigned>(*p - '0');
-    }
-    return value <= max;
+    unsigned value = 0;
+    return ParsePlainNumber(text, value);
 }
 
 void ReadIds(const pugi::xml_node& list, void (CategoryProgress::*add)(std::uint16_t), CategoryProgress& record)
@@ -39,14 +32,14 @@ void ReadHistory(const pugi::xml_node& history, User& user)
         LearnerEvent event;
         event.at = at ? at.value() : previous->at;
         event.kind = kind ? kind.value() : previous->kind;
-        if (!IsEventTime(event.at) || event.kind.empty() || !IsPlainNumber(id.value(), 0xFFFF))
+        if (!IsEventTime(event.at) || event.kind.empty() || !IsPlainNumber(id.value()))
             continue;
-        if (category && !IsPlainNumber(category.value(), 0xFFFF))
+        if (category && !IsPlainNumber(category.value()))
             continue;
         event.categoryId = category ? static_cast<std::uint16_t>(category.as_uint()) : previous->categoryId;
         event.id = static_cast<std::uint16_t>(id.as_uint());
         if (const pugi::xml_attribute mistakes = node.attribute("mistakes")) {
-            if (!IsPlainNumber(mistakes.value(), 0xFFFF))
+            if (!IsPlainNumber(mistakes.value()))
                 continue;
             event.mistakes = mistakes.as_int();
         }

@@ -166,7 +166,8 @@ QWidget* ProgressWindow::BuildTestsTab()
     m_failed = new QBarSet(tr("Failed"), series);
     QStringList weeks;
     int most = 0;
-    for (const LearnerStatistics::Week& week : m_stats->TestsPerWeek()) {
+    const auto allWeeks = m_stats->TestsPerWeek();
+    for (const LearnerStatistics::Week& week : allWeeks) {
         m_passed->append(week.passed);
         m_failed->append(week.failed);
         weeks << DateOfDay(week.monday).toString(QStringLiteral("MM-dd"));
@@ -186,7 +187,6 @@ QWidget* ProgressWindow::BuildTestsTab()
     axis->setGridLineVisible(false);
     chart->addAxis(axis, Qt::AlignBottom);
     series->attachAxis(axis);
-    const auto allWeeks = m_stats->TestsPerWeek();
     auto* dates = new QDateTimeAxis(chart);
     dates->setFormat(QStringLiteral("yyyy-MM-dd"));
     dates->setRange(QDateTime(DateOfDay(allWeeks.front().monday), QTime(0, 0)),

@@ -421,8 +421,10 @@ void MainWindow::ExportLearner()
 {
     if (!m_learner)
         return;
-    const QString suggested = QDir::home().filePath(
-        QString::fromUtf8(m_learner->Name() ? m_learner->Name() : "") + QStringLiteral(".zavoren-learner.xml"));
+    // The learner's name as a file name: a slash would name a folder.
+    QString name = QString::fromUtf8(m_learner->Name() ? m_learner->Name() : "");
+    name.replace(QLatin1Char('/'), QLatin1Char('-'));
+    const QString suggested = QDir::home().filePath(name + QStringLiteral(".zavoren-learner.xml"));
     const QString path = QFileDialog::getSaveFileName(
         this, tr("Export learner"), suggested, tr("Zavoren! learners (*.xml);;All files (*)"));
     if (!path.isEmpty())

@@ -141,3 +141,14 @@ TEST(TextRules, NamesCompareWithoutAsciiCase)
     EXPECT_TRUE(EqualsIgnoringAsciiCase("Ålex", "Ålex"));
     EXPECT_FALSE(EqualsIgnoringAsciiCase("\xC3\x85", "\xC3\xA5")); // Å and å differ: not ASCII
 }
+
+TEST(TextRules, PlainNumbersAreDigitsOnlyUpTo65535)
+{
+    unsigned value = 0;
+    EXPECT_TRUE(ParsePlainNumber("0", value));
+    EXPECT_EQ(value, 0u);
+    EXPECT_TRUE(ParsePlainNumber("65535", value));
+    EXPECT_EQ(value, 65535u);
+    for (const char* bad : {"", "65536", "123456", "-1", "+1", " 1", "1 ", "1x", "x"})
+        EXPECT_FALSE(ParsePlainNumber(bad, value)) << bad;
+}
