@@ -54,11 +54,10 @@ FileCharacterDatabase::FileCharacterDatabase(const std::string& path)
         const auto size = static_cast<std::uint64_t>(info.st_size);
         if (size <= MaxInMemorySize) {
             // One read of the whole file; a file that changes size meanwhile keeps what was read.
-            // Not zero-filled first: every byte kept is one the read delivered.
-            m_contents.reset(new std::uint8_t[static_cast<std::size_t>(size)]);
+            m_contents = FileBuffer(static_cast<std::size_t>(size));
             std::size_t done = 0;
             while (done < size) {
-                const ssize_t n = ::pread(m_descriptor, m_contents.get() + done, size - done, static_cast<off_t>(done));
+                const ssize_t n = ::pread(m_descriptor, m_contents.Data() + done, size - done, static_cast<off_t>(done));
                 if (n < 0 && errno == EINTR)
                     continue;
                 if (n <= 0)
@@ -66,6 +65,7 @@ FileCharacterDatabase::FileCharacterDatabase(const std::string& path)
                 done += static_cast<std::size_t>(n);
             }
             m_contentsSize = done;
+            m_contents.Seal();
             ::close(m_descriptor);
             m_descriptor = -1;
         }
@@ -104,7 +104,7 @@ bool FileCharacterDatabase::ReadAt(std::uint64_t offset, std::size_t size, Recor
     if (m_descriptor < 0) {
         if (offset > m_contentsSize || size > m_contentsSize - offset)
             return false;
-        out.data = m_contents.get() + offset;
+        out.data = m_contents.Data() + offset;
         out.size = size;
         return true;
     }
@@ -151,8 +151,8 @@ bool FileCharacterDatabase::CharacterExists(std::uint16_t id)
 {
     if (id >= m_characterDictionary.size())
         return false;
-    if (m_preloaded && id < m_characterCache.size())
-        return m_characterCache[id] != nullptr;
+    if (m_preloaded && id < m_characterPresent.size())
+        return m_characterPresent[id];
     const DictionaryEntry& entry = m_characterDictionary[id];
     if (entry.offset == NoRecord)
         return false;
@@ -175,10 +175,12 @@ std::unique_ptr<Character> FileCharacterDatabase::LoadCharacter(std::uint16_t id
 {
     if (id >= m_characterDictionary.size())
         throw DatabaseLoadException("Character id out of range");
-    if (m_preloaded && id < m_characterCache.size()) {
-        if (!m_characterCache[id])
+    if (m_preloaded && id < m_characterPresent.size()) {
+        if (!m_characterPresent[id])
             throw DatabaseLoadException("Character does not exist");
-        return std::make_unique<Character>(*m_characterCache[id]);
+        // Bytes held in memory cannot change: parsing them again gives the character Preload saw.
+        if (!m_characterCache.empty())
+            return std::make_unique<Character>(*m_characterCache[id]);
     }
     const DictionaryEntry& entry = m_characterDictionary[id];
     if (entry.offset == NoRecord)
@@ -194,6 +196,18 @@ std::unique_ptr<Character> FileCharacterDatabase::LoadCharacter(std::uint16_t id
     character->SetKunReading(reader.ShortString());
     character->SetMeaning(reader.ShortString());
     return character;
+}
+
+void FileCharacterDatabase::CheckCharacter(std::uint16_t id) const
+{
+    RecordBytes record;
+    if (!ReadRecord(m_characterDictionary[id], record))
+        throw DatabaseLoadException("Unable to load character");
+    // What LoadCharacter reads, in the same order and with the same checks.
+    ByteReader reader(record.data, record.size, "Unable to load character");
+    reader.Skip(2); // element id
+    for (int text = 0; text < 3; ++text) // ON reading, KUN reading, meaning
+        reader.Skip(reader.U8());
 }
 
 std::unique_ptr<Element> FileCharacterDatabase::LoadElement(std::uint16_t id)
@@ -321,6 +335,7 @@ void FileCharacterDatabase::Preload(DatabaseProgress* progress)
         return;
     // A preload that failed part-way left partial caches; start them afresh.
     m_characterCache.clear();
+    m_characterPresent.clear();
     m_elementCache.clear();
     m_elementPresent.clear();
     m_preloadItems = 0;
@@ -328,12 +343,19 @@ void FileCharacterDatabase::Preload(DatabaseProgress* progress)
     const std::uint16_t elements = ElementCount();
     if (progress)
         progress->SetRange(0, std::uint32_t{characters} + elements);
-    m_characterCache.reserve(characters);
+    m_characterPresent.reserve(characters);
     for (std::uint32_t id = 0; id < characters; ++id) {
         if (progress)
             progress->SetPosition(id);
         const auto cid = static_cast<std::uint16_t>(id);
-        m_characterCache.push_back(CharacterExists(cid) ? LoadCharacter(cid) : nullptr);
+        const bool present = CharacterExists(cid);
+        // A character held in memory is checked where it lies and built when asked for; one
+        // of a file read at offsets is kept as it was read.
+        if (m_descriptor >= 0)
+            m_characterCache.push_back(present ? LoadCharacter(cid) : nullptr);
+        else if (present)
+            CheckCharacter(cid);
+        m_characterPresent.push_back(present);
     }
     m_elementPresent.reserve(elements);
     for (std::uint32_t id = 0; id < elements; ++id) {

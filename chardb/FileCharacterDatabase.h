@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CharacterDatabase.h"
+#include "FileBuffer.h"
 #include "FormFormat.h"
 
 #include <cstdint>
@@ -12,8 +13,8 @@
 
 /// The reader of the binary `database` file: a 12-byte header, three dictionaries and the
 /// records they point at. The file is read into memory once when it is opened (a file too large
-/// for that is read record by record instead); `Preload` caches every character and checks
-/// every element.
+/// for that is read record by record instead); `Preload` checks every character and element
+/// (and keeps them, for a file read record by record).
 class FileCharacterDatabase : public CharacterDatabase {
 public:
     /// Opens the file and reads its dictionaries; throws DatabaseLoadException on failure.
@@ -69,7 +70,13 @@ private:
     /// nothing for one that composes others.
     std::optional<std::size_t> CheckPlainElement(std::uint16_t id) const;
 
+    /// Checks a character's record as LoadCharacter reads it, without building the character.
+    void CheckCharacter(std::uint16_t id) const;
+
+    // Which character ids have a character, after Preload. As with elements, the characters
+    // themselves are kept only for a file read at offsets.
     std::vector<std::unique_ptr<Character>> m_characterCache;
+    std::vector<bool> m_characterPresent;
     // Which element ids have an element, after Preload. The elements themselves are kept only
     // for a file read at offsets; one held in memory is parsed again for each load, which is as
     // fast as copying and keeps thousands of small objects out of memory.
@@ -81,7 +88,7 @@ private:
     std::vector<DictionaryEntry> m_categoryDictionary;
     std::uint32_t m_categoryDictionaryOffset = 0;
     // The whole file when it is small enough; otherwise the open file, read at offsets.
-    std::unique_ptr<std::uint8_t[]> m_contents;
+    FileBuffer m_contents;
     std::size_t m_contentsSize = 0;
     int m_descriptor = -1;
 

@@ -291,6 +291,44 @@ TEST_F(DatabaseFileTest, FailedPreloadLeavesReaderUsable)
     EXPECT_STREQ(db.LoadCharacter(0)->OnReading(), "イチ");
 }
 
+TEST_F(DatabaseFileTest, PreloadedCharactersAreTheCharactersReadBeforePreloading)
+{
+    const std::string path = Write(SmallFile());
+    FileCharacterDatabase plain(path);
+    FileCharacterDatabase preloaded(path);
+    preloaded.Preload(nullptr);
+    for (std::uint16_t id = 0; id < 3; ++id) {
+        ASSERT_EQ(plain.CharacterExists(id), preloaded.CharacterExists(id));
+        if (!plain.CharacterExists(id))
+            continue;
+        const auto a = plain.LoadCharacter(id);
+        const auto b = preloaded.LoadCharacter(id);
+        EXPECT_EQ(a->Id(), b->Id());
+        EXPECT_EQ(a->ElementId(), b->ElementId());
+        EXPECT_STREQ(a->OnReading(), b->OnReading());
+        EXPECT_STREQ(a->KunReading(), b->KunReading());
+        EXPECT_STREQ(a->Meaning(), b->Meaning());
+    }
+    EXPECT_FALSE(preloaded.CharacterExists(3));
+    EXPECT_LOAD_ERROR(preloaded.LoadCharacter(3), "Character id out of range");
+}
+
+TEST_F(DatabaseFileTest, PreloadChecksEveryTextOfEveryCharacter)
+{
+    // The meaning, the last text of the record, claims more bytes than the record holds.
+    RawDatabaseFile f = SmallFile();
+    Bytes broken = CharacterRecord(1, "a", "b", "c");
+    broken[broken.size() - 2] = 5;
+    f.characters[2].bytes = broken;
+    FileCharacterDatabase db(Write(f));
+    EXPECT_LOAD_ERROR(db.LoadCharacter(2), "Unable to load character");
+    EXPECT_LOAD_ERROR(db.Preload(nullptr), "Unable to load character");
+    // A record one byte short of its element id is refused too.
+    f.characters[2].bytes = Bytes{1};
+    FileCharacterDatabase shorter(Write(f));
+    EXPECT_LOAD_ERROR(shorter.Preload(nullptr), "Unable to load character");
+}
+
 TEST_F(DatabaseFileTest, ComposedElementsAreResolvedThroughTheReader)
 {
     RawDatabaseFile f;
