@@ -15,6 +15,7 @@
 #include "ProgressRecorder.h"
 #include "Prompt.h"
 #include "ScreenPlacement.h"
+#include "StoredPicture.h"
 #include "TestContainer.h"
 #include "UserManagerDialog.h"
 
@@ -62,7 +63,7 @@ MainWindow::MainWindow(CharacterDatabase& database, ConfigStore& store, Prompt& 
 {
     setObjectName(QStringLiteral("Zavoren Mainframe Class"));
     setWindowTitle(QStringLiteral("Zavoren!"));
-    setWindowIcon(QIcon(QStringLiteral(":/images/zavoren.png")));
+    setWindowIcon(ProgramIcon());
     BuildMenu();
     m_pageArea = new QWidget(this);
     setCentralWidget(m_pageArea);
@@ -375,8 +376,12 @@ void MainWindow::SavePlacement()
     const qint32 fields[4] = {frame.left(), frame.top(), frame.left() + frame.width(), frame.top() + frame.height()};
     for (int i = 0; i < 4; ++i)
         qToLittleEndian<qint32>(fields[i], bytes.data() + 4 * i);
+    // Written only when it changed: every write locks, writes and syncs the settings file.
     QSettings settings(QStringLiteral("Zavoren"), QStringLiteral("Zavoren"));
-    settings.setValue(QStringLiteral("WindowPosition"), bytes);
+    const QString key = QStringLiteral("WindowPosition");
+    const QVariant stored = settings.value(key);
+    if (stored.typeId() != QMetaType::QByteArray || stored.toByteArray() != bytes)
+        settings.setValue(key, bytes);
 }
 
 void MainWindow::UpdateLearnerActions()

@@ -4,10 +4,10 @@
 #include "DisplayCheck.h"
 #include "MessageBoxPrompt.h"
 #include "Startup.h"
+#include "StoredPicture.h"
 #include "Translations.h"
 
 #include <QApplication>
-#include <QIcon>
 
 #include <csignal>
 #include <cstdio>
@@ -51,7 +51,7 @@ int main(int argc, char** argv)
     watch.Started();
     QApplication::setApplicationName(QStringLiteral("Zavoren!"));
     QApplication::setOrganizationName(QStringLiteral("Zavoren"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/zavoren.png")));
+    QApplication::setWindowIcon(ProgramIcon());
     // The learner's language (LANGUAGE, LC_ALL, LC_MESSAGES, LANG), English otherwise.
     InstallTranslations(app, QLocale::system());
     MessageBoxPrompt prompt;

@@ -1,5 +1,6 @@
 #include "StoredPicture.h"
 
+#include <QPixmap>
 #include <QResource>
 #include <QtEndian>
 
@@ -24,4 +25,9 @@ QImage StoredPicture(const QString& name)
     if (name.endsWith(QLatin1String("@2x")))
         picture.setDevicePixelRatio(2.0);
     return picture;
+}
+
+QIcon ProgramIcon()
+{
+    return QIcon(QPixmap::fromImage(StoredPicture(QStringLiteral("zavoren"))));
 }

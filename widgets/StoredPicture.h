@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIcon>
 #include <QImage>
 #include <QString>
 
@@ -7,3 +8,7 @@
 /// shown without decoding or looking for image readers, which a PNG would cost at start-up.
 /// Its device pixel ratio is 2 for a name ending in "@2x". A null image when there is none.
 QImage StoredPicture(const QString& name);
+
+/// The program's icon (its windows' icon), from the stored picture: a QIcon made from a file name
+/// would look through the icon engine plugins first.
+QIcon ProgramIcon();

@@ -39,6 +39,8 @@
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
+
+#include <sys/stat.h>
 #include <QWhatsThis>
 #include <QtEndian>
 
@@ -422,6 +424,55 @@ private slots:
             const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
             QVERIFY(qAbs(window.frameGeometry().center().x() - screen.center().x()) <= 1);
         }
+    }
+
+    void anUnchangedPlacementIsNotWrittenAgain()
+    {
+        DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
+        QSettings settings(QStringLiteral("Zavoren"), QStringLiteral("Zavoren"));
+        // A value that is not a placement is replaced at close.
+        settings.setValue(QStringLiteral("WindowPosition"), QStringLiteral("left"));
+        settings.sync();
+        const QString file = settings.fileName();
+        {
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
+            QVERIFY(window.ChooseLearnerAtStart());
+            window.ShowChosenLearner();
+            window.move(200, 100);
+            window.close();
+        }
+        settings.sync();
+        QCOMPARE(settings.value(QStringLiteral("WindowPosition")).toByteArray().size(), 16);
+        // Closed where it was restored: the file is left as it is (every save replaces it with
+        // a new file, so the same inode means no save).
+        const auto inode = [](const QString& path) {
+            struct stat status {};
+            return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_ino : ino_t(0);
+        };
+        const ino_t inodeBefore = inode(file);
+        QVERIFY(inodeBefore != 0);
+        ReleaseDataStores();
+        {
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
+            QVERIFY(window.ChooseLearnerAtStart());
+            window.ShowChosenLearner();
+            QCOMPARE(window.pos(), QPoint(200, 100));
+            window.close();
+        }
+        QCOMPARE(inode(file), inodeBefore);
+        QVERIFY(!QFile::exists(file + QStringLiteral(".lock")));
+        // Moved: written.
+        ReleaseDataStores();
+        {
+            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
+            QVERIFY(window.ChooseLearnerAtStart());
+            window.ShowChosenLearner();
+            window.move(210, 100);
+            window.close();
+        }
+        QVERIFY(inode(file) != inodeBefore);
+        settings.sync();
+        QCOMPARE(qFromLittleEndian<qint32>(settings.value(QStringLiteral("WindowPosition")).toByteArray().constData()), 210);
     }
 
     void menuAndIgnoredKeys()
