@@ -15,6 +15,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 
 namespace {
 
@@ -64,22 +65,24 @@ int RunZavoren(const StartupOptions& options, Prompt& prompt)
         return 0;
     QObject::connect(&instance, &SingleInstance::raiseRequested, [] { BringToFront(); });
 
-    SplashWindow splash;
-    if (splash.HasPicture()) {
-        splash.show();
-        splash.repaint();
+    // Destroyed, not only hidden, once the main window is built: its picture, bar and window
+    // buffer are not kept for the rest of the session.
+    std::optional<SplashWindow> splash(std::in_place);
+    if (splash->HasPicture()) {
+        splash->show();
+        splash->repaint();
         QApplication::processEvents();
     }
     // A database that cannot be read is not handled here: the exception ends in the crash
     // handler's question.
     CharacterDatabase& database = GetDatabase();
-    database.Preload(&splash);
+    database.Preload(&*splash);
 
     ConfigStore* store = nullptr;
     try {
         store = &GetConfigStore();
     } catch (const ZavorenCommon::ConfigException& e) {
-        splash.close();
+        splash.reset();
         prompt.StoreError(nullptr, ConfigurationErrorTitle, e.what());
         ReleaseDataStores();
         return 0;
@@ -88,11 +91,11 @@ int RunZavoren(const StartupOptions& options, Prompt& prompt)
     {
         MainWindow window(database, *store, prompt, ClockSeed, OpenWithDesktop, LocalTimeNow);
         if (!window.ChooseLearnerAtStart()) {
-            splash.close();
+            splash.reset();
             ReleaseDataStores();
             return 0;
         }
-        splash.close();
+        splash.reset();
         QApplication::setQuitOnLastWindowClosed(false);
         QObject::connect(&window, &MainWindow::closed, [&result] {
             result = 1;
