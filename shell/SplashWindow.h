@@ -35,7 +35,10 @@ private:
 
     QImage m_picture; ///< drawn straight from the program's file: never copied
     int m_position = 0;
+    int m_lowest = 0; ///< the bar's range, as the bar holds it
+    int m_highest = 100;
     int m_shownFill = -1;
+    int m_heldFill = -1; ///< a fill held back for coming too soon after the last repaint
     QElapsedTimer m_sinceRepaint;
     QProgressBar* m_bar = nullptr;
 };

@@ -1,7 +1,7 @@
 // Renders the program's pages offscreen into PNG files, so that a change to a page can be looked
 // at: home, category (with learned and untested characters), lesson (mid-character, after a
-// refused stroke), reading test, drawing test, Kanji Info, User Manager, About, and the four
-// parts of the progress window.
+// refused stroke), reading test, drawing test, Kanji Info, User Manager, About, the four
+// parts of the progress window, and the start-up window as it shows and half-way through loading.
 //   render_pages DATABASE OUTPUT_FOLDER [--dark]
 // Run with QT_QPA_PLATFORM=offscreen, and QT_SCALE_FACTOR=2 for a device pixel ratio of 2;
 // render_all.sh beside this file renders every page at ratios 1 and 2, light and dark; with
@@ -19,6 +19,7 @@
 #include "MessageBoxPrompt.h"
 #include "ProgressWindow.h"
 #include "ReadingTestPage.h"
+#include "SplashWindow.h"
 #include "TestContainer.h"
 #include "Translations.h"
 #include "User.h"
@@ -121,6 +122,14 @@ int main(int argc, char** argv)
         learner.GetProgress(0).AddLearned(grade1[i]);
     for (std::size_t i = 12; i < 16; ++i)
         learner.GetProgress(0).AddUntested(grade1[i]);
+
+    {
+        SplashWindow splash;
+        ok &= Save(splash, out, QStringLiteral("splash"));
+        splash.SetRange(0, 1000);
+        splash.SetPosition(500);
+        ok &= Save(splash, out, QStringLiteral("splash-half"));
+    }
 
     HomePage home(db, prompt);
     home.SetUser(&learner);

@@ -575,6 +575,17 @@ private slots:
         // It must never cover the User Manager shown while it is up.
         QVERIFY(!(splash.windowFlags() & Qt::WindowStaysOnTopHint));
         splash.show();
+        // The bar is drawn filled in the highlight colour as far as its value.
+        const auto filledShare = [&splash] {
+            const QImage shot = splash.Bar()->grab().toImage();
+            const QRgb highlight = splash.Bar()->palette().color(QPalette::Highlight).rgb();
+            const int row = shot.height() / 2;
+            int filled = 0;
+            for (int x = 0; x < shot.width(); ++x)
+                filled += shot.pixel(x, row) == highlight;
+            return double(filled) / shot.width();
+        };
+        QVERIFY2(qAbs(filledShare() - 0.75) < 0.05, qPrintable(QString::number(filledShare())));
         // Repaints follow the bar's visible fill, not every one of thousands of reports.
         struct PaintCounter : QObject {
             int paints = 0;
@@ -609,6 +620,7 @@ private slots:
             QVERIFY2(recorder.fills[i] != recorder.fills[i - 1], qPrintable(QString::number(i)));
         // The last report always shows: the bar ends full.
         QCOMPARE(recorder.fills.last(), splash.Bar()->width() - 1);
+        QVERIFY2(filledShare() > 0.95, qPrintable(QString::number(filledShare())));
         QCOMPARE(splash.Bar()->maximum(), int(db.CharacterCount()) + int(db.ElementCount()));
         QCOMPARE(splash.Bar()->value(), int(db.CharacterCount()) + int(db.ElementCount()) - 1);
     }
