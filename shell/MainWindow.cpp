@@ -71,6 +71,11 @@ MainWindow::MainWindow(CharacterDatabase& database, ConfigStore& store, Prompt& 
     m_lesson = new LessonPage(database, prompt, m_pageArea);
     m_test = new TestContainer(database, prompt, m_seeds, m_pageArea);
     m_category = new CategoryPage(database, prompt, m_seeds, m_pageArea);
+    // The coaching aids decide whether the feedback line is there: set before the pages take
+    // their sizes, so that each page is measured once.
+    m_preferences = LoadCoachingPreferences();
+    m_lesson->SetCoaching(m_preferences);
+    m_test->DrawingPage()->SetCoaching(m_preferences);
     for (Page* page : {static_cast<Page*>(m_home), static_cast<Page*>(m_lesson), static_cast<Page*>(m_test),
              static_cast<Page*>(m_category)}) {
         page->adjustSize();
@@ -89,7 +94,6 @@ MainWindow::MainWindow(CharacterDatabase& database, ConfigStore& store, Prompt& 
         if (auto recorder = Recorder())
             recorder->Retested(codes);
     });
-    ApplyPreferences(LoadCoachingPreferences());
     for (const QKeySequence& keys : IgnoredKeys)
         new QShortcut(
             keys, this, [] {}, Qt::WindowShortcut);
