@@ -40,6 +40,12 @@ done
 dpkg-deb -x "$deb" unpacked-package
 grep -q 'KanjiVG' unpacked-package/usr/share/doc/zavoren/copyright
 grep -q 'KANJIDIC2' unpacked-package/usr/share/doc/zavoren/copyright
+# The programs find their libraries where the system keeps them, never in a folder of their own.
+for binary in usr/libexec/zavoren/zavoren usr/libexec/zavoren/zavoren-progress.so usr/bin/zavoren-db; do
+    if readelf -d "unpacked-package/$binary" | grep -qE 'RPATH|RUNPATH'; then
+        echo "$binary carries a library search path"; exit 1
+    fi
+done
 
 desktop-file-validate unpacked-package/usr/share/applications/io.github.zavoren.Zavoren.desktop
 appstreamcli validate --no-net unpacked-package/usr/share/metainfo/io.github.zavoren.Zavoren.metainfo.xml
