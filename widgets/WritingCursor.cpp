@@ -1,11 +1,14 @@
 #include "WritingCursor.h"
 
+#include "StoredPicture.h"
+
 #include <QPixmap>
 
 QCursor WritingCursor()
 {
-    const QPixmap pen(QStringLiteral(":/images/pen-cursor.png"));
+    // Decoded at build time: every writing canvas takes this cursor when it is made, at start-up.
+    const QImage pen = StoredPicture(QStringLiteral("pen-cursor"));
     if (pen.isNull())
         return QCursor(Qt::CrossCursor);
-    return QCursor(pen, 1, 30);
+    return QCursor(QPixmap::fromImage(pen), 1, 30);
 }
