@@ -13,17 +13,18 @@ namespace {
 
 /// The start-up picture for the screen's device pixel ratio: drawn at twice the size for any
 /// ratio above 1, so that it is shown sharp (or scaled down smoothly), never scaled up.
-QImage SplashPicture()
+QString SplashPictureName()
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
     const bool sharp = screen && screen->devicePixelRatio() > 1.0;
-    return StoredPicture(sharp ? QStringLiteral("splash@2x") : QStringLiteral("splash"));
+    return sharp ? QStringLiteral("splash@2x") : QStringLiteral("splash");
 }
 
 } // namespace
 
 SplashWindow::SplashWindow(QWidget* parent)
-    : QWidget(parent, Qt::SplashScreen | Qt::FramelessWindowHint), m_picture(SplashPicture())
+    : QWidget(parent, Qt::SplashScreen | Qt::FramelessWindowHint), m_pictureName(SplashPictureName()),
+      m_picture(StoredPicture(m_pictureName))
 {
     setObjectName(QStringLiteral("SplashWindow"));
     setAccessibleName(tr("Zavoren! is starting"));
@@ -45,6 +46,13 @@ SplashWindow::SplashWindow(QWidget* parent)
     m_bar->setAccessibleName(tr("Loading the characters"));
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         move(screen->availableGeometry().center() - rect().center());
+}
+
+SplashWindow::~SplashWindow()
+{
+    // The picture is not shown again in this session.
+    m_picture = QImage();
+    ReleaseStoredPicture(m_pictureName);
 }
 
 void SplashWindow::SetPosition(std::uint32_t position)

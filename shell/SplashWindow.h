@@ -15,6 +15,7 @@ class SplashWindow : public QWidget, public DatabaseProgress {
     Q_OBJECT
 public:
     explicit SplashWindow(QWidget* parent = nullptr);
+    ~SplashWindow() override;
 
     /// False when the picture could not be loaded (no splash is shown then).
     bool HasPicture() const { return !m_picture.isNull(); }
@@ -33,6 +34,7 @@ private:
     /// (or `force`): loading does not pump events, so this is the only way progress shows.
     void ShowProgress(bool force);
 
+    QString m_pictureName;
     QImage m_picture; ///< drawn straight from the program's file: never copied
     int m_position = 0;
     int m_lowest = 0; ///< the bar's range, as the bar holds it

@@ -4,9 +4,22 @@
 #include <QResource>
 #include <QtEndian>
 
+#include <cstdint>
+#include <sys/mman.h>
+#include <unistd.h>
+
+namespace {
+
+QString PicturePath(const QString& name)
+{
+    return QStringLiteral(":/pictures/%1.pic").arg(name);
+}
+
+} // namespace
+
 QImage StoredPicture(const QString& name)
 {
-    const QResource resource(QStringLiteral(":/pictures/%1.pic").arg(name));
+    const QResource resource(PicturePath(name));
     constexpr qint64 HeadSize = 6 + 4 * 4;
     if (!resource.isValid() || resource.compressionAlgorithm() != QResource::NoCompression
         || resource.size() < HeadSize)
@@ -30,4 +43,19 @@ QImage StoredPicture(const QString& name)
 QIcon ProgramIcon()
 {
     return QIcon(QPixmap::fromImage(StoredPicture(QStringLiteral("zavoren"))));
+}
+
+void ReleaseStoredPicture(const QString& name)
+{
+    const QResource resource(PicturePath(name));
+    if (!resource.isValid() || resource.compressionAlgorithm() != QResource::NoCompression)
+        return;
+    // Only whole pages inside the picture: the bytes around it may be in use. The pages are
+    // part of the program's read-only file image, so dropping them loses nothing.
+    const auto page = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
+    const auto begin = reinterpret_cast<std::uintptr_t>(resource.data());
+    const std::uintptr_t first = (begin + page - 1) / page * page;
+    const std::uintptr_t last = (begin + static_cast<std::uintptr_t>(resource.size())) / page * page;
+    if (last > first)
+        ::madvise(reinterpret_cast<void*>(first), last - first, MADV_DONTNEED);
 }
