@@ -71,15 +71,13 @@ MainWindow::MainWindow(CharacterDatabase& database, ConfigStore& store, Prompt& 
     m_lesson = new LessonPage(database, prompt, m_pageArea);
     m_test = new TestContainer(database, prompt, m_seeds, m_pageArea);
     m_category = new CategoryPage(database, prompt, m_seeds, m_pageArea);
-    // The coaching aids decide whether the feedback line is there: set before the pages take
-    // their sizes, so that each page is measured once.
+    // The coaching aids decide whether the feedback line is there: set before any page takes
+    // its size.
     m_preferences = LoadCoachingPreferences();
     m_lesson->SetCoaching(m_preferences);
     m_test->DrawingPage()->SetCoaching(m_preferences);
     for (Page* page : {static_cast<Page*>(m_home), static_cast<Page*>(m_lesson), static_cast<Page*>(m_test),
              static_cast<Page*>(m_category)}) {
-        page->adjustSize();
-        page->setFixedSize(page->size());
         page->hide();
         connect(
             page, &Page::pageEvent, this,
@@ -112,8 +110,7 @@ void MainWindow::ApplyPreferences(const CoachingPreferences& preferences)
     for (Page* page : {static_cast<Page*>(m_lesson), static_cast<Page*>(m_test)}) {
         page->setMinimumSize(0, 0);
         page->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-        page->adjustSize();
-        page->setFixedSize(page->size());
+        m_fittedPages.removeOne(page);
     }
     if (Page* shown = m_shown) {
         m_shown = nullptr;
@@ -252,10 +249,21 @@ void MainWindow::ChooseLearner()
     }
 }
 
+void MainWindow::FitPage(Page* page)
+{
+    // Measured when first shown: a page not shown yet costs nothing to lay out at start.
+    if (m_fittedPages.contains(page))
+        return;
+    page->adjustSize();
+    page->setFixedSize(page->size());
+    m_fittedPages.append(page);
+}
+
 void MainWindow::ShowPage(Page* page)
 {
     if (page == m_shown)
         return;
+    FitPage(page);
     Page* previous = m_shown;
     m_shown = page;
     page->move(0, 0);

@@ -48,6 +48,9 @@ public:
     /// File > Users: runs the User Manager and applies its choice.
     void ChooseLearner();
     /// Shows one page and sizes the window to it plus the menu bar.
+    /// Gives a page its fixed size, the first time it is shown (again after the coaching aids
+    /// change what it holds).
+    void FitPage(Page* page);
     void ShowPage(Page* page);
 
     /// Restores the window position stored in the settings ("WindowPosition", 16 bytes).
@@ -129,6 +132,7 @@ private:
     TestContainer* m_test = nullptr;
     CategoryPage* m_category = nullptr;
     Page* m_shown = nullptr;
+    QList<Page*> m_fittedPages; ///< pages that have taken their fixed size
     std::unique_ptr<User> m_learner;
     std::unique_ptr<User> m_chosenAtStart;
     std::optional<std::uint16_t> m_categoryId;
