@@ -35,8 +35,9 @@ SplashWindow::SplashWindow(QWidget* parent)
     // A plain bar of blocks, the look of the classic progress control. The usual style's
     // rounded, striped bar costs several times as much to paint each step shown while the
     // database loads, and its stripes start drawing threads the program has no other use for.
+    // Owned by the window and made after the bar, so that it is deleted after the bar.
     if (QStyle* plain = QStyleFactory::create(QStringLiteral("Windows"))) {
-        plain->setParent(m_bar);
+        plain->setParent(this);
         m_bar->setStyle(plain);
     }
     m_bar->setTextVisible(false);
