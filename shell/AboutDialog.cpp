@@ -2,9 +2,11 @@
 
 #include "HelpActions.h"
 #include "HyperlinkLabel.h"
+#include "StoredPicture.h"
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QPixmap>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -13,7 +15,7 @@ AboutDialog::AboutDialog(UrlOpener open, QWidget* owner) : QDialog(owner)
     setWindowTitle(tr("About Zavoren!"));
     setModal(true);
     auto* icon = new QLabel(this);
-    icon->setPixmap(QPixmap(QStringLiteral(":/images/zavoren.png")));
+    icon->setPixmap(QPixmap::fromImage(StoredPicture(QStringLiteral("zavoren"))));
     icon->setAccessibleName(tr("Zavoren! icon"));
     auto* product = new QLabel(tr("Zavoren! Kanji Learning Program"), this);
     QFont bold = product->font();

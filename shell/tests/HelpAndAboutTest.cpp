@@ -86,14 +86,17 @@ private slots:
         QVERIFY(about.isModal());
         QCOMPARE(about.VersionLabel()->text(), QStringLiteral("v%1").arg(QStringLiteral(ZAVOREN_VERSION)));
         QVERIFY(QRegularExpression(QStringLiteral("^v\\d+\\.\\d+\\.\\d+$")).match(VersionText()).hasMatch());
-        bool product = false, credits = false;
+        bool product = false, credits = false, icon = false;
         for (QLabel* label : about.findChildren<QLabel*>()) {
+            if (label->accessibleName() == QStringLiteral("Zavoren! icon"))
+                icon = label->pixmap().size() == QSize(64, 64);
             product |= label->text() == QStringLiteral("Zavoren! Kanji Learning Program");
             credits |= label->text().contains(QStringLiteral("KanjiVG"))
                 && label->text().contains(QStringLiteral("KANJIDIC2"));
         }
         QVERIFY(product);
         QVERIFY(credits);
+        QVERIFY(icon); // the program's picture, 64 by 64
         QVERIFY(!about.findChildren<QLabel*>().isEmpty());
         // Centred over its owner.
         QVERIFY((about.frameGeometry().center() - owner.frameGeometry().center()).manhattanLength() <= 2);

@@ -48,7 +48,7 @@ private slots:
                  QStringLiteral("pen-cursor"), QStringLiteral("zavoren")}) {
             const QImage stored = StoredPicture(name);
             QVERIFY2(!stored.isNull(), qPrintable(name));
-            const QImage png(QStringLiteral(":/images/%1.png").arg(name));
+            const QImage png(QStringLiteral(ZAVOREN_IMAGES "/%1.png").arg(name));
             QVERIFY(!png.isNull());
             QCOMPARE(stored.size(), png.size());
             // Pixel for pixel (the PNG's colour space tag aside, which the stored picture lacks).
