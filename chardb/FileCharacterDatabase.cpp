@@ -1,4 +1,5 @@
 #include "FileCharacterDatabase.h"
+#include "StoreMessages.h"
 
 #include "ByteReader.h"
 #include "DatabaseLoadException.h"
@@ -46,11 +47,11 @@ FileCharacterDatabase::FileCharacterDatabase(const std::string& path)
     // file (or a link to one) is a database.
     m_descriptor = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (m_descriptor < 0)
-        throw DatabaseLoadException("Unable to open database");
+        throw DatabaseLoadException(StoreMessage::OpenDatabase);
     try {
         struct stat info { };
         if (::fstat(m_descriptor, &info) != 0 || !S_ISREG(info.st_mode))
-            throw DatabaseLoadException("Unable to open database");
+            throw DatabaseLoadException(StoreMessage::OpenDatabase);
         const auto size = static_cast<std::uint64_t>(info.st_size);
         if (size <= MaxInMemorySize) {
             // One read of the whole file; a file that changes size meanwhile keeps what was read.
@@ -71,14 +72,14 @@ FileCharacterDatabase::FileCharacterDatabase(const std::string& path)
         }
         RecordBytes header;
         if (!ReadAt(0, HeaderSize, header))
-            throw DatabaseLoadException("Unable to read database header");
+            throw DatabaseLoadException(StoreMessage::ReadHeader);
         m_elementDictionary = ReadDictionary(LittleU32(header.data));
         m_characterDictionary = ReadDictionary(LittleU32(header.data + 4));
         m_categoryDictionaryOffset = LittleU32(header.data + 8);
         m_categoryDictionary = ReadDictionary(m_categoryDictionaryOffset);
     } catch (const std::bad_alloc&) {
         Close();
-        throw DatabaseLoadException("Unable to open database");
+        throw DatabaseLoadException(StoreMessage::OpenDatabase);
     } catch (...) {
         Close();
         throw;
@@ -129,14 +130,14 @@ std::vector<FileCharacterDatabase::DictionaryEntry> FileCharacterDatabase::ReadD
 {
     RecordBytes countBytes;
     if (!ReadAt(offset, 2, countBytes))
-        throw DatabaseLoadException("Unable to read dictionary");
+        throw DatabaseLoadException(StoreMessage::ReadDictionary);
     const std::uint16_t count = LittleU16(countBytes.data);
     std::vector<DictionaryEntry> entries(count);
     if (count == 0)
         return entries;
     RecordBytes raw;
     if (!ReadAt(std::uint64_t{offset} + 2, std::size_t{count} * EntrySize, raw))
-        throw DatabaseLoadException("Unable to read dictionary");
+        throw DatabaseLoadException(StoreMessage::ReadDictionary);
     for (std::size_t i = 0; i < count; ++i)
         entries[i] = {LittleU32(raw.data + i * EntrySize), LittleU16(raw.data + i * EntrySize + 4)};
     return entries;
@@ -174,21 +175,21 @@ bool FileCharacterDatabase::ElementExists(std::uint16_t id)
 std::unique_ptr<Character> FileCharacterDatabase::LoadCharacter(std::uint16_t id)
 {
     if (id >= m_characterDictionary.size())
-        throw DatabaseLoadException("Character id out of range");
+        throw DatabaseLoadException(StoreMessage::CharacterIdRange);
     if (m_preloaded && id < m_characterPresent.size()) {
         if (!m_characterPresent[id])
-            throw DatabaseLoadException("Character does not exist");
+            throw DatabaseLoadException(StoreMessage::NoCharacter);
         // Bytes held in memory cannot change: parsing them again gives the character Preload saw.
         if (!m_characterCache.empty())
             return std::make_unique<Character>(*m_characterCache[id]);
     }
     const DictionaryEntry& entry = m_characterDictionary[id];
     if (entry.offset == NoRecord)
-        throw DatabaseLoadException("Character does not exist");
+        throw DatabaseLoadException(StoreMessage::NoCharacter);
     RecordBytes record;
     if (!ReadRecord(entry, record))
-        throw DatabaseLoadException("Unable to load character");
-    ByteReader reader(record.data, record.size, "Unable to load character");
+        throw DatabaseLoadException(StoreMessage::LoadCharacter);
+    ByteReader reader(record.data, record.size, StoreMessage::LoadCharacter);
     auto character = std::make_unique<Character>();
     character->SetId(id);
     character->SetElementId(reader.U16());
@@ -202,9 +203,9 @@ void FileCharacterDatabase::CheckCharacter(std::uint16_t id) const
 {
     RecordBytes record;
     if (!ReadRecord(m_characterDictionary[id], record))
-        throw DatabaseLoadException("Unable to load character");
+        throw DatabaseLoadException(StoreMessage::LoadCharacter);
     // What LoadCharacter reads, in the same order and with the same checks.
-    ByteReader reader(record.data, record.size, "Unable to load character");
+    ByteReader reader(record.data, record.size, StoreMessage::LoadCharacter);
     reader.Skip(2); // element id
     for (int text = 0; text < 3; ++text) // ON reading, KUN reading, meaning
         reader.Skip(reader.U8());
@@ -213,10 +214,10 @@ void FileCharacterDatabase::CheckCharacter(std::uint16_t id) const
 std::unique_ptr<Element> FileCharacterDatabase::LoadElement(std::uint16_t id)
 {
     if (id >= m_elementDictionary.size())
-        throw DatabaseLoadException("Element id out of range");
+        throw DatabaseLoadException(StoreMessage::ElementIdRange);
     if (m_preloaded && id < m_elementPresent.size()) {
         if (!m_elementPresent[id])
-            throw DatabaseLoadException("Element does not exist");
+            throw DatabaseLoadException(StoreMessage::NoElement);
         // Bytes held in memory cannot change: parsing them again gives the element Preload saw.
         if (m_elementCache.empty())
             return LoadTopLevelElement(id);
@@ -240,17 +241,17 @@ std::unique_ptr<Element> FileCharacterDatabase::LoadTopLevelElement(std::uint16_
     try {
         return ParseElement(id);
     } catch (const std::bad_alloc&) {
-        throw DatabaseLoadException("Unable to load element");
+        throw DatabaseLoadException(StoreMessage::LoadElement);
     }
 }
 
 const Element& FileCharacterDatabase::LoadPart(std::uint16_t id)
 {
     if (id >= m_elementDictionary.size())
-        throw DatabaseLoadException("Element id out of range");
+        throw DatabaseLoadException(StoreMessage::ElementIdRange);
     // Refuse cycles and runaway nesting.
     if (std::find(m_loading.begin(), m_loading.end(), id) != m_loading.end() || m_loading.size() > MaxCompositionDepth)
-        throw DatabaseLoadException("Unable to load element");
+        throw DatabaseLoadException(StoreMessage::LoadElement);
     auto& part = m_composeMemo[id];
     if (!part)
         part = ParseElement(id);
@@ -261,8 +262,8 @@ std::optional<std::size_t> FileCharacterDatabase::CheckPlainElement(std::uint16_
 {
     RecordBytes record;
     if (!ReadRecord(m_elementDictionary[id], record))
-        throw DatabaseLoadException("Unable to load element");
-    ByteReader reader(record.data, record.size, "Unable to load element");
+        throw DatabaseLoadException(StoreMessage::LoadElement);
+    ByteReader reader(record.data, record.size, StoreMessage::LoadElement);
     LoadBudget budget;
     return CheckPlainElementRecord(reader, budget);
 }
@@ -271,14 +272,14 @@ std::unique_ptr<Element> FileCharacterDatabase::ParseElement(std::uint16_t id)
 {
     RecordBytes record;
     if (!ReadRecord(m_elementDictionary[id], record))
-        throw DatabaseLoadException("Unable to load element");
+        throw DatabaseLoadException(StoreMessage::LoadElement);
     m_loading.push_back(id);
     struct PopOnExit {
         std::vector<std::uint16_t>& stack;
         ~PopOnExit() { stack.pop_back(); }
     } pop{m_loading};
     auto element = std::make_unique<Element>(id);
-    ByteReader reader(record.data, record.size, "Unable to load element");
+    ByteReader reader(record.data, record.size, StoreMessage::LoadElement);
     ParseElementRecord(
         reader, *element, [this](std::uint16_t placed) -> const Element& { return LoadPart(placed); }, m_budget);
     return element;
@@ -289,20 +290,20 @@ std::unique_ptr<Category> FileCharacterDatabase::LoadCategory(std::uint16_t id)
     // Deliberately a strict greater-than: an id equal to the count reads the six bytes that
     // follow the last dictionary entry as if they were one more entry.
     if (id > m_categoryDictionary.size())
-        throw DatabaseLoadException("No such category");
+        throw DatabaseLoadException(StoreMessage::NoCategory);
     DictionaryEntry entry;
     if (id < m_categoryDictionary.size()) {
         entry = m_categoryDictionary[id];
     } else {
         RecordBytes raw;
         if (!ReadAt(std::uint64_t{m_categoryDictionaryOffset} + 2 + EntrySize * id, EntrySize, raw))
-            throw DatabaseLoadException("Unable to load category");
+            throw DatabaseLoadException(StoreMessage::LoadCategory);
         entry = {LittleU32(raw.data), LittleU16(raw.data + 4)};
     }
     RecordBytes record;
     if (!ReadRecord(entry, record))
-        throw DatabaseLoadException("Unable to load category");
-    ByteReader reader(record.data, record.size, "Unable to load category");
+        throw DatabaseLoadException(StoreMessage::LoadCategory);
+    ByteReader reader(record.data, record.size, StoreMessage::LoadCategory);
     auto category = std::make_unique<Category>();
     category->SetId(id);
     category->SetName(reader.ShortString());
@@ -373,7 +374,7 @@ void FileCharacterDatabase::Preload(DatabaseProgress* progress)
                 items = ItemCount(*element);
             }
             if (*items > MaxPreloadItems - m_preloadItems)
-                throw DatabaseLoadException("Unable to load element");
+                throw DatabaseLoadException(StoreMessage::LoadElement);
             m_preloadItems += *items;
         }
         m_elementPresent.push_back(present);

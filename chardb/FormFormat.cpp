@@ -1,11 +1,11 @@
 #include "FormFormat.h"
+#include "StoreMessages.h"
 
 #include "ByteWriter.h"
 #include "DatabaseLoadException.h"
 
 namespace {
 
-const char* const LoadElementFailed = "Unable to load element";
 
 Point ReadPoint(ByteReader& reader)
 {
@@ -75,7 +75,7 @@ void ParseComposition(ByteReader& reader, Form& form, const ElementLoader& load,
         const std::size_t addedSegments = SegmentCount(source);
         if (form.Strokes().size() + source.Strokes().size() > LoadBudget::MaxFormStrokes
             || segments + addedSegments > LoadBudget::MaxFormSegments)
-            throw ZavorenCommon::DatabaseLoadException(LoadElementFailed);
+            throw ZavorenCommon::DatabaseLoadException(StoreMessage::LoadElement);
         budget.Spend(source.Strokes().size() + addedSegments);
         segments += addedSegments;
         ComposePlacement(form, source, p);
@@ -92,7 +92,7 @@ Point Map(Point p, float sx, float sy, float ox, float oy)
 void LoadBudget::Spend(std::size_t count)
 {
     if (count > MaxLoadItems - spent)
-        throw ZavorenCommon::DatabaseLoadException(LoadElementFailed);
+        throw ZavorenCommon::DatabaseLoadException(StoreMessage::LoadElement);
     spent += count;
 }
 

@@ -53,44 +53,18 @@ StrokeChecker::StrokeChecker(const Form& form, CanvasRect canvas, std::uint32_t 
     }
 }
 
-float StrokeChecker::Score(const StrokePath& ink, std::uint16_t index) const
+StrokeChecker::Ink StrokeChecker::Prepare(const StrokePath& ink) const
 {
-    if (index >= m_templates.size())
-        return -1.0f;
-    StrokePath drawn;
-    ink.Resample(m_sampleCount, drawn);
-    // Ink without length (a click) has no shape to compare: refused outright.
+    Ink prepared;
+    ink.Resample(m_sampleCount, prepared.centred);
+    const StrokePath& drawn = prepared.centred;
+    // Ink without length (a click) has no shape to compare.
     if (drawn.Count() == 0)
-        return -1.0f;
-    const CanvasRect b = drawn.Bounds();
-    const CanvasRect t = m_bounds[index];
-    const float dx = (b.x + b.width * 0.5f) - (t.x + t.width * 0.5f);
-    const float dy = (b.y + b.height * 0.5f) - (t.y + t.height * 0.5f);
-    const float distance = std::sqrt(dx * dx + dy * dy);
-    if (distance > PositionTolerance * m_canvas.width)
-        return -1.0f;
-    drawn.Centre();
-    const float drawnLength = drawn.Length();
-    const float expectedLength = m_templates[index].Length();
-    const float ratio = drawnLength <= expectedLength ? drawnLength / expectedLength : expectedLength / drawnLength;
-    // Two lengths of 0 give no ratio (NaN), which this test lets through.
-    if (ratio < SizeTolerance)
-        return -1.0f;
-    return Match(m_templates[index], drawn);
-}
-
-StrokeChecker::Measures StrokeChecker::Measure(const StrokePath& ink, std::uint16_t index) const
-{
-    // Step for step the tests of Score, so that a verdict never disagrees with it.
-    Measures m;
-    StrokePath drawn;
-    ink.Resample(m_sampleCount, drawn);
-    if (drawn.Count() == 0 || index >= m_templates.size())
-        return m;
-    m.hasLength = true;
-    const CanvasRect t = m_bounds[index];
+        return prepared;
+    prepared.hasLength = true;
+    prepared.bounds = drawn.Bounds();
     // The way to the expected place is measured on the points themselves: ink dragged past the
-    // canvas's edge has negative coordinates, which the box above cannot hold.
+    // canvas's edge has negative coordinates, which the box cannot hold.
     float left = drawn.Points().front().x, right = left, top = drawn.Points().front().y, bottom = top;
     for (Point p : drawn.Points()) {
         left = std::min(left, p.x);
@@ -98,33 +72,45 @@ StrokeChecker::Measures StrokeChecker::Measure(const StrokePath& ink, std::uint1
         top = std::min(top, p.y);
         bottom = std::max(bottom, p.y);
     }
-    m.drawnX = (left + right) * 0.5f;
-    m.drawnY = (top + bottom) * 0.5f;
-    m.dx = (t.x + t.width * 0.5f) - m.drawnX;
-    m.dy = (t.y + t.height * 0.5f) - m.drawnY;
-    m.placeFits = PlaceFits(drawn.Bounds(), index);
-    drawn.Centre();
-    m.drawnLength = drawn.Length();
-    m.expectedLength = m_templates[index].Length();
-    const float ratio
-        = m.drawnLength <= m.expectedLength ? m.drawnLength / m.expectedLength : m.expectedLength / m.drawnLength;
-    m.sizeFits = !(ratio < SizeTolerance);
-    return m;
+    prepared.centreX = (left + right) * 0.5f;
+    prepared.centreY = (top + bottom) * 0.5f;
+    prepared.centred.Centre();
+    prepared.length = prepared.centred.Length();
+    return prepared;
 }
 
-CanvasRect StrokeChecker::DrawnBounds(const StrokePath& ink) const
+StrokeChecker::Evaluation StrokeChecker::Evaluate(const Ink& ink, std::uint16_t index) const
 {
-    StrokePath drawn;
-    ink.Resample(m_sampleCount, drawn);
-    return drawn.Count() == 0 ? CanvasRect{} : drawn.Bounds();
-}
-
-bool StrokeChecker::PlaceFits(CanvasRect b, std::uint16_t index) const
-{
-    const CanvasRect t = m_bounds.at(index);
+    using Fit = Evaluation::Fit;
+    Evaluation e;
+    if (index >= m_templates.size())
+        return e;
+    if (!ink.hasLength) {
+        e.fit = Fit::NoLength;
+        return e;
+    }
+    const CanvasRect b = ink.bounds;
+    const CanvasRect t = m_bounds[index];
+    e.dx = (t.x + t.width * 0.5f) - ink.centreX;
+    e.dy = (t.y + t.height * 0.5f) - ink.centreY;
     const float dx = (b.x + b.width * 0.5f) - (t.x + t.width * 0.5f);
     const float dy = (b.y + b.height * 0.5f) - (t.y + t.height * 0.5f);
-    return !(std::sqrt(dx * dx + dy * dy) > PositionTolerance * m_canvas.width);
+    if (std::sqrt(dx * dx + dy * dy) > PositionTolerance * m_canvas.width) {
+        e.fit = Fit::Misplaced;
+        return e;
+    }
+    e.drawnLength = ink.length;
+    e.expectedLength = m_templates[index].Length();
+    const float ratio
+        = e.drawnLength <= e.expectedLength ? e.drawnLength / e.expectedLength : e.expectedLength / e.drawnLength;
+    // Two lengths of 0 give no ratio (NaN), which this test lets through.
+    if (ratio < SizeTolerance) {
+        e.fit = Fit::WrongSize;
+        return e;
+    }
+    e.score = Match(m_templates[index], ink.centred);
+    e.fit = e.score >= 1.0f ? Fit::Accepted : Fit::WrongShape;
+    return e;
 }
 
 float StrokeChecker::Match(const StrokePath& expected, const StrokePath& drawn) const

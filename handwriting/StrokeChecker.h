@@ -28,29 +28,49 @@ public:
     /// Builds one template and one bounding box per stroke of `form`, laid out on `canvas`.
     StrokeChecker(const Form& form, CanvasRect canvas, std::uint32_t sampleCount = PageSampleCount);
 
-    /// Scores learner ink (canvas pixels) against expected stroke `index`: -1.0 when refused
-    /// outright (no such stroke, misplaced, wrong size), else a similarity where only 1.0 accepts.
-    float Score(const StrokePath& ink, std::uint16_t index) const;
-    /// What Score's place and size tests see of learner ink drawn as stroke `index`, with the
-    /// same arithmetic: where its box centre lies from the expected one, and how long it is.
-    struct Measures {
+    /// Learner ink as the checker compares it, measured once so that it can be evaluated
+    /// against several expected strokes.
+    struct Ink {
         bool hasLength = false; ///< false for ink without length (a click): nothing else is set
-        float drawnX = 0; ///< the drawn stroke's box centre, canvas pixels
-        float drawnY = 0;
-        float dx = 0; ///< expected box centre minus drawn box centre
-        float dy = 0;
-        bool placeFits = false; ///< the place test passes
-        float drawnLength = 0;
-        float expectedLength = 0;
-        bool sizeFits = false; ///< the size test passes
+        CanvasRect bounds; ///< the resampled ink's box, as the place test sees it
+        float centreX = 0; ///< the centre of the points' own box, canvas pixels (it may lie off
+        float centreY = 0; ///< the canvas, where `bounds` cannot reach)
+        StrokePath centred; ///< the resampled ink moved so that its points' mean is the origin
+        float length = 0; ///< the length of `centred`
     };
-    /// The place and size tests of Score for a stroke that exists (`index` below StrokeCount).
-    Measures Measure(const StrokePath& ink, std::uint16_t index) const;
-    /// The box Score's place test sees of the ink (resampled as Score does); empty for ink
-    /// without length.
-    CanvasRect DrawnBounds(const StrokePath& ink) const;
-    /// Score's place test for ink with these bounds, drawn as stroke `index` (below StrokeCount).
-    bool PlaceFits(CanvasRect drawnBounds, std::uint16_t index) const;
+    /// Resamples and measures learner ink (canvas pixels).
+    Ink Prepare(const StrokePath& ink) const;
+
+    /// What the checker makes of ink drawn as one expected stroke. Every test is taken once, in
+    /// this order: the stroke exists and the ink has length; place; size; shape.
+    struct Evaluation {
+        enum class Fit {
+            Accepted,
+            NoSuchStroke, ///< the index is past the last stroke
+            NoLength, ///< a click: no stroke at all
+            Misplaced, ///< the box centres are too far apart
+            WrongSize, ///< the lengths are too far apart
+            WrongShape, ///< place and size fit, a piece's shape does not
+        };
+        Fit fit = Fit::NoSuchStroke;
+        /// The score: -1.0 when refused before the shape is compared, else the shape's
+        /// similarity, where exactly 1.0 accepts.
+        float score = -1.0f;
+        float dx = 0; ///< from the ink's centre (Ink::centreX, centreY) to the expected box's
+        float dy = 0;
+        float drawnLength = 0; ///< set once the place fits
+        float expectedLength = 0;
+        bool Accepted() const { return fit == Fit::Accepted; }
+    };
+    /// Evaluates prepared ink as expected stroke `index`.
+    Evaluation Evaluate(const Ink& ink, std::uint16_t index) const;
+    /// Evaluates learner ink (canvas pixels) as expected stroke `index`.
+    Evaluation Evaluate(const StrokePath& ink, std::uint16_t index) const { return Evaluate(Prepare(ink), index); }
+    /// Scores learner ink against expected stroke `index`: -1.0 when refused outright (no such
+    /// stroke, misplaced, wrong size), else a similarity where only 1.0 accepts.
+    float Score(const StrokePath& ink, std::uint16_t index) const { return Evaluate(ink, index).score; }
+    /// Whether learner ink is accepted as expected stroke `index` (its score is exactly 1.0).
+    bool Accepts(const StrokePath& ink, std::uint16_t index) const { return Evaluate(ink, index).Accepted(); }
 
     /// Piecewise shape comparison of a centred template (carrying breaks) and a centred path.
     float Match(const StrokePath& expected, const StrokePath& drawn) const;

@@ -1,5 +1,7 @@
 #include "StrokeVerdict.h"
 
+#include "TranslationMark.h"
+
 #include <cmath>
 
 namespace {
@@ -11,75 +13,107 @@ StrokePath Reversed(const StrokePath& path)
 
 } // namespace
 
+PlaceDirection StrokeVerdict::Direction() const
+{
+    return DirectionOf(dx, dy);
+}
+
 StrokeVerdict JudgeStroke(const StrokeChecker& checker, const StrokePath& ink, std::uint16_t index)
 {
+    using Fit = StrokeChecker::Evaluation::Fit;
     StrokeVerdict verdict;
     verdict.expected = index;
     if (index >= checker.StrokeCount()) {
         verdict.kind = StrokeVerdict::Kind::CharacterComplete;
         return verdict;
     }
-    if (checker.Score(ink, index) >= 1.0f)
+    const StrokeChecker::Ink drawn = checker.Prepare(ink);
+    const StrokeChecker::Evaluation e = checker.Evaluate(drawn, index);
+    if (e.Accepted())
         return verdict;
-    // A later stroke whose place test refuses the ink would score it -1: only the others are scored.
-    const CanvasRect drawn = checker.DrawnBounds(ink);
     for (std::uint32_t later = std::uint32_t{index} + 1; later < checker.StrokeCount(); ++later) {
         const auto j = static_cast<std::uint16_t>(later);
-        if (checker.PlaceFits(drawn, j) && checker.Score(ink, j) >= 1.0f) {
+        if (checker.Evaluate(drawn, j).Accepted()) {
             verdict.kind = StrokeVerdict::Kind::WrongOrder;
             verdict.drawnAs = j;
             return verdict;
         }
     }
-    if (checker.Score(Reversed(ink), index) >= 1.0f) {
+    if (checker.Accepts(Reversed(ink), index)) {
         verdict.kind = StrokeVerdict::Kind::WrongDirection;
         return verdict;
     }
-    const StrokeChecker::Measures m = checker.Measure(ink, index);
-    if (!m.hasLength) {
-        verdict.kind = StrokeVerdict::Kind::TooShort; // a click: no stroke at all
-    } else if (!m.placeFits) {
+    switch (e.fit) {
+    case Fit::Misplaced:
         verdict.kind = StrokeVerdict::Kind::WrongPlace;
-        verdict.fromX = m.drawnX;
-        verdict.fromY = m.drawnY;
-        verdict.dx = m.dx;
-        verdict.dy = m.dy;
-    } else if (!m.sizeFits) {
-        verdict.kind = m.drawnLength < m.expectedLength ? StrokeVerdict::Kind::TooShort : StrokeVerdict::Kind::TooLong;
-    } else {
-        verdict.kind = StrokeVerdict::Kind::WrongShape;
+        verdict.fromX = drawn.centreX;
+        verdict.fromY = drawn.centreY;
+        verdict.dx = e.dx;
+        verdict.dy = e.dy;
+        break;
+    case Fit::WrongSize:
+        verdict.kind = e.drawnLength < e.expectedLength ? StrokeVerdict::Kind::TooShort : StrokeVerdict::Kind::TooLong;
+        break;
+    case Fit::WrongShape: verdict.kind = StrokeVerdict::Kind::WrongShape; break;
+    case Fit::NoLength: // a click: no stroke at all
+    case Fit::NoSuchStroke:
+    case Fit::Accepted: verdict.kind = StrokeVerdict::Kind::TooShort; break;
     }
     return verdict;
 }
 
-std::string PlaceDirection(float dx, float dy)
+PlaceDirection DirectionOf(float dx, float dy)
 {
-    const char* across = dx < 0 ? "left" : "right";
-    const char* upDown = dy < 0 ? "up" : "down";
+    const bool left = dx < 0, up = dy < 0;
     if (std::fabs(dx) > 2 * std::fabs(dy))
-        return across;
+        return left ? PlaceDirection::Left : PlaceDirection::Right;
     if (std::fabs(dy) > 2 * std::fabs(dx))
-        return upDown;
-    return std::string(upDown) + " and to the " + across;
+        return up ? PlaceDirection::Up : PlaceDirection::Down;
+    if (up)
+        return left ? PlaceDirection::UpLeft : PlaceDirection::UpRight;
+    return left ? PlaceDirection::DownLeft : PlaceDirection::DownRight;
+}
+
+const char* VerdictSentence(const StrokeVerdict& verdict, bool direction)
+{
+    using Kind = StrokeVerdict::Kind;
+    switch (verdict.kind) {
+    case Kind::Accepted: return "";
+    case Kind::WrongOrder: return QT_TRANSLATE_NOOP("WritingCoach", "Wrong order: that is stroke %1. Write stroke %2 first.");
+    case Kind::WrongDirection: return QT_TRANSLATE_NOOP("WritingCoach", "Wrong direction: start this stroke from the other end.");
+    case Kind::WrongPlace:
+        if (!direction)
+            return QT_TRANSLATE_NOOP("WritingCoach", "Wrong place.");
+        // Whole sentences for each way, so that every language can say it its own way.
+        switch (verdict.Direction()) {
+        case PlaceDirection::Up: return QT_TRANSLATE_NOOP("WritingCoach", "Wrong place: this stroke belongs further up.");
+        case PlaceDirection::Down: return QT_TRANSLATE_NOOP("WritingCoach", "Wrong place: this stroke belongs further down.");
+        case PlaceDirection::Left: return QT_TRANSLATE_NOOP("WritingCoach", "Wrong place: this stroke belongs further left.");
+        case PlaceDirection::Right: return QT_TRANSLATE_NOOP("WritingCoach", "Wrong place: this stroke belongs further right.");
+        case PlaceDirection::UpLeft:
+            return QT_TRANSLATE_NOOP("WritingCoach", "Wrong place: this stroke belongs further up and to the left.");
+        case PlaceDirection::UpRight:
+            return QT_TRANSLATE_NOOP("WritingCoach", "Wrong place: this stroke belongs further up and to the right.");
+        case PlaceDirection::DownLeft:
+            return QT_TRANSLATE_NOOP("WritingCoach", "Wrong place: this stroke belongs further down and to the left.");
+        case PlaceDirection::DownRight:
+            return QT_TRANSLATE_NOOP("WritingCoach", "Wrong place: this stroke belongs further down and to the right.");
+        }
+        return "";
+    case Kind::TooShort: return QT_TRANSLATE_NOOP("WritingCoach", "Too short: this stroke is longer.");
+    case Kind::TooLong: return QT_TRANSLATE_NOOP("WritingCoach", "Too long: this stroke is shorter.");
+    case Kind::WrongShape: return QT_TRANSLATE_NOOP("WritingCoach", "Wrong shape: compare it with the model.");
+    case Kind::CharacterComplete: return QT_TRANSLATE_NOOP("WritingCoach", "The character is already complete.");
+    }
+    return "";
 }
 
 std::string VerdictText(const StrokeVerdict& verdict, bool direction)
 {
-    using Kind = StrokeVerdict::Kind;
-    switch (verdict.kind) {
-    case Kind::Accepted: return {};
-    case Kind::WrongOrder:
-        return "Wrong order: that is stroke " + std::to_string(verdict.drawnAs + 1) + ". Write stroke "
-            + std::to_string(verdict.expected + 1) + " first.";
-    case Kind::WrongDirection: return "Wrong direction: start this stroke from the other end.";
-    case Kind::WrongPlace:
-        if (!direction)
-            return "Wrong place.";
-        return "Wrong place: this stroke belongs further " + PlaceDirection(verdict.dx, verdict.dy) + ".";
-    case Kind::TooShort: return "Too short: this stroke is longer.";
-    case Kind::TooLong: return "Too long: this stroke is shorter.";
-    case Kind::WrongShape: return "Wrong shape: compare it with the model.";
-    case Kind::CharacterComplete: return "The character is already complete.";
-    }
-    return {};
+    std::string text = VerdictSentence(verdict, direction);
+    const std::pair<const char*, int> numbers[] = {{"%1", verdict.drawnAs + 1}, {"%2", verdict.expected + 1}};
+    for (const auto& [mark, number] : numbers)
+        if (const auto at = text.find(mark); at != std::string::npos)
+            text.replace(at, 2, std::to_string(number));
+    return text;
 }

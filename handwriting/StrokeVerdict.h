@@ -6,9 +6,12 @@
 #include <cstdint>
 #include <string>
 
+/// The way from where a stroke was drawn to where it belongs (y grows downwards).
+enum class PlaceDirection { Left, Right, Up, Down, UpLeft, UpRight, DownLeft, DownRight };
+
 /// Why a learner's stroke was refused, or that it was accepted, worked out with the checker's
-/// own tests. Pages switch on the kind and show its text; the checker's decision is unchanged:
-/// a stroke that StrokeChecker::Score accepts is always Accepted.
+/// own evaluation. Pages switch on the kind and show its sentence; the checker's decision is
+/// unchanged: a stroke that StrokeChecker accepts is always Accepted.
 struct StrokeVerdict {
     enum class Kind {
         Accepted,
@@ -28,19 +31,27 @@ struct StrokeVerdict {
     float fromY = 0;
     float dx = 0; ///< WrongPlace: from there to the expected stroke's box centre
     float dy = 0;
+
+    /// WrongPlace: which way the stroke belongs.
+    PlaceDirection Direction() const;
 };
 
 /// Judges ink drawn as stroke `index`, checking in this order: accepted; a later stroke (the
 /// first that accepts it); the expected stroke reversed; place; size; shape. An index past the
-/// last stroke is CharacterComplete. Scores up to every later stroke, so it is for refused
-/// strokes what Score is for accepted ones.
+/// last stroke is CharacterComplete. Evaluates up to every later stroke, so it is for refused
+/// strokes what the checker's acceptance is for accepted ones.
 StrokeVerdict JudgeStroke(const StrokeChecker& checker, const StrokePath& ink, std::uint16_t index);
 
-/// Where a misplaced stroke belongs, seen from where it was drawn (y grows downwards): "left",
-/// "right", "up" or "down" when one axis is more than twice the other, otherwise "up and to the
-/// left", "down and to the right" and so on.
-std::string PlaceDirection(float dx, float dy);
+/// The way of a move by (dx, dy): straight left, right, up or down when one axis is more than
+/// twice the other, otherwise diagonal.
+PlaceDirection DirectionOf(float dx, float dy);
 
-/// The verdict in words, as the learner reads it. Without `direction` a misplaced stroke says
-/// only "Wrong place." (the drawing test gives nothing away). Accepted has no text.
+/// The sentence the learner reads for a verdict, in English, as the interface translates it
+/// (context "WritingCoach"); a WrongOrder sentence holds %1 (the stroke drawn) and %2 (the
+/// stroke expected), counted from 1. Without `direction` a misplaced stroke says only "Wrong
+/// place." (the drawing test gives nothing away). Accepted has no sentence (empty).
+const char* VerdictSentence(const StrokeVerdict& verdict, bool direction = true);
+
+/// The verdict's sentence in English with its numbers filled in, as the command-line tool
+/// prints it.
 std::string VerdictText(const StrokeVerdict& verdict, bool direction = true);

@@ -13,7 +13,7 @@ void WritingQuiz::Start(std::unique_ptr<Element> glyph, CanvasRect canvas)
 
 bool WritingQuiz::Accepts(const StrokePath& ink) const
 {
-    return m_checker && m_checker->Score(ink, m_kept) >= 1.0f;
+    return m_checker && m_checker->Accepts(ink, m_kept);
 }
 
 StrokeVerdict WritingQuiz::Judge(const StrokePath& ink) const

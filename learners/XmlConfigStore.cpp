@@ -1,4 +1,5 @@
 #include "XmlConfigStore.h"
+#include "StoreMessages.h"
 
 #include "AtomicFile.h"
 #include "ConfigException.h"
@@ -25,8 +26,6 @@ using ZavorenCommon::ConfigException;
 
 namespace {
 
-const char* const SaveFailed = "Unable to save config";
-const char* const LoadFailed = "Unable to load config";
 
 /// Deepest element nesting a learner file may have. The program writes six levels (the document
 /// element, Users, User, Progress, Learned, Character); anything far deeper was not written by
@@ -37,13 +36,6 @@ constexpr unsigned MaxDepth = 64;
 /// milliseconds, so such a file was left by a save that was killed before its rename.
 constexpr auto StaleTemporaryAge = std::chrono::minutes(1);
 
-std::string Format(const char* format, const char* a, const char* b = "", const char* c = "")
-{
-    const int n = std::snprintf(nullptr, 0, format, a, b, c);
-    std::string out(static_cast<std::size_t>(n), '\0');
-    std::snprintf(out.data(), out.size() + 1, format, a, b, c);
-    return out;
-}
 
 /// The whole content of a regular file; false when it cannot be read.
 bool ReadWholeFile(const std::string& path, std::string& text)
@@ -109,7 +101,7 @@ XmlConfigStore::XmlConfigStore(std::string path, DatabaseSource database) : m_pa
     try {
         Open(database);
     } catch (const std::bad_alloc&) {
-        throw ConfigException(LoadFailed);
+        throw ConfigException(StoreMessage::LoadConfig);
     }
 }
 
@@ -117,18 +109,18 @@ void XmlConfigStore::Open(const DatabaseSource& database)
 {
     struct stat info { };
     if (::stat(m_path.c_str(), &info) != 0)
-        throw ConfigException("Config file does not exist. Try to reinstall Zavoren.");
+        throw ConfigException(StoreMessage::NoConfig);
     // Read-only: no write permission on the file at all, or none for this user.
     if ((info.st_mode & 0222) == 0 || ::access(m_path.c_str(), W_OK) != 0)
-        throw ConfigException("Config file is ReadOnly. Check file attirbutes or reinstall Zavoren.");
+        throw ConfigException(StoreMessage::ReadOnlyConfig);
     const unsigned options = pugi::parse_default | pugi::parse_declaration | pugi::parse_comments;
     if (!S_ISREG(info.st_mode) || !ReadWholeFile(m_path, m_fileText)
         || !m_document.load_buffer(m_fileText.data(), m_fileText.size(), options) || !m_document.document_element()
         || !UsersNode())
-        throw ConfigException(LoadFailed);
+        throw ConfigException(StoreMessage::LoadConfig);
     m_fileStamp = FileStamp(m_path);
     if (NestedAtLeast(m_document, static_cast<int>(MaxDepth)))
-        throw ConfigException(LoadFailed);
+        throw ConfigException(StoreMessage::LoadConfig);
     // The document is written back as UTF-8 whatever it was read as; its declaration says so.
     for (pugi::xml_node node = m_document.first_child(); node; node = node.next_sibling())
         if (node.type() == pugi::node_declaration && node.attribute("encoding"))
@@ -144,17 +136,16 @@ void XmlConfigStore::Open(const DatabaseSource& database)
 
 pugi::xml_node XmlConfigStore::UsersNode() const
 {
-    return m_document.document_element().select_node(Format("%s", "Users").c_str()).node();
+    return m_document.document_element().select_node("Users").node();
 }
 
-pugi::xml_node XmlConfigStore::FindUser(const char* format, const std::string& name) const
+pugi::xml_node XmlConfigStore::FindUser(const std::string& name) const
 {
     // The name is pasted into the query as a quoted literal: a name holding an apostrophe
     // would end the literal and change what the query asks, so such a name matches nobody.
     if (name.find('\'') != std::string::npos)
         return {};
-    const std::string query = std::strcmp(format, "User[@%s='%s']") == 0 ? Format(format, "name", name.c_str())
-                                                                         : Format(format, "User", "name", name.c_str());
+    const std::string query = "User[@name='" + name + "']";
     try {
         return UsersNode().select_node(query.c_str()).node();
     } catch (const pugi::xpath_exception&) {
@@ -178,7 +169,7 @@ std::unique_ptr<User> XmlConfigStore::LoadUser(const std::string& name)
     try {
         return ReadUser(name);
     } catch (const std::bad_alloc&) {
-        throw ConfigException(LoadFailed);
+        throw ConfigException(StoreMessage::LoadConfig);
     }
 }
 
@@ -186,7 +177,7 @@ std::unique_ptr<User> XmlConfigStore::ReadUser(const std::string& name)
 {
     if (name.empty())
         return nullptr;
-    const pugi::xml_node node = FindUser("%s[@%s='%s']", name);
+    const pugi::xml_node node = FindUser(name);
     if (!node)
         return nullptr;
     auto user = std::make_unique<User>();
@@ -203,7 +194,7 @@ bool XmlConfigStore::AddUser(const std::string& name)
         // A name holding an apostrophe could never be found again: refuse it like a taken name.
         if (name.empty() || name.find('\'') != std::string::npos)
             return false;
-        if (FindUser("%s[@%s='%s']", name))
+        if (FindUser(name))
             return false;
         pugi::xml_node user = UsersNode().append_child("User");
         if (!user)
@@ -212,14 +203,14 @@ bool XmlConfigStore::AddUser(const std::string& name)
         m_userNames.push_back(name);
         return SaveFile();
     } catch (const std::bad_alloc&) {
-        throw ConfigException(SaveFailed);
+        throw ConfigException(StoreMessage::SaveConfig);
     }
 }
 
 bool XmlConfigStore::DeleteUser(const std::string& name)
 {
     try {
-        const pugi::xml_node node = FindUser("User[@%s='%s']", name);
+        const pugi::xml_node node = FindUser(name);
         if (!node || !UsersNode().remove_child(node))
             return false;
         for (auto it = m_userNames.begin(); it != m_userNames.end(); ++it)
@@ -231,7 +222,7 @@ bool XmlConfigStore::DeleteUser(const std::string& name)
             SetCurrentUser("");
         return SaveFile();
     } catch (const std::bad_alloc&) {
-        throw ConfigException(SaveFailed);
+        throw ConfigException(StoreMessage::SaveConfig);
     }
 }
 
@@ -240,14 +231,14 @@ bool XmlConfigStore::SaveUser(User& user)
     try {
         return WriteUser(user);
     } catch (const std::bad_alloc&) {
-        throw ConfigException(SaveFailed);
+        throw ConfigException(StoreMessage::SaveConfig);
     }
 }
 
 bool XmlConfigStore::WriteUser(User& user)
 {
     const std::string name = user.Name() ? user.Name() : "";
-    pugi::xml_node node = FindUser("%s[@%s='%s']", name);
+    pugi::xml_node node = FindUser(name);
     if (node) {
         while (node.first_child())
             node.remove_child(node.first_child());
@@ -293,7 +284,7 @@ bool XmlConfigStore::SaveFile()
     try {
         text = DocumentText(m_document, m_fileText.size() + m_fileText.size() / 16);
     } catch (const std::bad_alloc&) {
-        throw ConfigException(SaveFailed);
+        throw ConfigException(StoreMessage::SaveConfig);
     }
 
     // The very text the file holds, untouched since: nothing to write (closing without a change
@@ -316,14 +307,14 @@ bool XmlConfigStore::SaveFile()
         return true;
     case FileWrite::Failed: break;
     }
-    throw ConfigException(SaveFailed);
+    throw ConfigException(StoreMessage::SaveConfig);
 }
 
 bool XmlConfigStore::RewriteInPlace(const std::string& text)
 {
     const int fd = ::open(m_path.c_str(), O_RDWR | O_CLOEXEC);
     if (fd < 0)
-        throw ConfigException(SaveFailed);
+        throw ConfigException(StoreMessage::SaveConfig);
     // Keep what the file held, to put it back if the new text cannot be written whole.
     std::string previous;
     char buffer[65536];
@@ -333,7 +324,7 @@ bool XmlConfigStore::RewriteInPlace(const std::string& text)
             continue;
         if (n < 0) {
             ::close(fd);
-            throw ConfigException(SaveFailed);
+            throw ConfigException(StoreMessage::SaveConfig);
         }
         if (n == 0)
             break;
@@ -347,6 +338,6 @@ bool XmlConfigStore::RewriteInPlace(const std::string& text)
         replace(previous);
     const bool closed = ::close(fd) == 0;
     if (!written || !closed)
-        throw ConfigException(SaveFailed);
+        throw ConfigException(StoreMessage::SaveConfig);
     return true;
 }

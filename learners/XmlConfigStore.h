@@ -51,7 +51,8 @@ private:
     bool WriteUser(User& user);
     bool RewriteInPlace(const std::string& text);
     pugi::xml_node UsersNode() const;
-    pugi::xml_node FindUser(const char* format, const std::string& name) const;
+    /// The learner element of this name (the query "User[@name='NAME']"), or none.
+    pugi::xml_node FindUser(const std::string& name) const;
 
     pugi::xml_document m_document;
     std::vector<std::string> m_userNames;

@@ -1,4 +1,5 @@
 #include "GlyphLoading.h"
+#include "StoreMessages.h"
 
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
@@ -11,12 +12,12 @@ std::unique_ptr<Element> LoadGlyphOrReport(
         auto glyph = database.LoadElement(elementId);
         if (glyph->FormCount() > 0)
             return glyph;
-        prompt.StoreError(parent, DatabaseErrorTitle, "Unable to load element");
+        prompt.StoreError(parent, DatabaseErrorTitle, StoreMessage::LoadElement);
     } catch (const ZavorenCommon::DatabaseLoadException& e) {
         prompt.StoreError(parent, DatabaseErrorTitle, e.what());
     } catch (const std::out_of_range&) {
         // A composed form naming a form its element lacks.
-        prompt.StoreError(parent, DatabaseErrorTitle, "Unable to load element");
+        prompt.StoreError(parent, DatabaseErrorTitle, StoreMessage::LoadElement);
     }
     return nullptr;
 }

@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
 # Fails when a translation is unfinished or when the .ts files are not up to date with the
 # sources (running lupdate over them would change them).
-#   check_translations.sh SOURCE_DIR LUPDATE
+#   check_translations.sh SOURCE_DIR LUPDATE SOURCES...   (the sources as the build lists them)
 set -euo pipefail
 source_dir=$1
 lupdate=$2
+shift 2
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$source_dir"
@@ -13,7 +14,7 @@ for ts in translations/zavoren_*.ts; do
     cp "$ts" "$work/"
 done
 "$lupdate" -extensions cpp,h,ui -locations none -no-obsolete -silent \
-    widgets learners lessons progress shell resources/forms -ts "$work"/zavoren_*.ts 2>/dev/null
+    "$@" -ts "$work"/zavoren_*.ts 2>/dev/null
 for ts in translations/zavoren_*.ts; do
     name=$(basename "$ts")
     if ! cmp -s "$ts" "$work/$name"; then

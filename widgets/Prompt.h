@@ -10,7 +10,7 @@ inline constexpr const char* DatabaseErrorTitle = QT_TRANSLATE_NOOP("ZavorenComm
 inline constexpr const char* ConfigurationErrorTitle = QT_TRANSLATE_NOOP("ZavorenCommon", "Zavoren Configuration Error");
 
 /// A data store's title or message in the learner's language (the text itself when it has no
-/// translation). The stores' messages are listed for translation in StoreMessages.cpp.
+/// translation). The stores' messages are listed for translation in StoreMessages.h.
 inline QString StoreText(const char* text)
 {
     return QCoreApplication::translate("ZavorenCommon", text);
