@@ -9,7 +9,6 @@
 #include "InputCanvas.h"
 #include "Page.h"
 #include "Prompt.h"
-#include "WritingCursor.h"
 #include "ui_DrawingTestPage.h"
 
 namespace {
@@ -29,19 +28,24 @@ DrawingTestPage::DrawingTestPage(CharacterDatabase& database, Prompt& prompt, QW
     MakeTextBox(KunReadingLabel(), ReadingLines, HorizontalUnits(this, TextColumnUnits));
     MakeTextBox(MeaningLabel(), MeaningLines, HorizontalUnits(this, TextColumnUnits));
     Display()->MakeSquare();
-    Input()->MakeSquare();
-    Input()->setCursor(WritingCursor());
+    m_panel = new WritingPanel(Input(), WritingCoach::Mode::Test, this);
     // Right under the writing canvas, in the grid's free row.
-    m_feedback = new FeedbackLine(this);
-    m_ui->grid->addWidget(m_feedback, 1, 1);
-    m_coach = std::make_unique<WritingCoach>(Input(), m_feedback, WritingCoach::Mode::Test);
-    connect(Input(), &InputCanvas::strokeStarted, this, [this] { m_coach->Quiet(); });
-    connect(Input(), &InputCanvas::strokeEnded, this, &DrawingTestPage::OnStrokeEnded, Qt::DirectConnection);
-    connect(Input(), &InputCanvas::strokeKept, this, &DrawingTestPage::OnStrokeKept, Qt::DirectConnection);
+    m_ui->grid->addWidget(m_panel->Line(), 1, 1);
+    connect(m_panel, &WritingPanel::strokeKept, this, &DrawingTestPage::OnStrokeKept);
     connect(Display(), &DisplayCanvas::clicked, this, &DrawingTestPage::OnDisplayClicked);
 }
 
 DrawingTestPage::~DrawingTestPage() = default;
+
+const WritingQuiz& DrawingTestPage::Quiz() const
+{
+    return m_panel->Quiz();
+}
+
+FeedbackLine* DrawingTestPage::Feedback() const
+{
+    return m_panel->Line();
+}
 
 DisplayCanvas* DrawingTestPage::Display() const
 {
@@ -67,48 +71,30 @@ QLabel* DrawingTestPage::MeaningLabel() const
 void DrawingTestPage::SetCharacter(const Character* character)
 {
     m_character = character;
-    const QRect client = Input()->ClientRect();
-    m_quiz.Start(character ? LoadGlyphOrReport(m_database, character->ElementId(), m_prompt, this) : nullptr,
-        CanvasRect{0, 0, static_cast<std::uint16_t>(client.width()), static_cast<std::uint16_t>(client.height())});
+    m_panel->Start(character ? LoadGlyphOrReport(m_database, character->ElementId(), m_prompt, this) : nullptr);
     ShowFitted(OnReadingLabel(), TextOrNotAvailable(character ? character->OnReading() : nullptr), ReadingLines);
     ShowFitted(KunReadingLabel(), TextOrNotAvailable(character ? character->KunReading() : nullptr), ReadingLines);
     ShowFitted(MeaningLabel(), TextOrNotAvailable(character ? character->Meaning() : nullptr), MeaningLines);
-    m_coach->Quiet();
     Display()->StopAnimation();
     Display()->Wipe();
-    Input()->Wipe();
-    Input()->Clear();
     // Both canvases stay enabled throughout, even once the drawing is complete.
 }
 
 bool DrawingTestPage::IsAnswered() const
 {
-    return m_quiz.IsComplete();
+    return Quiz().IsComplete();
 }
 
 void DrawingTestPage::SetCoaching(const CoachingPreferences& preferences)
 {
-    m_coach->SetPreferences(preferences);
-}
-
-void DrawingTestPage::OnStrokeEnded()
-{
-    const StrokePath ink = Input()->CurrentStroke();
-    // One judgement: accepted exactly when the checker's score accepts the stroke.
-    const StrokeVerdict verdict = m_quiz.Judge(ink);
-    if (verdict.kind != StrokeVerdict::Kind::Accepted) {
-        Input()->Undo();
-        m_quiz.StrokeRefused();
-        m_coach->Refused(verdict, ink, m_quiz.Glyph());
-    }
+    m_panel->SetCoaching(preferences);
 }
 
 void DrawingTestPage::OnStrokeKept()
 {
-    m_quiz.StrokeKept();
-    if (!m_quiz.IsComplete())
+    if (!Quiz().IsComplete())
         return;
-    if (!m_quiz.Peeked()) {
+    if (!Quiz().Peeked()) {
         Reveal();
         emit pageEvent(AnsweredCleanly, 0);
     } else {
@@ -118,19 +104,19 @@ void DrawingTestPage::OnStrokeKept()
 
 void DrawingTestPage::Reveal()
 {
-    if (const Form* glyph = m_quiz.Glyph()) {
+    if (const Form* glyph = Quiz().Glyph()) {
         Display()->ShowGlyph(*glyph);
-        m_quiz.Reveal();
+        m_panel->Quiz().Reveal();
     }
 }
 
 void DrawingTestPage::OnDisplayClicked()
 {
-    const Form* glyph = m_quiz.Glyph();
+    const Form* glyph = Quiz().Glyph();
     if (!glyph)
         return;
-    if (!m_quiz.Revealed())
+    if (!Quiz().Revealed())
         Reveal();
     else
-        Display()->StartAnimation(*glyph, 10);
+        Display()->StartAnimation(*glyph);
 }

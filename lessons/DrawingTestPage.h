@@ -2,8 +2,7 @@
 
 #include "Element.h"
 #include "QuestionPage.h"
-#include "WritingCoach.h"
-#include "WritingQuiz.h"
+#include "WritingPanel.h"
 
 #include <memory>
 
@@ -29,11 +28,11 @@ public:
     void SetCharacter(const Character* character) override;
     bool IsAnswered() const override;
 
-    bool Revealed() const { return m_quiz.Revealed(); }
-    bool Peeked() const { return m_quiz.Peeked(); }
-    const Form* Glyph() const { return m_quiz.Glyph(); }
+    bool Revealed() const { return Quiz().Revealed(); }
+    bool Peeked() const { return Quiz().Peeked(); }
+    const Form* Glyph() const { return Quiz().Glyph(); }
     /// The line under the writing canvas that says why a stroke was refused.
-    FeedbackLine* Feedback() const { return m_feedback; }
+    FeedbackLine* Feedback() const;
     /// Switches the writing aids (there is no hint after misses in a test).
     void SetCoaching(const CoachingPreferences& preferences);
     DisplayCanvas* Display() const;
@@ -43,7 +42,7 @@ public:
     QLabel* MeaningLabel() const;
 
 private:
-    void OnStrokeEnded();
+    const WritingQuiz& Quiz() const;
     void OnStrokeKept();
     void OnDisplayClicked();
     void Reveal();
@@ -52,7 +51,5 @@ private:
     CharacterDatabase& m_database;
     Prompt& m_prompt;
     const Character* m_character = nullptr;
-    WritingQuiz m_quiz;
-    FeedbackLine* m_feedback = nullptr;
-    std::unique_ptr<WritingCoach> m_coach;
+    WritingPanel* m_panel = nullptr;
 };

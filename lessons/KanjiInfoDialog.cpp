@@ -27,7 +27,7 @@ KanjiInfoDialog::KanjiInfoDialog(CharacterDatabase& database, Prompt& prompt, QW
     Display()->MakeSquare();
     connect(Display(), &DisplayCanvas::clicked, this, [this] {
         if (m_glyph)
-            Display()->StartAnimation(m_glyph->GetForm(0), 10);
+            Display()->StartAnimation(m_glyph->GetForm(0));
     });
     connect(CloseButton(), &QPushButton::clicked, this, [this] {
         Display()->StopAnimation();

@@ -8,7 +8,6 @@
 #include "GlyphLoading.h"
 #include "InputCanvas.h"
 #include "Prompt.h"
-#include "WritingCursor.h"
 #include "ui_LessonPage.h"
 
 namespace {
@@ -34,29 +33,25 @@ LessonPage::LessonPage(CharacterDatabase& database, Prompt& prompt, QWidget* par
     for (QCheckBox* box : {OnReadingBox(), KunReadingBox(), MeaningBox()})
         MakeTextBox(box, CaptionLines, HorizontalUnits(this, LeftColumnUnits));
     Display()->MakeSquare();
-    Input()->MakeSquare();
-    Input()->setCursor(WritingCursor());
+    m_panel = new WritingPanel(Input(), WritingCoach::Mode::Lesson, this);
     // Right under the writing canvas: its column grows by the line, nothing else moves.
-    m_feedback = new FeedbackLine(this);
-    m_ui->rightColumn->insertWidget(m_ui->rightColumn->indexOf(Input()) + 1, m_feedback);
-    m_coach = std::make_unique<WritingCoach>(Input(), m_feedback, WritingCoach::Mode::Lesson);
-    connect(Input(), &InputCanvas::strokeStarted, this, [this] { m_coach->Quiet(); });
-    connect(Input(), &InputCanvas::strokeEnded, this, &LessonPage::OnStrokeEnded, Qt::DirectConnection);
-    connect(Input(), &InputCanvas::strokeKept, this, &LessonPage::OnStrokeKept, Qt::DirectConnection);
+    m_ui->rightColumn->insertWidget(m_ui->rightColumn->indexOf(Input()) + 1, m_panel->Line());
+    connect(m_panel, &WritingPanel::strokeRefused, this, &LessonPage::OnStrokeRefused);
+    connect(m_panel, &WritingPanel::strokeKept, this, &LessonPage::RefreshControls);
     connect(Display(), &DisplayCanvas::clicked, this, [this] {
-        if (const Form* glyph = m_quiz.Glyph())
-            Display()->StartAnimation(*glyph, 10);
+        if (const Form* glyph = m_panel->Quiz().Glyph())
+            Display()->StartAnimation(*glyph);
     });
     for (QCheckBox* box : {OnReadingBox(), KunReadingBox(), MeaningBox()})
         connect(box, &QCheckBox::toggled, this, &LessonPage::RefreshControls);
     connect(ClearButton(), &QPushButton::clicked, this, [this] {
         Input()->Clear();
-        m_quiz.Restart();
+        m_panel->Quiz().Restart();
         RefreshControls();
     });
     connect(UndoButton(), &QPushButton::clicked, this, [this] {
         Input()->Undo();
-        m_quiz.StrokeUndone();
+        m_panel->Quiz().StrokeUndone();
         RefreshControls();
     });
     connect(HintButton(), &QPushButton::clicked, this, &LessonPage::ShowHint);
@@ -110,7 +105,12 @@ QPushButton* LessonPage::NextButton() const
 
 const Form* LessonPage::Glyph() const
 {
-    return m_quiz.Glyph();
+    return m_panel->Quiz().Glyph();
+}
+
+FeedbackLine* LessonPage::Feedback() const
+{
+    return m_panel->Line();
 }
 
 void LessonPage::StartLesson(const std::vector<std::uint16_t>& codes)
@@ -126,37 +126,31 @@ void LessonPage::LoadCharacter()
         const QSignalBlocker block(box);
         box->setChecked(false);
     }
-    m_quiz.Start(nullptr, {});
-    m_coach->Quiet();
+    m_panel->Start(nullptr);
     m_character.reset();
     Display()->StopAnimation();
     const auto code = m_session.Current();
     if (!code) {
         Display()->Wipe();
-        Input()->Wipe();
-        Input()->Clear();
         return;
     }
     CharacterWithGlyph loaded = LoadCharacterOrReport(m_database, *code, m_prompt, this);
     if (!loaded.glyph)
         return;
     m_character = std::move(loaded.character);
-    const QRect client = Input()->ClientRect();
-    m_quiz.Start(std::move(loaded.glyph),
-        CanvasRect{0, 0, static_cast<std::uint16_t>(client.width()), static_cast<std::uint16_t>(client.height())});
-    Display()->ShowGlyph(*m_quiz.Glyph());
+    m_panel->Start(std::move(loaded.glyph));
+    Display()->ShowGlyph(*Glyph());
     SetCaption(OnReadingBox(), m_character->OnReading());
     SetCaption(KunReadingBox(), m_character->KunReading());
     SetCaption(MeaningBox(), m_character->Meaning());
-    Input()->Wipe();
-    Input()->Clear();
 }
 
 void LessonPage::RefreshControls()
 {
     const bool ticked = OnReadingBox()->isChecked() && KunReadingBox()->isChecked() && MeaningBox()->isChecked();
-    const LessonControlState s = DecideLessonControls(
-        m_quiz.Glyph() != nullptr, m_quiz.StrokeCount(), m_quiz.Kept(), ticked, m_quiz.HintShown());
+    const WritingQuiz& quiz = m_panel->Quiz();
+    const LessonControlState s
+        = DecideLessonControls(quiz.Glyph() != nullptr, quiz.StrokeCount(), quiz.Kept(), ticked, quiz.HintShown());
     Input()->setEnabled(s.inputEnabled);
     NextButton()->setEnabled(s.nextEnabled);
     SetDefaultButton(s.nextIsDefault ? NextButton() : AbortButton());
@@ -167,38 +161,24 @@ void LessonPage::RefreshControls()
 
 void LessonPage::SetCoaching(const CoachingPreferences& preferences)
 {
-    m_coach->SetPreferences(preferences);
+    m_panel->SetCoaching(preferences);
 }
 
 void LessonPage::ShowHint()
 {
-    const Form* glyph = m_quiz.Glyph();
+    const Form* glyph = Glyph();
     if (!glyph)
         return;
-    Input()->ShowHint(*glyph, m_quiz.Kept());
-    m_quiz.ShowHint();
+    Input()->ShowHint(*glyph, m_panel->Quiz().Kept());
+    m_panel->Quiz().ShowHint();
     RefreshControls();
 }
 
-void LessonPage::OnStrokeEnded()
+void LessonPage::OnStrokeRefused()
 {
-    const StrokePath ink = Input()->CurrentStroke();
-    // One judgement: accepted exactly when the checker's score accepts the stroke.
-    const StrokeVerdict verdict = m_quiz.Judge(ink);
-    if (verdict.kind != StrokeVerdict::Kind::Accepted) {
-        Input()->Undo();
-        m_quiz.StrokeRefused();
-        m_coach->Refused(verdict, ink, m_quiz.Glyph());
-        // Three misses of one stroke: its start is shown, as Hint would show it.
-        if (m_coach->Preferences().hintAfterMisses && m_quiz.NeedsHelp())
-            ShowHint();
-    }
-    RefreshControls();
-}
-
-void LessonPage::OnStrokeKept()
-{
-    m_quiz.StrokeKept();
+    // Three misses of one stroke: its start is shown, as Hint would show it.
+    if (m_panel->Coaching().hintAfterMisses && m_panel->Quiz().NeedsHelp())
+        ShowHint();
     RefreshControls();
 }
 

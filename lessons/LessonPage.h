@@ -4,8 +4,7 @@
 #include "Element.h"
 #include "LessonSession.h"
 #include "Page.h"
-#include "WritingCoach.h"
-#include "WritingQuiz.h"
+#include "WritingPanel.h"
 
 #include <memory>
 #include <vector>
@@ -49,7 +48,7 @@ public:
     /// The glyph being taught, or null.
     const Form* Glyph() const;
     /// The line under the writing canvas that says why a stroke was refused.
-    FeedbackLine* Feedback() const { return m_feedback; }
+    FeedbackLine* Feedback() const;
     /// Switches the writing aids.
     void SetCoaching(const CoachingPreferences& preferences);
 
@@ -62,16 +61,13 @@ private:
     void LoadCharacter();
     void RefreshControls();
     void ShowHint();
-    void OnStrokeEnded();
-    void OnStrokeKept();
+    void OnStrokeRefused();
     void OnNext();
 
     std::unique_ptr<Ui::LessonPage> m_ui;
     CharacterDatabase& m_database;
     Prompt& m_prompt;
     std::unique_ptr<Character> m_character;
-    WritingQuiz m_quiz;
-    FeedbackLine* m_feedback = nullptr;
-    std::unique_ptr<WritingCoach> m_coach;
+    WritingPanel* m_panel = nullptr;
     LessonSession m_session;
 };

@@ -35,7 +35,7 @@ ReadingTestPage::ReadingTestPage(CharacterDatabase& database, Prompt& prompt, Se
     }
     connect(Display(), &DisplayCanvas::clicked, this, [this] {
         if (m_glyph)
-            Display()->StartAnimation(m_glyph->GetForm(0), 10);
+            Display()->StartAnimation(m_glyph->GetForm(0));
     });
 }
 

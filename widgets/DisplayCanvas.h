@@ -15,6 +15,9 @@
 class DisplayCanvas : public CanvasBase {
     Q_OBJECT
 public:
+    /// Milliseconds between two steps of the stroke-by-stroke writing, on every page.
+    static constexpr int AnimationInterval = 10;
+
     explicit DisplayCanvas(QWidget* parent = nullptr);
 
     /// Draws the whole glyph at once, smoothly, on a wiped buffer.
@@ -22,7 +25,7 @@ public:
     /// Fills the buffer with the paper colour; the glyph shown is forgotten.
     void Wipe() override;
     /// Starts writing the glyph from its first stroke, one step every `intervalMs`.
-    void StartAnimation(const Form& glyph, int intervalMs);
+    void StartAnimation(const Form& glyph, int intervalMs = AnimationInterval);
     /// Stops a running animation.
     void StopAnimation();
     /// Whether an animation runs.
