@@ -1,7 +1,6 @@
 #include "CharacterGrid.h"
 
 #include "GlyphRendering.h"
-#include "GridLayout.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -13,6 +12,13 @@ namespace {
 /// Pen width of glyphs in cells.
 constexpr int CellPenWidth = 1;
 constexpr int Margin = GridGeometry::Margin;
+/// The smallest cell side, whatever the font.
+constexpr int MinimumCellSide = 24;
+/// Where a group's title starts from the left edge.
+constexpr int TitleIndent = 13;
+/// The rule under a group's title: this long, fading from this blue into the window colour.
+constexpr int TitleRuleLength = 300;
+const QColor TitleRuleColour(61, 149, 255);
 } // namespace
 
 CharacterGrid::CharacterGrid(QWidget* parent) : QAbstractScrollArea(parent)
@@ -28,7 +34,7 @@ CharacterGrid::CharacterGrid(QWidget* parent) : QAbstractScrollArea(parent)
     m_itemFont.setPointSize(8);
     // 31 dialog units across, converted with the dialog font's average character width.
     const int averageWidth = fontMetrics().averageCharWidth();
-    m_cellSide = std::max(24, (31 * averageWidth + 2) / 4);
+    m_cellSide = std::max(MinimumCellSide, (31 * averageWidth + 2) / 4);
     viewport()->setAutoFillBackground(false);
 }
 
@@ -192,11 +198,11 @@ void CharacterGrid::paintEvent(QPaintEvent* event)
             painter.setFont(m_titleFont);
             painter.setPen(pal.color(QPalette::WindowText));
             const int titleTop = header.bottom() + 1 - titleMetrics.height() - 5;
-            painter.drawText(QPoint(13, titleTop + titleMetrics.ascent()), m_groups[row.group].title);
-            QLinearGradient gradient(0, 0, 300, 0);
-            gradient.setColorAt(0, QColor(61, 149, 255));
+            painter.drawText(QPoint(TitleIndent, titleTop + titleMetrics.ascent()), m_groups[row.group].title);
+            QLinearGradient gradient(0, 0, TitleRuleLength, 0);
+            gradient.setColorAt(0, TitleRuleColour);
             gradient.setColorAt(1, pal.color(QPalette::Window));
-            painter.fillRect(QRect(0, titleTop + titleMetrics.height() + 4, 300, 1), gradient);
+            painter.fillRect(QRect(0, titleTop + titleMetrics.height() + 4, TitleRuleLength, 1), gradient);
             continue;
         }
         for (std::size_t c = 0; c < row.cellCount; ++c) {
@@ -243,7 +249,7 @@ void CharacterGrid::mousePressEvent(QMouseEvent* event)
 
 void CharacterGrid::keyPressEvent(QKeyEvent* event)
 {
-    using Key = GridLayout::Key;
+    using Key = GridGeometry::Key;
     Key key;
     switch (event->key()) {
     case Qt::Key_Home: key = Key::Home; break;
@@ -260,11 +266,7 @@ void CharacterGrid::keyPressEvent(QKeyEvent* event)
     }
     if (m_codes.empty())
         return;
-    std::vector<std::size_t> sizes;
-    for (const Group& g : m_groups)
-        sizes.push_back(g.codes.size());
-    const GridLayout layout(sizes, m_geometry.Columns());
-    SelectCell(static_cast<int>(layout.Move(static_cast<std::size_t>(std::max(0, m_selection.Focus())), key)));
+    SelectCell(static_cast<int>(m_geometry.Move(static_cast<std::size_t>(std::max(0, m_selection.Focus())), key)));
 }
 
 void CharacterGrid::contextMenuEvent(QContextMenuEvent* event)

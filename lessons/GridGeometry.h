@@ -5,7 +5,8 @@
 
 /// Where the rows and cells of a grouped character grid lie, in pixels of its content (before
 /// scrolling): a margin all round, each group's title row (when it has a title) and then its
-/// cells, `columns` to a row of square cells; and which cell a point falls on.
+/// cells, each group starting on a new row of `columns` square cells; which cell a point falls
+/// on; and how the arrow keys move between cells.
 class GridGeometry {
 public:
     /// One row of the grid: a group's title, or up to `columns` of its cells.
@@ -43,8 +44,16 @@ public:
     /// The cell at a content point, or -1 (a margin, a title, the space after a group's last cell).
     int CellAt(int x, int y) const;
 
+    enum class Key { Home, End, Left, Right, Up, Down };
+    /// The cell focused after the key, from `cell`. Left and Right stay on the row; Up and Down
+    /// cross into the neighbouring group at the same column (the last cell of a shorter row);
+    /// an empty group is passed over.
+    std::size_t Move(std::size_t cell, Key key) const;
+
 private:
     std::vector<Row> m_rows;
+    std::vector<std::size_t> m_groupSizes;
+    std::vector<std::size_t> m_groupStarts;
     std::vector<std::size_t> m_groupEnds;
     std::size_t m_columns = 1;
     std::size_t m_cellCount = 0;

@@ -1,7 +1,6 @@
 #include "CategoryRules.h"
 #include "DatabaseWriter.h"
 #include "FileCharacterDatabase.h"
-#include "GridLayout.h"
 #include "Random15.h"
 #include "ReadingChoices.h"
 #include "TestSchedule.h"
@@ -267,33 +266,3 @@ TEST(CategoryRules, RetestMovesFiveDifferentLearnedCharactersToTheFront)
     }
 }
 
-TEST(GridLayout, PositionsAndKeys)
-{
-    // Group 0: 7 cells in rows of 3 (3, 3, 1); group 1: 5 cells (3, 2).
-    const GridLayout g({7, 5}, 3);
-    using K = GridLayout::Key;
-    EXPECT_EQ(g.CellCount(), 12u);
-    EXPECT_EQ(g.PositionOf(8).group, 1u);
-    EXPECT_EQ(g.PositionOf(8).column, 1u);
-    EXPECT_EQ(g.Move(5, K::Home), 0u);
-    EXPECT_EQ(g.Move(0, K::End), 11u);
-    EXPECT_EQ(g.Move(3, K::Left), 3u); // first column stays
-    EXPECT_EQ(g.Move(4, K::Left), 3u);
-    EXPECT_EQ(g.Move(2, K::Right), 2u); // last column stays
-    EXPECT_EQ(g.Move(6, K::Right), 6u); // last cell of its group stays
-    EXPECT_EQ(g.Move(0, K::Right), 1u);
-    EXPECT_EQ(g.Move(4, K::Down), 6u); // into the short last row: its last cell
-    EXPECT_EQ(g.Move(1, K::Down), 4u);
-    EXPECT_EQ(g.Move(6, K::Down), 7u); // across into group 1, same column
-    EXPECT_EQ(g.Move(5, K::Down), 6u); // column 2 of the short row: its last cell
-    EXPECT_EQ(g.Move(9, K::Up), 6u); // up from group 1 column 2: group 0's last row, last cell
-    EXPECT_EQ(g.Move(8, K::Up), 6u);
-    EXPECT_EQ(g.Move(7, K::Up), 6u);
-    EXPECT_EQ(g.Move(11, K::Up), 8u);
-    EXPECT_EQ(g.Move(11, K::Down), 11u);
-    EXPECT_EQ(g.Move(0, K::Up), 0u);
-    // An empty group is passed over.
-    const GridLayout e({2, 0, 2}, 4);
-    EXPECT_EQ(e.Move(1, K::Down), 3u);
-    EXPECT_EQ(e.Move(2, K::Up), 0u);
-}
