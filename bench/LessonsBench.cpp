@@ -89,11 +89,11 @@ BENCHMARK(BM_AnimationTick)->Arg(160)->Arg(600)->Unit(benchmark::kMicrosecond);
 void BM_CategoryPageFirstPaintSecondarySchool(benchmark::State& state)
 {
     FileCharacterDatabase& db = Database();
-    CategoryProgress progress;
+    User learner;
     for (auto _ : state) {
         CategoryPage page(db, Prompts(), ClockSeed);
         page.show();
-        page.SetCategory(6, &progress);
+        page.SetCategory(6, ProgressRecorder(learner, 6, {}));
         benchmark::DoNotOptimize(page.grab());
     }
 }
@@ -102,10 +102,10 @@ BENCHMARK(BM_CategoryPageFirstPaintSecondarySchool)->Unit(benchmark::kMillisecon
 void BM_CategoryPageScrollOnePage(benchmark::State& state)
 {
     FileCharacterDatabase& db = Database();
-    CategoryProgress progress;
+    User learner;
     CategoryPage page(db, Prompts(), ClockSeed);
     page.show();
-    page.SetCategory(6, &progress);
+    page.SetCategory(6, ProgressRecorder(learner, 6, {}));
     CharacterGrid* grid = page.Grid();
     QScrollBar* bar = grid->verticalScrollBar();
     // Scroll through new pages each time (cells not yet cached), wrapping at the end.

@@ -104,9 +104,11 @@ const Form* CategoryPage::GlyphOf(std::uint16_t code)
     return *found && (*found)->FormCount() > 0 ? &(*found)->GetForm(0) : nullptr;
 }
 
-bool CategoryPage::SetCategory(std::uint16_t categoryId, CategoryProgress* progress)
+bool CategoryPage::SetCategory(std::uint16_t categoryId, std::optional<ProgressRecorder> recorder)
 {
-    m_progress = progress;
+    m_recorder.reset();
+    if (recorder)
+        m_recorder.emplace(*recorder);
     try {
         m_category = m_database.LoadCategory(categoryId);
     } catch (const ZavorenCommon::DatabaseLoadException& e) {
@@ -122,22 +124,23 @@ bool CategoryPage::SetCategory(std::uint16_t categoryId, CategoryProgress* progr
 
 void CategoryPage::Refresh()
 {
+    const CategoryProgress* record = Progress();
     std::vector<std::uint16_t> learned, toLearn;
-    if (m_category && m_progress) {
+    if (m_category && record) {
         for (std::uint16_t code : m_category->Characters())
-            (m_progress->IsLearned(code) ? learned : toLearn).push_back(code);
+            (record->IsLearned(code) ? learned : toLearn).push_back(code);
     } else if (m_category) {
         toLearn = m_category->Characters();
     }
     Grid()->SetGroups({{tr("Learned Kanji"), learned}, {tr("Kanji to be Learned"), toLearn}});
-    Strip()->SetGroups({{QString(), m_progress ? m_progress->Untested() : std::vector<std::uint16_t>{}}});
+    Strip()->SetGroups({{QString(), record ? record->Untested() : std::vector<std::uint16_t>{}}});
     RefreshButtons();
 }
 
 void CategoryPage::RefreshButtons()
 {
     static const CategoryProgress none;
-    const CategoryProgress& progress = m_progress ? *m_progress : none;
+    const CategoryProgress& progress = Progress() ? *Progress() : none;
     const std::size_t size = m_category ? m_category->CharacterCount() : 0;
     const CategoryControlState s = DecideCategoryControls(size, progress, Grid()->FirstSelectedGroup() == LearnedGroup);
     ForgetButton()->setEnabled(s.forgetEnabled);
@@ -151,9 +154,10 @@ void CategoryPage::RefreshButtons()
 
 std::vector<std::uint16_t> CategoryPage::PickLessonCharacters(std::size_t max) const
 {
-    if (!m_category || !m_progress)
+    const CategoryProgress* record = Progress();
+    if (!m_category || !record)
         return {};
-    return ::PickLessonCharacters(m_category->Characters(), *m_progress, m_progress->UntestedCount(), max);
+    return ::PickLessonCharacters(m_category->Characters(), *record, record->UntestedCount(), max);
 }
 
 void CategoryPage::OnContextMenu(CharacterGrid* grid, int cell, const QPoint& globalPosition)
@@ -179,29 +183,19 @@ void CategoryPage::ShowInfo(CharacterGrid* grid)
 
 void CategoryPage::OnForget()
 {
-    if (!m_progress || Grid()->FirstSelectedGroup() != LearnedGroup)
+    if (!m_recorder || Grid()->FirstSelectedGroup() != LearnedGroup)
         return;
-    const std::vector<std::uint16_t> codes = Grid()->SelectedCodes();
-    for (std::uint16_t code : codes)
-        m_progress->RemoveLearned(code);
+    m_recorder->Forget(Grid()->SelectedCodes());
     Refresh();
-    emit forgotten(codes);
 }
 
 void CategoryPage::OnRetest()
 {
-    if (!m_progress || !RetestButton()->isEnabled())
+    if (!m_recorder || !RetestButton()->isEnabled())
         return;
     m_random.Seed(m_seeds());
-    const std::vector<std::uint16_t> learned = m_progress->Learned();
-    ::Retest(*m_progress, m_random);
-    // The characters that left the learned list went back for testing.
-    std::vector<std::uint16_t> sent;
-    for (std::uint16_t code : learned)
-        if (std::find(m_progress->Learned().begin(), m_progress->Learned().end(), code) == m_progress->Learned().end())
-            sent.push_back(code);
+    m_recorder->Retest(m_random);
     Refresh();
-    emit retested(sent);
     emit pageEvent(Test, 0);
 }
 

@@ -4,11 +4,13 @@
 #include "CategoryProgress.h"
 #include "Element.h"
 #include "Page.h"
+#include "ProgressRecorder.h"
 #include "Random15.h"
 
 #include <QHash>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class CharacterDatabase;
@@ -34,9 +36,10 @@ public:
     CategoryPage(CharacterDatabase& database, Prompt& prompt, SeedSource seeds, QWidget* parent = nullptr);
     ~CategoryPage() override;
 
-    /// Shows a category with the learner's record of it (not owned; kept up to date here for
-    /// Retest and Forget). Returns false after an error box when the category cannot be read.
-    bool SetCategory(std::uint16_t categoryId, CategoryProgress* progress);
+    /// Shows a category with the learner's record of it, which Retest and Forget change through
+    /// `recorder` (none: a category without a learner). Returns false after an error box when
+    /// the category cannot be read.
+    bool SetCategory(std::uint16_t categoryId, std::optional<ProgressRecorder> recorder);
     /// Up to `max` characters for a lesson from the Lesson button.
     std::vector<std::uint16_t> PickLessonCharacters(std::size_t max) const;
     /// Refreshes grid, strip and buttons from the learner's record.
@@ -56,12 +59,6 @@ public:
     /// Opens the Kanji Info dialog for the first selected character of `grid` (modal).
     void ShowInfo(CharacterGrid* grid);
 
-signals:
-    /// These learned characters were forgotten (Forget).
-    void forgotten(const std::vector<std::uint16_t>& codes);
-    /// These learned characters were sent back for testing (Retest).
-    void retested(const std::vector<std::uint16_t>& codes);
-
 protected:
     void Cancel() override;
 
@@ -78,7 +75,9 @@ private:
     Prompt& m_prompt;
     SeedSource m_seeds;
     std::unique_ptr<Category> m_category;
-    CategoryProgress* m_progress = nullptr;
+    std::optional<ProgressRecorder> m_recorder;
+    /// The learner's record of the category, or null without a learner.
+    CategoryProgress* Progress() const { return m_recorder ? &m_recorder->Progress() : nullptr; }
     QMenu* m_learnedMenu = nullptr;
     QMenu* m_unlearnedMenu = nullptr;
     QMenu* m_untestedMenu = nullptr;

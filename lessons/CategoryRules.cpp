@@ -30,13 +30,17 @@ std::vector<std::uint16_t> PickLessonCharacters(const std::vector<std::uint16_t>
     return taken;
 }
 
-void Retest(CategoryProgress& progress, Random15& random)
+std::vector<std::uint16_t> Retest(CategoryProgress& progress, Random15& random)
 {
+    std::vector<std::uint16_t> sent;
     for (int i = 0; i < RetestSize; ++i) {
         const std::size_t count = progress.LearnedCount();
         if (count == 0)
-            return;
+            break;
         const auto index = static_cast<std::size_t>(static_cast<std::int64_t>(random.Next()) * count / 32768);
-        progress.MoveToUntested(progress.LearnedAt(index));
+        const std::uint16_t code = progress.LearnedAt(index);
+        progress.MoveToUntested(code);
+        sent.push_back(code);
     }
+    return sent;
 }

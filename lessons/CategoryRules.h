@@ -32,5 +32,5 @@ std::vector<std::uint16_t> PickLessonCharacters(const std::vector<std::uint16_t>
     const CategoryProgress& progress, std::size_t stripCount, std::size_t max);
 
 /// Sends five random learned characters back to the untested list (each draw over the list as
-/// it stands after the previous moves).
-void Retest(CategoryProgress& progress, Random15& random);
+/// it stands after the previous moves); returns them in the order drawn.
+std::vector<std::uint16_t> Retest(CategoryProgress& progress, Random15& random);

@@ -3,23 +3,24 @@
 #include "CategoryRules.h"
 
 ProgressRecorder::ProgressRecorder(User& learner, std::uint16_t categoryId, EventClock clock)
-    : m_learner(learner), m_progress(learner.GetProgress(categoryId)), m_categoryId(categoryId),
-      m_clock(std::move(clock))
+    : m_learner(learner), m_categoryId(categoryId), m_clock(std::move(clock))
 {
+    learner.GetProgress(categoryId); // the record exists from now on
 }
 
 std::vector<std::uint16_t> ProgressRecorder::TestCharacters() const
 {
+    const CategoryProgress& progress = Progress();
     std::vector<std::uint16_t> codes;
-    for (std::size_t i = 0; i < m_progress.UntestedCount() && i < LessonSize; ++i)
-        codes.push_back(m_progress.UntestedAt(i));
+    for (std::size_t i = 0; i < progress.UntestedCount() && i < LessonSize; ++i)
+        codes.push_back(progress.UntestedAt(i));
     return codes;
 }
 
 void ProgressRecorder::LessonFinished(const std::vector<std::uint16_t>& taught)
 {
     for (std::uint16_t id : taught) {
-        m_progress.AddUntested(id);
+        Progress().AddUntested(id);
         Record(LearnerEvent::Lesson, id);
     }
 }
@@ -28,30 +29,41 @@ void ProgressRecorder::TestTaken(
     const std::vector<std::uint16_t>& passed, const std::vector<std::uint16_t>& failed, const MistakeCount& mistakes)
 {
     for (std::uint16_t id : passed) {
-        m_progress.MoveToLearned(id);
+        Progress().MoveToLearned(id);
         Record(LearnerEvent::Passed, id, mistakes ? mistakes(id) : 0);
     }
     for (std::uint16_t id : failed) {
-        m_progress.RemoveUntested(id);
+        Progress().RemoveUntested(id);
         Record(LearnerEvent::Failed, id, mistakes ? mistakes(id) : 0);
     }
 }
 
-void ProgressRecorder::Retested(const std::vector<std::uint16_t>& codes)
+std::vector<std::uint16_t> ProgressRecorder::Retest(Random15& random)
 {
-    for (std::uint16_t id : codes)
-        Record(LearnerEvent::Retest, id);
+    const std::vector<std::uint16_t> sent = ::Retest(Progress(), random);
+    for (std::uint16_t code : sent)
+        Record(LearnerEvent::Retest, code);
+    return sent;
 }
 
-void ProgressRecorder::Forgotten(const std::vector<std::uint16_t>& codes)
+std::vector<std::uint16_t> ProgressRecorder::Forget(const std::vector<std::uint16_t>& codes)
 {
-    for (std::uint16_t id : codes)
-        Record(LearnerEvent::Forget, id);
+    CategoryProgress& progress = Progress();
+    std::vector<std::uint16_t> forgotten;
+    for (std::uint16_t code : codes) {
+        if (!progress.IsLearned(code))
+            continue;
+        progress.RemoveLearned(code);
+        forgotten.push_back(code);
+        Record(LearnerEvent::Forget, code);
+    }
+    return forgotten;
 }
 
 void ProgressRecorder::LearnOne(std::uint16_t code)
 {
-    const bool taught = m_progress.IsLearned(code) || m_progress.IsUntested(code);
+    const CategoryProgress& progress = Progress();
+    const bool taught = progress.IsLearned(code) || progress.IsUntested(code);
     Record(taught ? LearnerEvent::Review : LearnerEvent::Learn, code);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "LearnerEvent.h"
+#include "Random15.h"
 #include "User.h"
 
 #include <cstdint>
@@ -8,8 +9,8 @@
 #include <vector>
 
 /// The rules by which what a learner does in a category changes their progress there, and the
-/// dated events each change adds to their history. The main window reports each finished lesson,
-/// test and change on the category page; this class alone decides what it means.
+/// dated events each change adds to their history. The main window reports each finished lesson
+/// and test, the category page its Forget and Retest; this class alone changes the record.
 class ProgressRecorder {
 public:
     /// Gives how many questions of a character a test answered with mistakes.
@@ -18,6 +19,9 @@ public:
     /// Records into `learner`'s progress in category `categoryId`, dating events by `clock`.
     ProgressRecorder(User& learner, std::uint16_t categoryId, EventClock clock);
 
+    /// The learner's record of the category (looked up on each use: the learner's list of
+    /// records may grow meanwhile).
+    CategoryProgress& Progress() const { return m_learner.GetProgress(m_categoryId); }
     /// The characters a test takes: the first few of the untested list, in order.
     std::vector<std::uint16_t> TestCharacters() const;
     /// A lesson finished: every character taught joins the untested list, in lesson order, as it
@@ -28,10 +32,12 @@ public:
     /// each character's mistakes.
     void TestTaken(const std::vector<std::uint16_t>& passed, const std::vector<std::uint16_t>& failed,
         const MistakeCount& mistakes);
-    /// The category page sent these learned characters back for testing.
-    void Retested(const std::vector<std::uint16_t>& codes);
-    /// The category page removed these characters from the learned ones.
-    void Forgotten(const std::vector<std::uint16_t>& codes);
+    /// Retest: five random learned characters go back to the untested list (each draw over the
+    /// list as it stands after the previous moves); each is a "retest" event. Returns them.
+    std::vector<std::uint16_t> Retest(Random15& random);
+    /// Forget: these characters leave the learned list; each that was learned is a "forget"
+    /// event. Returns those that left it.
+    std::vector<std::uint16_t> Forget(const std::vector<std::uint16_t>& codes);
     /// A lesson of this one character begins (Learn or Review on the category page): "review"
     /// for a character already learned or untested, "learn" for a new one.
     void LearnOne(std::uint16_t code);
@@ -40,7 +46,6 @@ private:
     void Record(const char* kind, std::uint16_t code, int mistakes = -1);
 
     User& m_learner;
-    CategoryProgress& m_progress;
     std::uint16_t m_categoryId;
     EventClock m_clock;
 };

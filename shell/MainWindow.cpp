@@ -83,15 +83,6 @@ MainWindow::MainWindow(CharacterDatabase& database, ConfigStore& store, Prompt& 
             page, &Page::pageEvent, this,
             [this, page](quint16 code, quint16 argument) { OnPageEvent(page, code, argument); }, Qt::DirectConnection);
     }
-    // The category page's own changes go into the learner's history too.
-    connect(m_category, &CategoryPage::forgotten, this, [this](const std::vector<std::uint16_t>& codes) {
-        if (auto recorder = Recorder())
-            recorder->Forgotten(codes);
-    });
-    connect(m_category, &CategoryPage::retested, this, [this](const std::vector<std::uint16_t>& codes) {
-        if (auto recorder = Recorder())
-            recorder->Retested(codes);
-    });
     for (const QKeySequence& keys : IgnoredKeys)
         new QShortcut(
             keys, this, [] {}, Qt::WindowShortcut);
@@ -278,7 +269,7 @@ void MainWindow::ShowPage(Page* page)
 void MainWindow::ShowCategoryPage()
 {
     if (m_categoryId)
-        m_category->SetCategory(*m_categoryId, CurrentCategory());
+        m_category->SetCategory(*m_categoryId, Recorder());
     ShowPage(m_category);
 }
 

@@ -33,8 +33,7 @@ private slots:
 
     void init()
     {
-        m_progress = CategoryProgress();
-        m_progress.SetCategoryId(0);
+        m_learner = User();
         m_page = std::make_unique<CategoryPage>(*m_standard, m_prompt, [] { return 777u; });
         m_page->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_page.get()));
@@ -51,10 +50,10 @@ private slots:
     {
         QFETCH(int, untested);
         for (int i = 0; i < 6; ++i)
-            m_progress.AddLearned(m_grade1[static_cast<std::size_t>(i)]);
+            Grade1().AddLearned(m_grade1[static_cast<std::size_t>(i)]);
         for (int i = 0; i < untested; ++i)
-            m_progress.AddUntested(m_grade1[static_cast<std::size_t>(10 + i)]);
-        m_page->SetCategory(0, &m_progress);
+            Grade1().AddUntested(m_grade1[static_cast<std::size_t>(10 + i)]);
+        m_page->SetCategory(0, Recorder(0));
         QCOMPARE(m_page->TestButton()->isEnabled(), untested > 0);
         QCOMPARE(m_page->RetestButton()->isEnabled(), untested < 5);
         QCOMPARE(m_page->LessonButton()->isEnabled(), untested < 10);
@@ -72,8 +71,8 @@ private slots:
     void nineUntestedLessonTakesOne()
     {
         for (int i = 0; i < 9; ++i)
-            m_progress.AddUntested(m_grade1[static_cast<std::size_t>(i)]);
-        m_page->SetCategory(0, &m_progress);
+            Grade1().AddUntested(m_grade1[static_cast<std::size_t>(i)]);
+        m_page->SetCategory(0, Recorder(0));
         QVERIFY(m_page->LessonButton()->isEnabled());
         QCOMPARE(m_page->PickLessonCharacters(5), Codes{m_grade1[9]});
         QSignalSpy events(m_page.get(), &CategoryPage::pageEvent);
@@ -85,11 +84,11 @@ private slots:
     void completeCategorySaysSoInTheStrip()
     {
         for (std::uint16_t code : m_grade1)
-            m_progress.AddLearned(code);
-        m_page->SetCategory(0, &m_progress);
+            Grade1().AddLearned(code);
+        m_page->SetCategory(0, Recorder(0));
         QVERIFY(!m_page->LessonButton()->isEnabled());
         QCOMPARE(m_page->Strip()->EmptyMessage(), QStringLiteral("Category complete"));
-        m_progress = CategoryProgress();
+        m_learner = User();
         m_page->Refresh();
         QCOMPARE(m_page->Strip()->EmptyMessage(),
             QStringLiteral("To learn characters press 'Lesson' button and then test learned characters by pressing "
@@ -99,15 +98,15 @@ private slots:
     void retestWithFiveLearnedAndFourUntested()
     {
         for (int i = 0; i < 5; ++i)
-            m_progress.AddLearned(m_grade1[static_cast<std::size_t>(i)]);
+            Grade1().AddLearned(m_grade1[static_cast<std::size_t>(i)]);
         for (int i = 5; i < 9; ++i)
-            m_progress.AddUntested(m_grade1[static_cast<std::size_t>(i)]);
-        m_page->SetCategory(0, &m_progress);
+            Grade1().AddUntested(m_grade1[static_cast<std::size_t>(i)]);
+        m_page->SetCategory(0, Recorder(0));
         QVERIFY(m_page->RetestButton()->isEnabled());
         QSignalSpy events(m_page.get(), &CategoryPage::pageEvent);
         QTest::mouseClick(m_page->RetestButton(), Qt::LeftButton);
-        QCOMPARE(m_progress.UntestedCount(), 9u);
-        QCOMPARE(m_progress.LearnedCount(), 0u);
+        QCOMPARE(Grade1().UntestedCount(), 9u);
+        QCOMPARE(Grade1().LearnedCount(), 0u);
         QCOMPARE(events.count(), 1);
         QCOMPARE(events[0][0].toInt(), int(CategoryPage::Test));
     }
@@ -115,8 +114,8 @@ private slots:
     void forgetSeveralSelectedCells()
     {
         for (int i = 0; i < 6; ++i)
-            m_progress.AddLearned(m_grade1[static_cast<std::size_t>(i)]);
-        m_page->SetCategory(0, &m_progress);
+            Grade1().AddLearned(m_grade1[static_cast<std::size_t>(i)]);
+        m_page->SetCategory(0, Recorder(0));
         CharacterGrid* grid = m_page->Grid();
         QVERIFY(!m_page->ForgetButton()->isEnabled()); // nothing selected
         QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, grid->CellRect(1).center());
@@ -125,7 +124,7 @@ private slots:
         QCOMPARE(grid->SelectedCodes(), (Codes{m_grade1[1], m_grade1[3], m_grade1[4]}));
         QVERIFY(m_page->ForgetButton()->isEnabled());
         QTest::mouseClick(m_page->ForgetButton(), Qt::LeftButton);
-        QCOMPARE(m_progress.Learned(), (Codes{m_grade1[0], m_grade1[2], m_grade1[5]}));
+        QCOMPARE(Grade1().Learned(), (Codes{m_grade1[0], m_grade1[2], m_grade1[5]}));
         QCOMPARE(grid->Groups()[0].codes.size(), 3u);
         QVERIFY(!m_page->ForgetButton()->isEnabled());
         // A cell of "Kanji to be Learned" first: Forget stays disabled.
@@ -136,8 +135,8 @@ private slots:
     void keyboardMovesAcrossGroups()
     {
         for (int i = 0; i < 3; ++i)
-            m_progress.AddLearned(m_grade1[static_cast<std::size_t>(i)]);
-        m_page->SetCategory(0, &m_progress);
+            Grade1().AddLearned(m_grade1[static_cast<std::size_t>(i)]);
+        m_page->SetCategory(0, Recorder(0));
         CharacterGrid* grid = m_page->Grid();
         grid->setFocus();
         const int columns = grid->Columns();
@@ -163,7 +162,7 @@ private slots:
 
     void nothingSelectedMakesInfoAndLearnDoNothing()
     {
-        m_page->SetCategory(0, &m_progress);
+        m_page->SetCategory(0, Recorder(0));
         QSignalSpy events(m_page.get(), &CategoryPage::pageEvent);
         ModalAnswerer<KanjiInfoDialog> info([](KanjiInfoDialog& dialog) { dialog.reject(); });
         m_page->ShowInfo(m_page->Grid());
@@ -184,8 +183,8 @@ private slots:
         QCOMPARE(m_page->UnlearnedMenu()->defaultAction()->text(), QStringLiteral("&Info"));
         QCOMPARE(m_page->UntestedMenu()->actions().size(), 1);
         // Learn on a cell of "Kanji to be Learned" asks for a lesson of that character.
-        m_progress.AddLearned(m_grade1[0]);
-        m_page->SetCategory(0, &m_progress);
+        Grade1().AddLearned(m_grade1[0]);
+        m_page->SetCategory(0, Recorder(0));
         QSignalSpy events(m_page.get(), &CategoryPage::pageEvent);
         m_page->Grid()->SelectCell(2);
         m_page->UnlearnedMenu()->actions()[1]->trigger();
@@ -194,16 +193,16 @@ private slots:
         QCOMPARE(events[0][1].toInt(), int(m_grade1[2]));
         // Review does nothing.
         m_page->Grid()->SelectCell(0);
-        const Codes before = m_progress.Learned();
+        const Codes before = Grade1().Learned();
         m_page->LearnedMenu()->actions()[1]->trigger();
         QCOMPARE(events.count(), 1);
-        QCOMPARE(m_progress.Learned(), before);
+        QCOMPARE(Grade1().Learned(), before);
     }
 
     void rightClickActsOnTheCellUnderThePointer()
     {
         // Everything unlearned: one group of 80 cells, several rows.
-        m_page->SetCategory(0, &m_progress);
+        m_page->SetCategory(0, Recorder(0));
         CharacterGrid* grid = m_page->Grid();
         QVERIFY(grid->frameWidth() > 0); // the frame is what a wrong mapping shifts by
         const int columns = grid->Columns();
@@ -230,8 +229,8 @@ private slots:
 
     void infoOpensTheKanjiInfoDialogForTheFirstSelected()
     {
-        m_progress.AddUntested(m_grade1[7]);
-        m_page->SetCategory(0, &m_progress);
+        Grade1().AddUntested(m_grade1[7]);
+        m_page->SetCategory(0, Recorder(0));
         m_page->Strip()->SelectCell(0);
         QString title;
         QString meaning;
@@ -250,7 +249,7 @@ private slots:
 
     void backAndEscapeGoBack()
     {
-        m_page->SetCategory(0, &m_progress);
+        m_page->SetCategory(0, Recorder(0));
         QSignalSpy events(m_page.get(), &CategoryPage::pageEvent);
         QTest::mouseClick(m_page->BackButton(), Qt::LeftButton);
         QTest::keyClick(m_page.get(), Qt::Key_Escape);
@@ -261,7 +260,7 @@ private slots:
     void largeCategoryDrawsOnlyVisibleCells()
     {
         // "Secondary school" holds over a thousand characters.
-        m_page->SetCategory(6, &m_progress);
+        m_page->SetCategory(6, Recorder(6));
         QVERIFY(m_page->Grid()->Groups()[1].codes.size() > 1000);
         m_page->grab();
         const int afterFirstPaint = m_page->Grid()->RenderedCells();
@@ -272,10 +271,17 @@ private slots:
     }
 
 private:
+    ProgressRecorder Recorder(std::uint16_t categoryId)
+    {
+        return ProgressRecorder(m_learner, categoryId, [] { return std::string("2026-11-23T10:00:00+01:00"); });
+    }
+    /// The learner's record of Grade 1.
+    CategoryProgress& Grade1() { return m_learner.GetProgress(0); }
+
     std::unique_ptr<FileCharacterDatabase> m_standard;
     RecordingPrompt m_prompt;
     Codes m_grade1;
-    CategoryProgress m_progress;
+    User m_learner;
     std::unique_ptr<CategoryPage> m_page;
 };
 

@@ -70,14 +70,34 @@ TEST(ProgressRecorder, PassedBecomeLearnedAndFailedAreNotLearnedAgain)
     EXPECT_EQ(progress.Learned(), (Codes{1, 2, 4}));
 }
 
-TEST(ProgressRecorder, TheCategoryPagesChangesAndLearnOneAreRecorded)
+TEST(ProgressRecorder, ForgetRemovesLearnedCharactersAndSaysWhichLeft)
 {
     User user;
+    for (std::uint16_t id : {7, 8, 9})
+        user.GetProgress(5).AddLearned(id);
+    user.GetProgress(5).AddUntested(4);
     ProgressRecorder recorder(user, 5, Clock);
-    recorder.Retested({7, 8});
-    recorder.Forgotten({9});
+    EXPECT_EQ(recorder.Forget({9, 4, 7}), (Codes{9, 7})); // 4 was not learned: it stays untested
+    EXPECT_EQ(user.GetProgress(5).Learned(), (Codes{8}));
+    EXPECT_EQ(user.GetProgress(5).Untested(), (Codes{4}));
     recorder.LearnOne(10);
-    EXPECT_EQ(Events(user), (Lines{"retest 5/7", "retest 5/8", "forget 5/9", "learn 5/10"}));
+    EXPECT_EQ(Events(user), (Lines{"forget 5/9", "forget 5/7", "learn 5/10"}));
+}
+
+TEST(ProgressRecorder, RetestSendsFiveLearnedCharactersBackAndSaysWhich)
+{
+    User user;
+    for (std::uint16_t id = 20; id < 27; ++id)
+        user.GetProgress(1).AddLearned(id);
+    // Draws of the standard generator seeded with 1: 41, 18467, 6334, 26500, 19169, that is
+    // indexes 0 of 7, 3 of 6, 0 of 5, 3 of 4 and 1 of 3 in the list as it stands.
+    Random15 random(1);
+    ProgressRecorder recorder(user, 1, Clock);
+    const Codes sent = recorder.Retest(random);
+    EXPECT_EQ(sent, (Codes{20, 24, 21, 26, 23}));
+    EXPECT_EQ(user.GetProgress(1).Learned(), (Codes{22, 25}));
+    EXPECT_EQ(user.GetProgress(1).Untested().size(), 5u);
+    EXPECT_EQ(Events(user), (Lines{"retest 1/20", "retest 1/24", "retest 1/21", "retest 1/26", "retest 1/23"}));
 }
 
 TEST(ProgressRecorder, OneCharacterAlreadyTaughtIsAReview)

@@ -136,7 +136,7 @@ int main(int argc, char** argv)
     ok &= Save(home, out, QStringLiteral("home"));
 
     CategoryPage category(db, prompt, seeds);
-    category.SetCategory(0, &learner.GetProgress(0));
+    category.SetCategory(0, ProgressRecorder(learner, 0, {}));
     ok &= Save(category, out, QStringLiteral("category"));
 
     // 日: its first stroke written, then the second drawn too low (refused, with the arrow).

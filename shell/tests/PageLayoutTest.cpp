@@ -163,7 +163,7 @@ private slots:
         for (Page* page : {static_cast<Page*>(m_window->Home()), static_cast<Page*>(m_window->Lesson()),
                  static_cast<Page*>(m_window->Test()), static_cast<Page*>(m_window->Category())}) {
             if (page == m_window->Category())
-                QVERIFY(m_window->Category()->SetCategory(0, nullptr));
+                QVERIFY(m_window->Category()->SetCategory(0, std::nullopt));
             m_window->ShowPage(page);
             QApplication::processEvents();
             const QString outside = ChildrenOutside(page) + ClippedLabels(page);
@@ -301,7 +301,7 @@ private slots:
         m_window->ShowPage(category);
         std::optional<QRect> grid, strip;
         for (std::uint16_t id = 0; id < GetDatabase().CategoryCount(); ++id) {
-            QVERIFY(category->SetCategory(id, nullptr));
+            QVERIFY(category->SetCategory(id, std::nullopt));
             QApplication::processEvents();
             const QString outside = ChildrenOutside(category) + ClippedLabels(category);
             QVERIFY2(outside.isEmpty(), qPrintable(outside));
@@ -445,7 +445,7 @@ private slots:
         m_window->setPalette(DarkPalette());
         CategoryPage* category = m_window->Category();
         m_window->ShowPage(category);
-        QVERIFY(category->SetCategory(0, nullptr));
+        QVERIFY(category->SetCategory(0, std::nullopt));
         QApplication::processEvents();
         CharacterGrid* grid = category->Grid();
         const QImage shot = grid->viewport()->grab().toImage();
