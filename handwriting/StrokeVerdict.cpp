@@ -79,17 +79,23 @@ const char* VerdictSentence(const StrokeVerdict& verdict, bool direction)
     using Kind = StrokeVerdict::Kind;
     switch (verdict.kind) {
     case Kind::Accepted: return "";
-    case Kind::WrongOrder: return QT_TRANSLATE_NOOP("WritingCoach", "Wrong order: that is stroke %1. Write stroke %2 first.");
-    case Kind::WrongDirection: return QT_TRANSLATE_NOOP("WritingCoach", "Wrong direction: start this stroke from the other end.");
+    case Kind::WrongOrder:
+        return QT_TRANSLATE_NOOP("WritingCoach", "Wrong order: that is stroke %1. Write stroke %2 first.");
+    case Kind::WrongDirection:
+        return QT_TRANSLATE_NOOP("WritingCoach", "Wrong direction: start this stroke from the other end.");
     case Kind::WrongPlace:
         if (!direction)
             return QT_TRANSLATE_NOOP("WritingCoach", "Wrong place.");
         // Whole sentences for each way, so that every language can say it its own way.
         switch (verdict.Direction()) {
-        case PlaceDirection::Up: return QT_TRANSLATE_NOOP("WritingCoach", "Wrong place: this stroke belongs further up.");
-        case PlaceDirection::Down: return QT_TRANSLATE_NOOP("WritingCoach", "Wrong place: this stroke belongs further down.");
-        case PlaceDirection::Left: return QT_TRANSLATE_NOOP("WritingCoach", "Wrong place: this stroke belongs further left.");
-        case PlaceDirection::Right: return QT_TRANSLATE_NOOP("WritingCoach", "Wrong place: this stroke belongs further right.");
+        case PlaceDirection::Up:
+            return QT_TRANSLATE_NOOP("WritingCoach", "Wrong place: this stroke belongs further up.");
+        case PlaceDirection::Down:
+            return QT_TRANSLATE_NOOP("WritingCoach", "Wrong place: this stroke belongs further down.");
+        case PlaceDirection::Left:
+            return QT_TRANSLATE_NOOP("WritingCoach", "Wrong place: this stroke belongs further left.");
+        case PlaceDirection::Right:
+            return QT_TRANSLATE_NOOP("WritingCoach", "Wrong place: this stroke belongs further right.");
         case PlaceDirection::UpLeft:
             return QT_TRANSLATE_NOOP("WritingCoach", "Wrong place: this stroke belongs further up and to the left.");
         case PlaceDirection::UpRight:

@@ -25,6 +25,15 @@ public:
     virtual const std::string& UserName(std::uint16_t index) const = 0;
     /// The current learner's name; empty when there is none.
     virtual const std::string& CurrentUserName() const = 0;
+
+    /// Whether a learner of exactly this name is in the store.
+    bool HasUser(const std::string& name) const
+    {
+        for (std::uint16_t i = 0; i < UserCount(); ++i)
+            if (UserName(i) == name)
+                return true;
+        return false;
+    }
 };
 
 /// The process's store, opened on first use from "config.xml" in the current folder. A failed

@@ -45,7 +45,7 @@ bool FitsDatabase(const pugi::xml_node& user, CharacterDatabase& database)
 
 } // namespace
 
-Problem Export(const std::string& path, User& learner, std::uint16_t categories)
+bool Export(const std::string& path, User& learner, std::uint16_t categories)
 {
     std::string text;
     try {
@@ -58,9 +58,9 @@ Problem Export(const std::string& path, User& learner, std::uint16_t categories)
         WriteUserRecord(user, learner, categories);
         text = DocumentText(document);
     } catch (const std::bad_alloc&) {
-        return Problem::CannotWrite;
+        return false;
     }
-    return ReplaceFileAtomically(path, text) == FileWrite::Written ? Problem::None : Problem::CannotWrite;
+    return ReplaceFileAtomically(path, text) == FileWrite::Written;
 }
 
 Imported Import(const std::string& path, CharacterDatabase& database)

@@ -13,18 +13,18 @@ class CharacterDatabase;
 /// database it was written with, holding the same User element as config.xml.
 namespace LearnerFile {
 
-/// Why a file could not be written or read.
+/// Why a file could not be read.
 enum class Problem {
     None,
-    CannotWrite, ///< the file could not be written (the previous file, if any, is whole)
     CannotRead, ///< no such file, or not readable
     NotAnExport, ///< some other file, or one of a newer format
     Damaged, ///< an export, but something in it cannot be read
     OtherDatabase, ///< written with a database of another number of categories
 };
 
-/// Writes `learner`'s progress (one Progress element for each of `categories`) and history.
-Problem Export(const std::string& path, User& learner, std::uint16_t categories);
+/// Writes `learner`'s progress (one Progress element for each of `categories`) and history;
+/// false when the file could not be written (the previous file, if any, is whole).
+bool Export(const std::string& path, User& learner, std::uint16_t categories);
 
 struct Imported {
     std::unique_ptr<User> learner; ///< null unless the problem is None

@@ -15,9 +15,8 @@
 
 namespace {
 /// String 223: shown in the empty strip while a lesson is possible.
-const char* const LessonHint
-    = QT_TRANSLATE_NOOP("CategoryPage",
-        "To learn characters press 'Lesson' button and then test learned characters by pressing 'Test' button.");
+const char* const LessonHint = QT_TRANSLATE_NOOP("CategoryPage",
+    "To learn characters press 'Lesson' button and then test learned characters by pressing 'Test' button.");
 /// String 225: shown in the empty strip when no lesson is possible.
 const char* const CategoryComplete = QT_TRANSLATE_NOOP("CategoryPage", "Category complete");
 } // namespace

@@ -165,7 +165,8 @@ const QImage& CharacterGrid::CellImage(std::uint16_t code, bool selected)
     const QRgb ink = selected ? pal.color(QPalette::HighlightedText).rgb() : pal.color(QPalette::Text).rgb();
     const int inset = static_cast<int>(3 * ratio);
     if (const Form* glyph = m_glyphs ? m_glyphs(code) : nullptr)
-        DrawFormSmooth(image, QRect(inset, inset, side - 2 * inset, side - 2 * inset), *glyph, ink, CellPenWidth * ratio);
+        DrawFormSmooth(
+            image, QRect(inset, inset, side - 2 * inset, side - 2 * inset), *glyph, ink, CellPenWidth * ratio);
     image.setDevicePixelRatio(ratio);
     ++m_rendered;
     return *m_cache.insert(key, image);

@@ -293,21 +293,21 @@ int AskAndWriteCrashReport(Prompt& prompt, const QString& folder, const QByteArr
 {
     const QByteArray report = DemangleStackTrace(captured);
     const QDateTime now = QDateTime::currentDateTime();
-    const QString question
-        = QCoreApplication::translate("CrashHandler", "Oops...\r\nFatal error in Zavoren.\r\n\r\nDo you want to get minidump for it?");
+    const QString question = QCoreApplication::translate(
+        "CrashHandler", "Oops...\r\nFatal error in Zavoren.\r\n\r\nDo you want to get minidump for it?");
     // The box shows the line breaks as line breaks.
     QString shown = question;
     shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    const auto answer = prompt.Ask(nullptr, QMessageBox::Critical, QCoreApplication::translate("CrashHandler", "Unhandled Exception"), shown,
-        QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
+    const auto answer
+        = prompt.Ask(nullptr, QMessageBox::Critical, QCoreApplication::translate("CrashHandler", "Unhandled Exception"),
+            shown, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
     if (answer != QMessageBox::Yes)
         return 0;
     if (!report.isEmpty() && WriteCrashReport(folder, now, report))
         prompt.Ask(nullptr, QMessageBox::Information, QCoreApplication::translate("CrashHandler", "MiniDump"),
             QCoreApplication::translate("CrashHandler", "Minidump successfuly created in application folder."));
     else
-        prompt.Ask(
-            nullptr, QMessageBox::Critical, QCoreApplication::translate("CrashHandler", "Error"),
+        prompt.Ask(nullptr, QMessageBox::Critical, QCoreApplication::translate("CrashHandler", "Error"),
             QCoreApplication::translate("CrashHandler", "Unable to generate minidump."));
     return 0;
 }

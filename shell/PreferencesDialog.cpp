@@ -2,22 +2,7 @@
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
-#include <QSettings>
 #include <QVBoxLayout>
-
-namespace {
-
-QSettings Settings()
-{
-    return QSettings(QStringLiteral("Zavoren"), QStringLiteral("Zavoren"));
-}
-
-const char* const ExplainKey = "Preferences/ExplainRefusedStrokes";
-const char* const GridKey = "Preferences/PracticeGrid";
-const char* const HintKey = "Preferences/HintAfterThreeMisses";
-const char* const OnScreenKey = "Preferences/KeepWindowOnScreen";
-
-} // namespace
 
 PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWidget* parent) : QDialog(parent)
 {
@@ -44,24 +29,4 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
 CoachingPreferences PreferencesDialog::Chosen() const
 {
     return {m_explain->isChecked(), m_grid->isChecked(), m_hint->isChecked(), m_onScreen->isChecked()};
-}
-
-CoachingPreferences LoadCoachingPreferences()
-{
-    const QSettings settings = Settings();
-    CoachingPreferences p;
-    p.explainRefusals = settings.value(QLatin1String(ExplainKey), p.explainRefusals).toBool();
-    p.practiceGrid = settings.value(QLatin1String(GridKey), p.practiceGrid).toBool();
-    p.hintAfterMisses = settings.value(QLatin1String(HintKey), p.hintAfterMisses).toBool();
-    p.keepOnScreen = settings.value(QLatin1String(OnScreenKey), p.keepOnScreen).toBool();
-    return p;
-}
-
-void SaveCoachingPreferences(const CoachingPreferences& preferences)
-{
-    QSettings settings = Settings();
-    settings.setValue(QLatin1String(ExplainKey), preferences.explainRefusals);
-    settings.setValue(QLatin1String(GridKey), preferences.practiceGrid);
-    settings.setValue(QLatin1String(HintKey), preferences.hintAfterMisses);
-    settings.setValue(QLatin1String(OnScreenKey), preferences.keepOnScreen);
 }

@@ -14,10 +14,6 @@ public:
 
     /// The aids as the boxes are ticked.
     CoachingPreferences Chosen() const;
-    QCheckBox* ExplainBox() const { return m_explain; }
-    QCheckBox* GridBox() const { return m_grid; }
-    QCheckBox* HintBox() const { return m_hint; }
-    QCheckBox* OnScreenBox() const { return m_onScreen; }
 
 private:
     QCheckBox* m_explain = nullptr;
@@ -25,8 +21,3 @@ private:
     QCheckBox* m_hint = nullptr;
     QCheckBox* m_onScreen = nullptr;
 };
-
-/// The aids as last chosen, kept with the window's placement (not in the learner file).
-CoachingPreferences LoadCoachingPreferences();
-/// Keeps the aids for the next start.
-void SaveCoachingPreferences(const CoachingPreferences& preferences);

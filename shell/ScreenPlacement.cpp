@@ -1,5 +1,8 @@
 #include "ScreenPlacement.h"
 
+#include <QGuiApplication>
+#include <QScreen>
+
 #include <algorithm>
 #include <limits>
 
@@ -59,4 +62,19 @@ QPoint PlaceOnScreens(const QRect& frame, const QList<QRect>& screens)
     if (place.y() < home->top() || place.y() > home->bottom())
         place.setY(Clamp(place.y(), frame.height(), home->top(), home->bottom()));
     return place;
+}
+
+QPoint StartPosition(const QRect& frame, std::optional<QPoint> stored, bool keepOnScreen)
+{
+    QRect placed = frame;
+    if (const QScreen* screen = QGuiApplication::primaryScreen())
+        placed.moveCenter(screen->availableGeometry().center());
+    if (stored)
+        placed.moveTopLeft(*stored);
+    if (!keepOnScreen)
+        return placed.topLeft();
+    QList<QRect> screens;
+    for (const QScreen* screen : QGuiApplication::screens())
+        screens << screen->availableGeometry();
+    return PlaceOnScreens(placed, screens);
 }

@@ -89,7 +89,7 @@ int RunZavoren(const StartupOptions& options, Prompt& prompt)
     }
     int result = 0;
     {
-        MainWindow window(database, *store, prompt, ClockSeed, OpenWithDesktop, LocalTimeNow);
+        MainWindow window(database, *store, prompt, ClockSeed, OpenWithDesktop, LocalTimeNow, LoadProgressModule);
         if (!window.ChooseLearnerAtStart()) {
             splash.reset();
             ReleaseDataStores();
@@ -102,9 +102,8 @@ int RunZavoren(const StartupOptions& options, Prompt& prompt)
             QTimer::singleShot(0, [] { QApplication::exit(1); });
         });
         if (options.quitAfterFirstPaint)
-            new FirstPaintWatcher(window.Home(), &window);
-        window.ShowChosenLearner();
-        if (!window.Learner()) {
+            new FirstPaintWatcher(window.findChild<HomePage*>(), &window);
+        if (!window.ShowChosenLearner()) {
             ReleaseDataStores();
             return 0;
         }

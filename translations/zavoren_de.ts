@@ -317,6 +317,53 @@ Möchten Sie einen Minidump davon erhalten?</translation>
     </message>
 </context>
 <context>
+    <name>LearnerTransfer</name>
+    <message>
+        <source>Export learner</source>
+        <translation>Lernenden exportieren</translation>
+    </message>
+    <message>
+        <source>Zavoren! learners (*.xml);;All files (*)</source>
+        <translation>Zavoren!-Lernende (*.xml);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Import learner</source>
+        <translation>Lernenden importieren</translation>
+    </message>
+    <message>
+        <source>The learner could not be written to &quot;%1&quot;. Nothing was changed.</source>
+        <translation>Der Lernende konnte nicht nach „%1“ geschrieben werden. Es wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read.</source>
+        <translation>Die Datei „%1“ kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a learner exported by Zavoren!.</source>
+        <translation>„%1“ ist kein von Zavoren! exportierter Lernender.</translation>
+    </message>
+    <message>
+        <source>The learner file &quot;%1&quot; is damaged.</source>
+        <translation>Die Lernenden-Datei „%1“ ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The learner file &quot;%1&quot; was written with a character database of %2 categories; this one has %3.</source>
+        <translation>Die Lernenden-Datei „%1“ wurde mit einer Zeichendatenbank mit %2 Kategorien geschrieben; diese hat %3.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Es wurde nichts importiert.</translation>
+    </message>
+    <message>
+        <source>A learner named &quot;%1&quot; already exists. Replace their record with the imported one?
+
+Yes replaces it; No imports the learner under another name.</source>
+        <translation>Es gibt bereits einen Lernenden namens „%1“. Seinen Stand durch den importierten ersetzen?
+
+Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</translation>
+    </message>
+</context>
+<context>
     <name>LessonPage</name>
     <message>
         <source>Lesson</source>
@@ -429,62 +476,6 @@ Möchten Sie einen Minidump davon erhalten?</translation>
         <source>About Zavoren</source>
         <translation>Über Zavoren</translation>
     </message>
-    <message>
-        <source>Progress</source>
-        <translation>Fortschritt</translation>
-    </message>
-    <message>
-        <source>The progress window cannot be opened: %1</source>
-        <translation>Das Fortschrittsfenster kann nicht geöffnet werden: %1</translation>
-    </message>
-    <message>
-        <source>Export learner</source>
-        <translation>Lernenden exportieren</translation>
-    </message>
-    <message>
-        <source>Zavoren! learners (*.xml);;All files (*)</source>
-        <translation>Zavoren!-Lernende (*.xml);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>Import learner</source>
-        <translation>Lernenden importieren</translation>
-    </message>
-    <message>
-        <source>The learner could not be written to &quot;%1&quot;. Nothing was changed.</source>
-        <translation>Der Lernende konnte nicht nach „%1“ geschrieben werden. Es wurde nichts geändert.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; cannot be read.</source>
-        <translation>Die Datei „%1“ kann nicht gelesen werden.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a learner exported by Zavoren!.</source>
-        <translation>„%1“ ist kein von Zavoren! exportierter Lernender.</translation>
-    </message>
-    <message>
-        <source>The learner file &quot;%1&quot; is damaged.</source>
-        <translation>Die Lernenden-Datei „%1“ ist beschädigt.</translation>
-    </message>
-    <message>
-        <source>The learner file &quot;%1&quot; was written with a character database of %2 categories; this one has %3.</source>
-        <translation>Die Lernenden-Datei „%1“ wurde mit einer Zeichendatenbank mit %2 Kategorien geschrieben; diese hat %3.</translation>
-    </message>
-    <message>
-        <source>Nothing was imported.</source>
-        <translation>Es wurde nichts importiert.</translation>
-    </message>
-    <message>
-        <source>A learner named &quot;%1&quot; already exists. Replace their record with the imported one?
-
-Yes replaces it; No imports the learner under another name.</source>
-        <translation>Es gibt bereits einen Lernenden namens „%1“. Seinen Stand durch den importierten ersetzen?
-
-Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</translation>
-    </message>
-    <message>
-        <source>%1 is not the progress module</source>
-        <translation>%1 ist nicht das Fortschrittsmodul</translation>
-    </message>
 </context>
 <context>
     <name>Page</name>
@@ -514,6 +505,21 @@ Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</transl
     <message>
         <source>Bring the window onto the screen at start</source>
         <translation>Fenster beim Start auf den Bildschirm holen</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressViewer</name>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>The progress window cannot be opened: %1</source>
+        <translation>Das Fortschrittsfenster kann nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>%1 is not the progress module</source>
+        <translation>%1 ist nicht das Fortschrittsmodul</translation>
     </message>
 </context>
 <context>

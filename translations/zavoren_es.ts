@@ -317,6 +317,53 @@ Error fatal en Zavoren.<byte value="xd"/>
     </message>
 </context>
 <context>
+    <name>LearnerTransfer</name>
+    <message>
+        <source>Export learner</source>
+        <translation>Exportar alumno</translation>
+    </message>
+    <message>
+        <source>Zavoren! learners (*.xml);;All files (*)</source>
+        <translation>Alumnos de Zavoren! (*.xml);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Import learner</source>
+        <translation>Importar alumno</translation>
+    </message>
+    <message>
+        <source>The learner could not be written to &quot;%1&quot;. Nothing was changed.</source>
+        <translation>No se pudo escribir el alumno en «%1». No se cambió nada.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read.</source>
+        <translation>No se puede leer el archivo «%1».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a learner exported by Zavoren!.</source>
+        <translation>«%1» no es un alumno exportado por Zavoren!.</translation>
+    </message>
+    <message>
+        <source>The learner file &quot;%1&quot; is damaged.</source>
+        <translation>El archivo de alumno «%1» está dañado.</translation>
+    </message>
+    <message>
+        <source>The learner file &quot;%1&quot; was written with a character database of %2 categories; this one has %3.</source>
+        <translation>El archivo de alumno «%1» se escribió con una base de caracteres de %2 categorías; esta tiene %3.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>No se importó nada.</translation>
+    </message>
+    <message>
+        <source>A learner named &quot;%1&quot; already exists. Replace their record with the imported one?
+
+Yes replaces it; No imports the learner under another name.</source>
+        <translation>Ya existe un alumno llamado «%1». ¿Sustituir su registro por el importado?
+
+Sí lo sustituye; No importa al alumno con otro nombre.</translation>
+    </message>
+</context>
+<context>
     <name>LessonPage</name>
     <message>
         <source>Lesson</source>
@@ -429,62 +476,6 @@ Error fatal en Zavoren.<byte value="xd"/>
         <source>About Zavoren</source>
         <translation>Acerca de Zavoren</translation>
     </message>
-    <message>
-        <source>Progress</source>
-        <translation>Progreso</translation>
-    </message>
-    <message>
-        <source>The progress window cannot be opened: %1</source>
-        <translation>No se puede abrir la ventana de progreso: %1</translation>
-    </message>
-    <message>
-        <source>Export learner</source>
-        <translation>Exportar alumno</translation>
-    </message>
-    <message>
-        <source>Zavoren! learners (*.xml);;All files (*)</source>
-        <translation>Alumnos de Zavoren! (*.xml);;Todos los archivos (*)</translation>
-    </message>
-    <message>
-        <source>Import learner</source>
-        <translation>Importar alumno</translation>
-    </message>
-    <message>
-        <source>The learner could not be written to &quot;%1&quot;. Nothing was changed.</source>
-        <translation>No se pudo escribir el alumno en «%1». No se cambió nada.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; cannot be read.</source>
-        <translation>No se puede leer el archivo «%1».</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a learner exported by Zavoren!.</source>
-        <translation>«%1» no es un alumno exportado por Zavoren!.</translation>
-    </message>
-    <message>
-        <source>The learner file &quot;%1&quot; is damaged.</source>
-        <translation>El archivo de alumno «%1» está dañado.</translation>
-    </message>
-    <message>
-        <source>The learner file &quot;%1&quot; was written with a character database of %2 categories; this one has %3.</source>
-        <translation>El archivo de alumno «%1» se escribió con una base de caracteres de %2 categorías; esta tiene %3.</translation>
-    </message>
-    <message>
-        <source>Nothing was imported.</source>
-        <translation>No se importó nada.</translation>
-    </message>
-    <message>
-        <source>A learner named &quot;%1&quot; already exists. Replace their record with the imported one?
-
-Yes replaces it; No imports the learner under another name.</source>
-        <translation>Ya existe un alumno llamado «%1». ¿Sustituir su registro por el importado?
-
-Sí lo sustituye; No importa al alumno con otro nombre.</translation>
-    </message>
-    <message>
-        <source>%1 is not the progress module</source>
-        <translation>%1 no es el módulo de progreso</translation>
-    </message>
 </context>
 <context>
     <name>Page</name>
@@ -514,6 +505,21 @@ Sí lo sustituye; No importa al alumno con otro nombre.</translation>
     <message>
         <source>Bring the window onto the screen at start</source>
         <translation>Traer la ventana a la pantalla al iniciar</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressViewer</name>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>The progress window cannot be opened: %1</source>
+        <translation>No se puede abrir la ventana de progreso: %1</translation>
+    </message>
+    <message>
+        <source>%1 is not the progress module</source>
+        <translation>%1 no es el módulo de progreso</translation>
     </message>
 </context>
 <context>

@@ -317,6 +317,53 @@ Voulez-vous en obtenir un minidump ?</translation>
     </message>
 </context>
 <context>
+    <name>LearnerTransfer</name>
+    <message>
+        <source>Export learner</source>
+        <translation>Exporter l’apprenant</translation>
+    </message>
+    <message>
+        <source>Zavoren! learners (*.xml);;All files (*)</source>
+        <translation>Apprenants Zavoren! (*.xml);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Import learner</source>
+        <translation>Importer un apprenant</translation>
+    </message>
+    <message>
+        <source>The learner could not be written to &quot;%1&quot;. Nothing was changed.</source>
+        <translation>L’apprenant n’a pas pu être écrit dans « %1 ». Rien n’a été modifié.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read.</source>
+        <translation>Le fichier « %1 » ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a learner exported by Zavoren!.</source>
+        <translation>« %1 » n’est pas un apprenant exporté par Zavoren!.</translation>
+    </message>
+    <message>
+        <source>The learner file &quot;%1&quot; is damaged.</source>
+        <translation>Le fichier d’apprenant « %1 » est endommagé.</translation>
+    </message>
+    <message>
+        <source>The learner file &quot;%1&quot; was written with a character database of %2 categories; this one has %3.</source>
+        <translation>Le fichier d’apprenant « %1 » a été écrit avec une base de caractères de %2 catégories ; celle-ci en a %3.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Rien n’a été importé.</translation>
+    </message>
+    <message>
+        <source>A learner named &quot;%1&quot; already exists. Replace their record with the imported one?
+
+Yes replaces it; No imports the learner under another name.</source>
+        <translation>Un apprenant nommé « %1 » existe déjà. Remplacer son dossier par celui importé ?
+
+Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
+    </message>
+</context>
+<context>
     <name>LessonPage</name>
     <message>
         <source>Lesson</source>
@@ -429,62 +476,6 @@ Voulez-vous en obtenir un minidump ?</translation>
         <source>About Zavoren</source>
         <translation>À propos de Zavoren</translation>
     </message>
-    <message>
-        <source>Progress</source>
-        <translation>Progrès</translation>
-    </message>
-    <message>
-        <source>The progress window cannot be opened: %1</source>
-        <translation>La fenêtre des progrès ne peut pas s’ouvrir : %1</translation>
-    </message>
-    <message>
-        <source>Export learner</source>
-        <translation>Exporter l’apprenant</translation>
-    </message>
-    <message>
-        <source>Zavoren! learners (*.xml);;All files (*)</source>
-        <translation>Apprenants Zavoren! (*.xml);;Tous les fichiers (*)</translation>
-    </message>
-    <message>
-        <source>Import learner</source>
-        <translation>Importer un apprenant</translation>
-    </message>
-    <message>
-        <source>The learner could not be written to &quot;%1&quot;. Nothing was changed.</source>
-        <translation>L’apprenant n’a pas pu être écrit dans « %1 ». Rien n’a été modifié.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; cannot be read.</source>
-        <translation>Le fichier « %1 » ne peut pas être lu.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a learner exported by Zavoren!.</source>
-        <translation>« %1 » n’est pas un apprenant exporté par Zavoren!.</translation>
-    </message>
-    <message>
-        <source>The learner file &quot;%1&quot; is damaged.</source>
-        <translation>Le fichier d’apprenant « %1 » est endommagé.</translation>
-    </message>
-    <message>
-        <source>The learner file &quot;%1&quot; was written with a character database of %2 categories; this one has %3.</source>
-        <translation>Le fichier d’apprenant « %1 » a été écrit avec une base de caractères de %2 catégories ; celle-ci en a %3.</translation>
-    </message>
-    <message>
-        <source>Nothing was imported.</source>
-        <translation>Rien n’a été importé.</translation>
-    </message>
-    <message>
-        <source>A learner named &quot;%1&quot; already exists. Replace their record with the imported one?
-
-Yes replaces it; No imports the learner under another name.</source>
-        <translation>Un apprenant nommé « %1 » existe déjà. Remplacer son dossier par celui importé ?
-
-Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
-    </message>
-    <message>
-        <source>%1 is not the progress module</source>
-        <translation>%1 n’est pas le module des progrès</translation>
-    </message>
 </context>
 <context>
     <name>Page</name>
@@ -514,6 +505,21 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
     <message>
         <source>Bring the window onto the screen at start</source>
         <translation>Ramener la fenêtre sur l’écran au démarrage</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressViewer</name>
+    <message>
+        <source>Progress</source>
+        <translation>Progrès</translation>
+    </message>
+    <message>
+        <source>The progress window cannot be opened: %1</source>
+        <translation>La fenêtre des progrès ne peut pas s’ouvrir : %1</translation>
+    </message>
+    <message>
+        <source>%1 is not the progress module</source>
+        <translation>%1 n’est pas le module des progrès</translation>
     </message>
 </context>
 <context>

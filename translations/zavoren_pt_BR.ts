@@ -317,6 +317,53 @@ Deseja obter um minidump?</translation>
     </message>
 </context>
 <context>
+    <name>LearnerTransfer</name>
+    <message>
+        <source>Export learner</source>
+        <translation>Exportar aluno</translation>
+    </message>
+    <message>
+        <source>Zavoren! learners (*.xml);;All files (*)</source>
+        <translation>Alunos do Zavoren! (*.xml);;Todos os arquivos (*)</translation>
+    </message>
+    <message>
+        <source>Import learner</source>
+        <translation>Importar aluno</translation>
+    </message>
+    <message>
+        <source>The learner could not be written to &quot;%1&quot;. Nothing was changed.</source>
+        <translation>Não foi possível gravar o aluno em &quot;%1&quot;. Nada foi alterado.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read.</source>
+        <translation>O arquivo &quot;%1&quot; não pode ser lido.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a learner exported by Zavoren!.</source>
+        <translation>&quot;%1&quot; não é um aluno exportado pelo Zavoren!.</translation>
+    </message>
+    <message>
+        <source>The learner file &quot;%1&quot; is damaged.</source>
+        <translation>O arquivo de aluno &quot;%1&quot; está danificado.</translation>
+    </message>
+    <message>
+        <source>The learner file &quot;%1&quot; was written with a character database of %2 categories; this one has %3.</source>
+        <translation>O arquivo de aluno &quot;%1&quot; foi gravado com uma base de caracteres de %2 categorias; esta tem %3.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Nada foi importado.</translation>
+    </message>
+    <message>
+        <source>A learner named &quot;%1&quot; already exists. Replace their record with the imported one?
+
+Yes replaces it; No imports the learner under another name.</source>
+        <translation>Já existe um aluno chamado &quot;%1&quot;. Substituir o registro dele pelo importado?
+
+Sim substitui; Não importa o aluno com outro nome.</translation>
+    </message>
+</context>
+<context>
     <name>LessonPage</name>
     <message>
         <source>Lesson</source>
@@ -429,62 +476,6 @@ Deseja obter um minidump?</translation>
         <source>About Zavoren</source>
         <translation>Sobre o Zavoren</translation>
     </message>
-    <message>
-        <source>Progress</source>
-        <translation>Progresso</translation>
-    </message>
-    <message>
-        <source>The progress window cannot be opened: %1</source>
-        <translation>Não é possível abrir a janela de progresso: %1</translation>
-    </message>
-    <message>
-        <source>Export learner</source>
-        <translation>Exportar aluno</translation>
-    </message>
-    <message>
-        <source>Zavoren! learners (*.xml);;All files (*)</source>
-        <translation>Alunos do Zavoren! (*.xml);;Todos os arquivos (*)</translation>
-    </message>
-    <message>
-        <source>Import learner</source>
-        <translation>Importar aluno</translation>
-    </message>
-    <message>
-        <source>The learner could not be written to &quot;%1&quot;. Nothing was changed.</source>
-        <translation>Não foi possível gravar o aluno em &quot;%1&quot;. Nada foi alterado.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; cannot be read.</source>
-        <translation>O arquivo &quot;%1&quot; não pode ser lido.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a learner exported by Zavoren!.</source>
-        <translation>&quot;%1&quot; não é um aluno exportado pelo Zavoren!.</translation>
-    </message>
-    <message>
-        <source>The learner file &quot;%1&quot; is damaged.</source>
-        <translation>O arquivo de aluno &quot;%1&quot; está danificado.</translation>
-    </message>
-    <message>
-        <source>The learner file &quot;%1&quot; was written with a character database of %2 categories; this one has %3.</source>
-        <translation>O arquivo de aluno &quot;%1&quot; foi gravado com uma base de caracteres de %2 categorias; esta tem %3.</translation>
-    </message>
-    <message>
-        <source>Nothing was imported.</source>
-        <translation>Nada foi importado.</translation>
-    </message>
-    <message>
-        <source>A learner named &quot;%1&quot; already exists. Replace their record with the imported one?
-
-Yes replaces it; No imports the learner under another name.</source>
-        <translation>Já existe um aluno chamado &quot;%1&quot;. Substituir o registro dele pelo importado?
-
-Sim substitui; Não importa o aluno com outro nome.</translation>
-    </message>
-    <message>
-        <source>%1 is not the progress module</source>
-        <translation>%1 não é o módulo de progresso</translation>
-    </message>
 </context>
 <context>
     <name>Page</name>
@@ -514,6 +505,21 @@ Sim substitui; Não importa o aluno com outro nome.</translation>
     <message>
         <source>Bring the window onto the screen at start</source>
         <translation>Trazer a janela para a tela ao iniciar</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressViewer</name>
+    <message>
+        <source>Progress</source>
+        <translation>Progresso</translation>
+    </message>
+    <message>
+        <source>The progress window cannot be opened: %1</source>
+        <translation>Não é possível abrir a janela de progresso: %1</translation>
+    </message>
+    <message>
+        <source>%1 is not the progress module</source>
+        <translation>%1 não é o módulo de progresso</translation>
     </message>
 </context>
 <context>

@@ -317,6 +317,53 @@ Do you want to get minidump for it?</source>
     </message>
 </context>
 <context>
+    <name>LearnerTransfer</name>
+    <message>
+        <source>Export learner</source>
+        <translation>Экспорт ученика</translation>
+    </message>
+    <message>
+        <source>Zavoren! learners (*.xml);;All files (*)</source>
+        <translation>Ученики Zavoren! (*.xml);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>Import learner</source>
+        <translation>Импорт ученика</translation>
+    </message>
+    <message>
+        <source>The learner could not be written to &quot;%1&quot;. Nothing was changed.</source>
+        <translation>Не удалось записать ученика в «%1». Ничего не изменено.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read.</source>
+        <translation>Не удаётся прочитать файл «%1».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a learner exported by Zavoren!.</source>
+        <translation>«%1» — это не ученик, экспортированный из Zavoren!.</translation>
+    </message>
+    <message>
+        <source>The learner file &quot;%1&quot; is damaged.</source>
+        <translation>Файл ученика «%1» повреждён.</translation>
+    </message>
+    <message>
+        <source>The learner file &quot;%1&quot; was written with a character database of %2 categories; this one has %3.</source>
+        <translation>Файл ученика «%1» записан с базой знаков из %2 категорий, а в этой их %3.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Ничего не импортировано.</translation>
+    </message>
+    <message>
+        <source>A learner named &quot;%1&quot; already exists. Replace their record with the imported one?
+
+Yes replaces it; No imports the learner under another name.</source>
+        <translation>Ученик с именем «%1» уже есть. Заменить его данные импортированными?
+
+«Да» заменяет; «Нет» импортирует ученика под другим именем.</translation>
+    </message>
+</context>
+<context>
     <name>LessonPage</name>
     <message>
         <source>Lesson</source>
@@ -429,62 +476,6 @@ Do you want to get minidump for it?</source>
         <source>About Zavoren</source>
         <translation>О программе Zavoren</translation>
     </message>
-    <message>
-        <source>Progress</source>
-        <translation>Успехи</translation>
-    </message>
-    <message>
-        <source>The progress window cannot be opened: %1</source>
-        <translation>Не удаётся открыть окно успехов: %1</translation>
-    </message>
-    <message>
-        <source>Export learner</source>
-        <translation>Экспорт ученика</translation>
-    </message>
-    <message>
-        <source>Zavoren! learners (*.xml);;All files (*)</source>
-        <translation>Ученики Zavoren! (*.xml);;Все файлы (*)</translation>
-    </message>
-    <message>
-        <source>Import learner</source>
-        <translation>Импорт ученика</translation>
-    </message>
-    <message>
-        <source>The learner could not be written to &quot;%1&quot;. Nothing was changed.</source>
-        <translation>Не удалось записать ученика в «%1». Ничего не изменено.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; cannot be read.</source>
-        <translation>Не удаётся прочитать файл «%1».</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a learner exported by Zavoren!.</source>
-        <translation>«%1» — это не ученик, экспортированный из Zavoren!.</translation>
-    </message>
-    <message>
-        <source>The learner file &quot;%1&quot; is damaged.</source>
-        <translation>Файл ученика «%1» повреждён.</translation>
-    </message>
-    <message>
-        <source>The learner file &quot;%1&quot; was written with a character database of %2 categories; this one has %3.</source>
-        <translation>Файл ученика «%1» записан с базой знаков из %2 категорий, а в этой их %3.</translation>
-    </message>
-    <message>
-        <source>Nothing was imported.</source>
-        <translation>Ничего не импортировано.</translation>
-    </message>
-    <message>
-        <source>A learner named &quot;%1&quot; already exists. Replace their record with the imported one?
-
-Yes replaces it; No imports the learner under another name.</source>
-        <translation>Ученик с именем «%1» уже есть. Заменить его данные импортированными?
-
-«Да» заменяет; «Нет» импортирует ученика под другим именем.</translation>
-    </message>
-    <message>
-        <source>%1 is not the progress module</source>
-        <translation>%1 — не модуль успехов</translation>
-    </message>
 </context>
 <context>
     <name>Page</name>
@@ -514,6 +505,21 @@ Yes replaces it; No imports the learner under another name.</source>
     <message>
         <source>Bring the window onto the screen at start</source>
         <translation>Возвращать окно на экран при запуске</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressViewer</name>
+    <message>
+        <source>Progress</source>
+        <translation>Успехи</translation>
+    </message>
+    <message>
+        <source>The progress window cannot be opened: %1</source>
+        <translation>Не удаётся открыть окно успехов: %1</translation>
+    </message>
+    <message>
+        <source>%1 is not the progress module</source>
+        <translation>%1 — не модуль успехов</translation>
     </message>
 </context>
 <context>

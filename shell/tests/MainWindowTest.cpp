@@ -17,7 +17,7 @@
 #include "RecordingOpener.h"
 #include "RecordingPrompt.h"
 #include "ShellTestSupport.h"
-#include "SplashWindow.h"
+#include "WindowFixture.h"
 #include "TestContainer.h"
 #include "TestSupport.h"
 #include "UserManagerDialog.h"
@@ -26,6 +26,8 @@
 
 #include <QBarSet>
 #include <QCheckBox>
+#include <QFileDialog>
+#include <QPointer>
 #include <QLineSeries>
 #include <QPluginLoader>
 #include <QLabel>
@@ -71,9 +73,9 @@ void WriteAll(InputCanvas* canvas, const Form& glyph)
 /// Answers every question of the test shown right, until it finishes.
 void AnswerTestRight(MainWindow& window)
 {
-    TestContainer* test = window.Test();
-    CharacterDatabase& db = GetDatabase();
-    for (int guard = 0; guard < 100 && window.ShownPage() == test; ++guard) {
+    TestContainer* test = ChildOf<TestContainer>(window);
+    CharacterDatabase& db = StandardDatabase();
+    for (int guard = 0; guard < 100 && ShownPage(window) == test; ++guard) {
         const auto character = db.LoadCharacter(*test->Schedule().CurrentCode());
         if (test->ShownPage() == test->ReadingPage()) {
             ReadingTestPage* page = test->ReadingPage();
@@ -95,10 +97,18 @@ void AnswerTestRight(MainWindow& window)
 
 void OpenCategory(MainWindow& window, int row)
 {
-    QTreeWidget* list = window.Home()->CategoryList();
+    HomePage* home = ChildOf<HomePage>(window);
+    QTreeWidget* list = home->CategoryList();
     const QRect r = list->visualItemRect(list->topLevelItem(row));
     QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, r.center());
-    QTest::mouseClick(window.Home()->OpenButton(), Qt::LeftButton);
+    QTest::mouseClick(home->OpenButton(), Qt::LeftButton);
+}
+
+/// Sorted, for comparing lists whose order is another's.
+Codes Sorted(Codes codes)
+{
+    std::sort(codes.begin(), codes.end());
+    return codes;
 }
 
 /// Progress windows made by the view linked into the tests, as the module makes them.
@@ -121,19 +131,14 @@ class MainWindowTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_prompt = RecordingPrompt();
-        m_urls.opened.clear();
-    }
     void aLearnersWholePathSurvivesARestart()
     {
-        DataFolder folder;
-        std::size_t grade1Size = 0;
+        StaticProgressViews views;
+        WindowFixture f("<Zavoren><Users/></Zavoren>", views.Source());
+        const std::size_t grade1Size = StandardDatabase().LoadCategory(0)->CharacterCount();
         Codes taught;
         {
             // An empty learner file: the User Manager opens; add Anna and open her.
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
             ModalAnswerer<AddUserDialog> add([](AddUserDialog& dialog) {
                 dialog.NameEdit()->setText(QStringLiteral("Anna"));
                 QTest::mouseClick(dialog.OkButton(), Qt::LeftButton);
@@ -142,52 +147,53 @@ private slots:
                 QTest::mouseClick(dialog.AddButton(), Qt::LeftButton);
                 QTest::mouseClick(dialog.OpenButton(), Qt::LeftButton);
             });
-            QVERIFY(window.ChooseLearnerAtStart());
+            QVERIFY(f.Start());
             QCOMPARE(manager.Shown(), 1);
             QCOMPARE(add.Shown(), 1);
-            window.ShowChosenLearner();
-            QVERIFY(QTest::qWaitForWindowExposed(&window));
-            QCOMPARE(window.ShownPage(), window.Home());
-            QCOMPARE(window.Home()->UserNameLabel()->text(), QStringLiteral("Anna"));
-            // The window is the page plus the menu bar.
-            QCOMPARE(window.width(), window.Home()->width());
-            QCOMPARE(window.height(), window.Home()->height() + window.menuBar()->sizeHint().height());
-
-            OpenCategory(window, 0);
-            QCOMPARE(window.ShownPage(), window.Category());
-            grade1Size = GetDatabase().LoadCategory(0)->CharacterCount();
-
-            // A lesson: every stroke of each character, the three boxes, Next.
-            QTest::mouseClick(window.Category()->LessonButton(), Qt::LeftButton);
-            QCOMPARE(window.ShownPage(), window.Lesson());
-            LessonPage* lesson = window.Lesson();
-            for (int c = 0; c < 5; ++c) {
-                WriteAll(lesson->Input(), *lesson->Glyph());
-                for (QCheckBox* box : {lesson->OnReadingBox(), lesson->KunReadingBox(), lesson->MeaningBox()})
-                    Tick(box);
-                QVERIFY(lesson->NextButton()->isEnabled());
-                QTest::mouseClick(lesson->NextButton(), Qt::LeftButton);
-            }
-            QCOMPARE(window.ShownPage(), window.Category());
-            taught = window.CurrentCategory()->Untested();
-            QCOMPARE(taught.size(), 5u);
-            QCOMPARE(window.Category()->Strip()->Groups()[0].codes, taught);
-
-            // A test answered right throughout.
-            QTest::mouseClick(window.Category()->TestButton(), Qt::LeftButton);
-            QCOMPARE(window.ShownPage(), window.Test());
-            AnswerTestRight(window);
-            QCOMPARE(window.ShownPage(), window.Category());
-            QCOMPARE(window.CurrentCategory()->Learned(), taught);
-            QCOMPARE(window.CurrentCategory()->UntestedCount(), 0u);
-            QTest::mouseClick(window.Category()->BackButton(), Qt::LeftButton);
-            QCOMPARE(window.ShownPage(), window.Home());
-            window.close();
         }
-        ReleaseDataStores();
+        MainWindow& window = f.Window();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        HomePage* home = ChildOf<HomePage>(window);
+        CategoryPage* category = ChildOf<CategoryPage>(window);
+        LessonPage* lesson = ChildOf<LessonPage>(window);
+        QCOMPARE(ShownPage(window), home);
+        QCOMPARE(home->UserNameLabel()->text(), QStringLiteral("Anna"));
+        // The window is the page plus the menu bar.
+        QCOMPARE(window.width(), home->width());
+        QCOMPARE(window.height(), home->height() + window.menuBar()->sizeHint().height());
+
+        OpenCategory(window, 0);
+        QCOMPARE(ShownPage(window), category);
+        // A lesson: every stroke of each character, the three boxes, Next.
+        QTest::mouseClick(category->LessonButton(), Qt::LeftButton);
+        QCOMPARE(ShownPage(window), lesson);
+        for (int c = 0; c < 5; ++c) {
+            WriteAll(lesson->Input(), *lesson->Glyph());
+            for (QCheckBox* box : {lesson->OnReadingBox(), lesson->KunReadingBox(), lesson->MeaningBox()})
+                Tick(box);
+            QVERIFY(lesson->NextButton()->isEnabled());
+            QTest::mouseClick(lesson->NextButton(), Qt::LeftButton);
+        }
+        QCOMPARE(ShownPage(window), category);
+        // The first five of Grade 1, now in the strip of untested characters.
+        const Codes grade1 = StandardDatabase().LoadCategory(0)->Characters();
+        taught = Codes(grade1.begin(), grade1.begin() + 5);
+        QCOMPARE(category->Strip()->Groups()[0].codes, taught);
+
+        // A test answered right throughout: the five are learned, the strip is empty.
+        QTest::mouseClick(category->TestButton(), Qt::LeftButton);
+        QCOMPARE(ShownPage(window), ChildOf<TestContainer>(window));
+        AnswerTestRight(window);
+        QCOMPARE(ShownPage(window), category);
+        QCOMPARE(Sorted(category->Grid()->Groups()[0].codes), Sorted(taught));
+        QVERIFY(category->Strip()->Groups()[0].codes.empty());
+        QTest::mouseClick(category->BackButton(), Qt::LeftButton);
+        QCOMPARE(ShownPage(window), home);
+        f.Close();
+
         // The file: Anna current, the characters learned in category 0, a Progress per category.
         pugi::xml_document doc;
-        QVERIFY(doc.load_file("config.xml"));
+        QVERIFY(doc.load_file(f.ConfigPath().c_str()));
         const pugi::xml_node users = doc.document_element().child("Users");
         QCOMPARE(std::string(users.attribute("currentUser").value()), std::string("Anna"));
         const pugi::xml_node anna = users.find_child_by_attribute("User", "name", "Anna");
@@ -203,7 +209,7 @@ private slots:
             }
             ++progresses;
         }
-        QCOMPARE(progresses, int(GetDatabase().CategoryCount()));
+        QCOMPARE(progresses, int(StandardDatabase().CategoryCount()));
         // The history: each of the five taught, then each of the five passed, dated by the clock.
         QStringList kinds;
         User record;
@@ -216,173 +222,184 @@ private slots:
         QCOMPARE(kinds,
             (QStringList{
                 "lesson", "lesson", "lesson", "lesson", "lesson", "passed", "passed", "passed", "passed", "passed"}));
-        ReleaseDataStores();
+
         // Started again: Anna opens directly and the home page shows her progress.
-        MainWindow again(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
+        f.Restart();
         ModalAnswerer<UserManagerDialog> manager(
             [](UserManagerDialog& dialog) { QTest::mouseClick(dialog.CloseButton(), Qt::LeftButton); });
-        QVERIFY(again.ChooseLearnerAtStart());
+        QVERIFY(f.Start());
         QCOMPARE(manager.Shown(), 0);
-        again.ShowChosenLearner();
-        QCOMPARE(again.Home()->CategoryList()->topLevelItem(0)->text(0),
+        QCOMPARE(ChildOf<HomePage>(f.Window())->CategoryList()->topLevelItem(0)->text(0),
             QStringLiteral("Grade 1 (5 of %1)").arg(grade1Size));
         // Tools > Progress…: five characters learned today.
-        StaticProgressViews views;
-        again.SetProgressViews(views.Source());
-        QVERIFY(again.ProgressAction()->isEnabled());
-        again.ProgressAction()->trigger();
-        auto* progress = qobject_cast<ProgressWindow*>(again.ProgressView());
+        QAction* progressAction = ActionOf(f.Window(), "progressAction");
+        QVERIFY(progressAction->isEnabled());
+        progressAction->trigger();
+        auto* progress = ChildOf<ProgressWindow>(f.Window());
         QVERIFY(progress);
         QVERIFY(progress->isVisible());
         QCOMPARE(progress->LearnedSeries()->count(), 1); // the history began today
         QCOMPARE(progress->LearnedSeries()->at(0).y(), 5.0);
         QCOMPARE(progress->PassedBars()->at(0), 5.0);
-        again.close();
-        QVERIFY(!again.ProgressView()); // it goes with the window
+        QPointer<ProgressWindow> watched(progress);
+        f.Window().close();
+        QVERIFY(!watched); // it goes with the window
     }
 
     void theOnlyLearnerOpensWithoutAsking()
     {
-        DataFolder folder(R"(<Z><Users><User name="Solo"/></Users></Z>)");
-        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-        QVERIFY(window.ChooseLearnerAtStart());
-        window.ShowChosenLearner();
-        QCOMPARE(QString::fromUtf8(window.Learner()->Name()), QStringLiteral("Solo"));
-        window.close();
+        WindowFixture f(R"(<Z><Users><User name="Solo"/></Users></Z>)");
+        QVERIFY(f.Start());
+        QCOMPARE(ChildOf<HomePage>(f.Window())->UserNameLabel()->text(), QStringLiteral("Solo"));
     }
 
     void cancellingTheManagerAtStartEndsTheProgram()
     {
-        DataFolder folder(R"(<Z><Users><User name="A"/><User name="B"/></Users></Z>)");
-        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
+        WindowFixture f(R"(<Z><Users><User name="A"/><User name="B"/></Users></Z>)");
         ModalAnswerer<UserManagerDialog> manager(
             [](UserManagerDialog& dialog) { QTest::mouseClick(dialog.CloseButton(), Qt::LeftButton); });
-        QVERIFY(!window.ChooseLearnerAtStart());
+        QVERIFY(!f.Window().ChooseLearnerAtStart());
         QCOMPARE(manager.Shown(), 1);
-        QVERIFY(!window.isVisible());
+        QVERIFY(!f.Window().isVisible());
     }
 
-    void testsTakeAtMostFiveUntestedInListOrder()
+    void aTestTakesAtMostFiveUntestedInListOrder_data()
     {
-        DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
-        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-        QVERIFY(window.ChooseLearnerAtStart());
-        window.ShowChosenLearner();
-        OpenCategory(window, 0);
-        const Codes grade1 = GetDatabase().LoadCategory(0)->Characters();
-        // None: the test gets an empty list and asks nothing.
-        emit window.Category()->pageEvent(CategoryPage::Test, 0);
-        QCOMPARE(window.ShownPage(), window.Test());
-        QVERIFY(window.Test()->Schedule().Codes().empty());
-        QTest::mouseClick(window.Test()->AbortButton(), Qt::LeftButton);
-        // Three: all of them; seven: the first five.
-        for (int i = 0; i < 3; ++i)
-            window.CurrentCategory()->AddUntested(grade1[static_cast<std::size_t>(i)]);
-        emit window.Category()->pageEvent(CategoryPage::Test, 0);
-        QCOMPARE(window.Test()->Schedule().Codes(), (Codes{grade1[0], grade1[1], grade1[2]}));
-        QTest::mouseClick(window.Test()->AbortButton(), Qt::LeftButton);
-        for (int i = 3; i < 7; ++i)
-            window.CurrentCategory()->AddUntested(grade1[static_cast<std::size_t>(i)]);
-        emit window.Category()->pageEvent(CategoryPage::Test, 0);
-        QCOMPARE(window.Test()->Schedule().Codes(), Codes(grade1.begin(), grade1.begin() + 5));
-        // Learn on one character starts a lesson of it alone.
-        QTest::mouseClick(window.Test()->AbortButton(), Qt::LeftButton);
-        emit window.Category()->pageEvent(CategoryPage::Learn, grade1[20]);
-        QCOMPARE(window.ShownPage(), window.Lesson());
-        QTest::mouseClick(window.Lesson()->AbortButton(), Qt::LeftButton);
-        QCOMPARE(window.ShownPage(), window.Category());
-        QCOMPARE(window.CurrentCategory()->UntestedCount(), 7u); // an aborted lesson records nothing
-        window.close();
+        QTest::addColumn<int>("untested");
+        QTest::addColumn<int>("tested");
+        QTest::newRow("none") << 0 << 0;
+        QTest::newRow("three") << 3 << 3;
+        QTest::newRow("seven") << 7 << 5;
+    }
+    void aTestTakesAtMostFiveUntestedInListOrder()
+    {
+        QFETCH(int, untested);
+        QFETCH(int, tested);
+        const Codes grade1 = StandardDatabase().LoadCategory(0)->Characters();
+        WindowFixture f(OneLearner("A", Codes(grade1.begin(), grade1.begin() + untested)));
+        QVERIFY(f.Start());
+        OpenCategory(f.Window(), 0);
+        auto* category = ChildOf<CategoryPage>(f.Window());
+        auto* test = ChildOf<TestContainer>(f.Window());
+        if (untested == 0) {
+            // Nothing to test: the button is off, and the page stays.
+            QVERIFY(!category->TestButton()->isEnabled());
+            QTest::mouseClick(category->TestButton(), Qt::LeftButton);
+            QCOMPARE(ShownPage(f.Window()), category);
+            return;
+        }
+        QTest::mouseClick(category->TestButton(), Qt::LeftButton);
+        QCOMPARE(ShownPage(f.Window()), test);
+        QCOMPARE(test->Schedule().Codes(), Codes(grade1.begin(), grade1.begin() + tested));
+        QTest::mouseClick(test->AbortButton(), Qt::LeftButton);
+        QCOMPARE(ShownPage(f.Window()), category);
+    }
+
+    void learnStartsALessonOfOneCharacterAndAnAbortedLessonRecordsNothing()
+    {
+        const Codes grade1 = StandardDatabase().LoadCategory(0)->Characters();
+        WindowFixture f(OneLearner("A", {grade1[0], grade1[1]}));
+        QVERIFY(f.Start());
+        OpenCategory(f.Window(), 0);
+        auto* category = ChildOf<CategoryPage>(f.Window());
+        auto* lesson = ChildOf<LessonPage>(f.Window());
+        // Learn from the grid's context menu on a character to be learned.
+        CharacterGrid* grid = category->Grid();
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, grid->CellRect(20).center());
+        QCOMPARE(grid->SelectedCodes(), Codes{grade1[20]});
+        category->UnlearnedMenu()->actions().value(1)->trigger(); // Info, Learn
+        QCOMPARE(ShownPage(f.Window()), lesson);
+        QCOMPARE(lesson->Glyph()->StrokeCount(), StandardDatabase().LoadElement(
+            StandardDatabase().LoadCharacter(grade1[20])->ElementId())->GetForm(0).StrokeCount());
+        QTest::mouseClick(lesson->AbortButton(), Qt::LeftButton);
+        QCOMPARE(ShownPage(f.Window()), category);
+        QCOMPARE(category->Strip()->Groups()[0].codes, (Codes{grade1[0], grade1[1]}));
+        f.Close();
+        const auto saved = f.Saved("A");
+        QCOMPARE(saved->GetProgress(0).Untested(), (Codes{grade1[0], grade1[1]}));
+        QCOMPARE(saved->History().size(), 1u); // "learn" only: an aborted lesson records nothing
+        QCOMPARE(saved->History()[0].kind, std::string(LearnerEvent::Learn));
     }
 
     void closingDuringATestAppliesTheAnswersSoFar()
     {
-        DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
-        const Codes grade1 = GetDatabase().LoadCategory(0)->Characters();
-        {
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-            QVERIFY(window.ChooseLearnerAtStart());
-            window.ShowChosenLearner();
-            OpenCategory(window, 0);
-            window.CurrentCategory()->AddUntested(grade1[0]);
-            window.Category()->Refresh();
-            QTest::mouseClick(window.Category()->TestButton(), Qt::LeftButton);
-            // Two wrong ON picks on the reading question fail the character.
-            TestContainer* test = window.Test();
-            QCOMPARE(test->ShownPage(), static_cast<QuestionPage*>(test->ReadingPage()));
-            const auto character = GetDatabase().LoadCharacter(grade1[0]);
-            auto answerWithMistake = [&] {
-                ReadingTestPage* page = test->ReadingPage();
-                const std::string right = character->OnReading() ? character->OnReading() : "";
-                for (int i = 0; i < 5; ++i)
-                    if (page->Choices().on[static_cast<std::size_t>(i)] != right) {
-                        ClickRadio(page->OnButton(i));
-                        break;
-                    }
-                for (int i = 0; i < 5; ++i) {
-                    if (page->Choices().on[static_cast<std::size_t>(i)] == right)
-                        ClickRadio(page->OnButton(i));
-                    if (page->Choices().kun[static_cast<std::size_t>(i)]
-                        == (character->KunReading() ? character->KunReading() : ""))
-                        ClickRadio(page->KunButton(i));
+        const Codes grade1 = StandardDatabase().LoadCategory(0)->Characters();
+        WindowFixture f(OneLearner("A", {grade1[0]}));
+        QVERIFY(f.Start());
+        MainWindow& window = f.Window();
+        OpenCategory(window, 0);
+        QTest::mouseClick(ChildOf<CategoryPage>(window)->TestButton(), Qt::LeftButton);
+        // Two wrong ON picks on the reading question fail the character.
+        TestContainer* test = ChildOf<TestContainer>(window);
+        QCOMPARE(test->ShownPage(), static_cast<QuestionPage*>(test->ReadingPage()));
+        const auto character = StandardDatabase().LoadCharacter(grade1[0]);
+        auto answerWithMistake = [&] {
+            ReadingTestPage* page = test->ReadingPage();
+            const std::string right = character->OnReading() ? character->OnReading() : "";
+            for (int i = 0; i < 5; ++i)
+                if (page->Choices().on[static_cast<std::size_t>(i)] != right) {
+                    ClickRadio(page->OnButton(i));
+                    break;
                 }
-                QTest::mouseClick(test->NextButton(), Qt::LeftButton);
-            };
-            answerWithMistake();
-            // Drawing next, answered right; then the reading again, missed again.
-            WriteAll(test->DrawingPage()->Input(), *test->DrawingPage()->Glyph());
+            for (int i = 0; i < 5; ++i) {
+                if (page->Choices().on[static_cast<std::size_t>(i)] == right)
+                    ClickRadio(page->OnButton(i));
+                if (page->Choices().kun[static_cast<std::size_t>(i)]
+                    == (character->KunReading() ? character->KunReading() : ""))
+                    ClickRadio(page->KunButton(i));
+            }
             QTest::mouseClick(test->NextButton(), Qt::LeftButton);
-            answerWithMistake();
-            QCOMPARE(test->FailedCodes(), Codes{}); // the drawing is still open
-            // The drawing answered right a second time decides it; Next is not pressed.
-            WriteAll(test->DrawingPage()->Input(), *test->DrawingPage()->Glyph());
-            QCOMPARE(test->FailedCodes(), Codes{grade1[0]});
-            QCOMPARE(window.ShownPage(), window.Test());
-            window.close(); // in the middle of the test
-        }
-        ReleaseDataStores();
-        auto user = GetConfigStore().LoadUser("A");
+        };
+        answerWithMistake();
+        // Drawing next, answered right; then the reading again, missed again.
+        WriteAll(test->DrawingPage()->Input(), *test->DrawingPage()->Glyph());
+        QTest::mouseClick(test->NextButton(), Qt::LeftButton);
+        answerWithMistake();
+        QCOMPARE(test->FailedCodes(), Codes{}); // the drawing is still open
+        // The drawing answered right a second time decides it; Next is not pressed.
+        WriteAll(test->DrawingPage()->Input(), *test->DrawingPage()->Glyph());
+        QCOMPARE(test->FailedCodes(), Codes{grade1[0]});
+        QCOMPARE(ShownPage(window), test);
+        f.Close(); // in the middle of the test
         // The failure was applied before saving: not learned, no longer untested.
+        const auto user = f.Saved("A");
         QCOMPARE(user->GetProgress(0).UntestedCount(), 0u);
         QCOMPARE(user->GetProgress(0).LearnedCount(), 0u);
-        ReleaseDataStores();
     }
 
     void deletingTheCurrentLearnerHidesTheWindowUntilOneIsChosen()
     {
-        DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/><User name="B"/></Users></Z>)");
-        m_prompt.answer = QMessageBox::Yes;
-        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-        QVERIFY(window.ChooseLearnerAtStart());
-        window.ShowChosenLearner();
+        WindowFixture f(R"(<Z><Users currentUser="A"><User name="A"/><User name="B"/></Users></Z>)");
+        f.Prompt().answer = QMessageBox::Yes;
+        QVERIFY(f.Start());
+        MainWindow& window = f.Window();
         QVERIFY(window.isVisible());
-        bool hiddenDuring = false;
+        QAction* progress = ActionOf(window, "progressAction");
+        bool hiddenDuring = false, progressOffDuring = false;
         ModalAnswerer<UserManagerDialog> managerAnswer([&](UserManagerDialog& manager) {
             QCOMPARE(manager.SelectedUserName(), std::string("A"));
             QTest::mouseClick(manager.DeleteButton(), Qt::LeftButton);
             hiddenDuring = !window.isVisible();
-            QCOMPARE(window.Home()->UserNameLabel()->text(), QStringLiteral("N/A"));
+            progressOffDuring = !progress->isEnabled();
+            QCOMPARE(ChildOf<HomePage>(window)->UserNameLabel()->text(), QStringLiteral("N/A"));
             QCOMPARE(manager.SelectedUserName(), std::string("B"));
             QTest::mouseClick(manager.OpenButton(), Qt::LeftButton);
         });
-        window.UsersAction()->trigger();
+        ActionOf(window, "usersAction")->trigger();
         QVERIFY(hiddenDuring);
+        QVERIFY(progressOffDuring); // nothing that needs a learner while there is none
         QVERIFY(window.isVisible());
-        QCOMPARE(QString::fromUtf8(window.Learner()->Name()), QStringLiteral("B"));
-        QCOMPARE(window.ShownPage(), window.Home());
-        window.close();
+        QCOMPARE(ChildOf<HomePage>(window)->UserNameLabel()->text(), QStringLiteral("B"));
+        QCOMPARE(ShownPage(window), ChildOf<HomePage>(window));
+        QVERIFY(progress->isEnabled());
     }
 
     void placementIsStoredAndRestoredEvenOffScreen()
     {
-        DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
-        {
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-            QVERIFY(window.ChooseLearnerAtStart());
-            window.ShowChosenLearner();
-            window.move(123, 45);
-            window.close();
-        }
+        WindowFixture f(OneLearner("A"));
+        QVERIFY(f.Start());
+        f.Window().move(123, 45);
+        f.Close();
         QSettings settings(QStringLiteral("Zavoren"), QStringLiteral("Zavoren"));
         const QByteArray stored = settings.value(QStringLiteral("WindowPosition")).toByteArray();
         QCOMPARE(stored.size(), 16);
@@ -396,51 +413,40 @@ private slots:
         settings.setValue(QStringLiteral("WindowPosition"), far);
         settings.setValue(QStringLiteral("Preferences/KeepWindowOnScreen"), false);
         settings.sync();
-        ReleaseDataStores();
-        {
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-            QVERIFY(window.ChooseLearnerAtStart());
-            QCOMPARE(window.pos(), QPoint(-5000, 9000));
-        }
+        f.Restart();
+        // (Each window below closes before the settings change: closing stores its placement.)
+        QVERIFY(f.Window().ChooseLearnerAtStart());
+        QCOMPARE(f.Window().pos(), QPoint(-5000, 9000));
         // Kept on screen (the default): it comes back onto the nearest screen, wholly visible.
+        f.Close();
         settings.remove(QStringLiteral("Preferences/KeepWindowOnScreen"));
         settings.sync();
-        ReleaseDataStores();
-        {
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-            QVERIFY(window.ChooseLearnerAtStart());
-            const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-            QVERIFY(screen.contains(window.frameGeometry()));
-            QCOMPARE(window.frameGeometry().left(), screen.left()); // nearest: the left edge
-            QCOMPARE(window.frameGeometry().bottom(), screen.bottom()); // and the bottom
-        }
+        f.Restart();
+        QVERIFY(f.Window().ChooseLearnerAtStart());
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        QVERIFY(screen.contains(f.Window().frameGeometry()));
+        QCOMPARE(f.Window().frameGeometry().left(), screen.left()); // nearest: the left edge
+        QCOMPARE(f.Window().frameGeometry().bottom(), screen.bottom()); // and the bottom
         // Without the value: centred.
+        f.Close();
         settings.remove(QStringLiteral("WindowPosition"));
         settings.sync();
-        ReleaseDataStores();
-        {
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-            QVERIFY(window.ChooseLearnerAtStart());
-            const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-            QVERIFY(qAbs(window.frameGeometry().center().x() - screen.center().x()) <= 1);
-        }
+        f.Restart();
+        QVERIFY(f.Window().ChooseLearnerAtStart());
+        QVERIFY(qAbs(f.Window().frameGeometry().center().x() - screen.center().x()) <= 1);
     }
 
     void anUnchangedPlacementIsNotWrittenAgain()
     {
-        DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
+        WindowFixture f(OneLearner("A"));
         QSettings settings(QStringLiteral("Zavoren"), QStringLiteral("Zavoren"));
         // A value that is not a placement is replaced at close.
         settings.setValue(QStringLiteral("WindowPosition"), QStringLiteral("left"));
         settings.sync();
         const QString file = settings.fileName();
-        {
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-            QVERIFY(window.ChooseLearnerAtStart());
-            window.ShowChosenLearner();
-            window.move(200, 100);
-            window.close();
-        }
+        QVERIFY(f.Start());
+        f.Window().move(200, 100);
+        f.Close();
         settings.sync();
         QCOMPARE(settings.value(QStringLiteral("WindowPosition")).toByteArray().size(), 16);
         // Closed where it was restored: the file is left as it is (every save replaces it with
@@ -451,25 +457,17 @@ private slots:
         };
         const ino_t inodeBefore = inode(file);
         QVERIFY(inodeBefore != 0);
-        ReleaseDataStores();
-        {
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-            QVERIFY(window.ChooseLearnerAtStart());
-            window.ShowChosenLearner();
-            QCOMPARE(window.pos(), QPoint(200, 100));
-            window.close();
-        }
+        f.Restart();
+        QVERIFY(f.Start());
+        QCOMPARE(f.Window().pos(), QPoint(200, 100));
+        f.Close();
         QCOMPARE(inode(file), inodeBefore);
         QVERIFY(!QFile::exists(file + QStringLiteral(".lock")));
         // Moved: written.
-        ReleaseDataStores();
-        {
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-            QVERIFY(window.ChooseLearnerAtStart());
-            window.ShowChosenLearner();
-            window.move(210, 100);
-            window.close();
-        }
+        f.Restart();
+        QVERIFY(f.Start());
+        f.Window().move(210, 100);
+        f.Close();
         QVERIFY(inode(file) != inodeBefore);
         settings.sync();
         QCOMPARE(qFromLittleEndian<qint32>(settings.value(QStringLiteral("WindowPosition")).toByteArray().constData()), 210);
@@ -477,32 +475,23 @@ private slots:
 
     void menuAndIgnoredKeys()
     {
-        DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
-        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-        QVERIFY(window.ChooseLearnerAtStart());
-        window.ShowChosenLearner();
+        WindowFixture f(OneLearner("A"));
+        QVERIFY(f.Start());
+        MainWindow& window = f.Window();
         QCOMPARE(window.objectName(), QStringLiteral("Zavoren Mainframe Class"));
         QCOMPARE(window.windowTitle(), QStringLiteral("Zavoren!"));
         QStringList menus;
         for (QAction* a : window.menuBar()->actions())
             menus << a->text();
         QCOMPARE(menus, (QStringList{"&File", "&Tools", "&Help"}));
-        QCOMPARE(window.UsersAction()->text(), QStringLiteral("Users"));
-        QCOMPARE(window.ExitAction()->text(), QStringLiteral("Exit"));
-        QCOMPARE(window.ContentsAction()->text(), QStringLiteral("Contents"));
-        QCOMPARE(window.SiteAction()->text(), QStringLiteral("Quelmar Software site"));
-        QCOMPARE(window.AboutAction()->text(), QStringLiteral("About"));
-        // Contents without the help document opens nothing; with it, the document itself.
-        window.ContentsAction()->trigger();
-        QVERIFY(m_urls.opened.isEmpty());
-        std::ofstream("Zavoren.html") << "<html></html>";
-        window.ContentsAction()->trigger();
-        QCOMPARE(m_urls.opened,
-            QList<QUrl>{QUrl::fromLocalFile(QDir(folder.Path()).filePath(QStringLiteral("Zavoren.html")))});
-        // The site link opens the maker's site.
-        window.SiteAction()->trigger();
-        QCOMPARE(m_urls.opened.size(), 2);
-        QCOMPARE(m_urls.opened.last(), QUrl(QString::fromLatin1(MakerSite)));
+        QCOMPARE(ActionOf(window, "usersAction")->text(), QStringLiteral("Users"));
+        QCOMPARE(ActionOf(window, "exitAction")->text(), QStringLiteral("Exit"));
+        QCOMPARE(ActionOf(window, "contentsAction")->text(), QStringLiteral("Contents"));
+        QCOMPARE(ActionOf(window, "siteAction")->text(), QStringLiteral("Quelmar Software site"));
+        QCOMPARE(ActionOf(window, "aboutAction")->text(), QStringLiteral("About"));
+        // The site link opens the maker's site through the opener.
+        ActionOf(window, "siteAction")->trigger();
+        QCOMPARE(f.Urls().opened, QList<QUrl>{QUrl(QString::fromLatin1(MakerSite))});
         // Shift+F1 asks for context help: the next click shows a control's help text.
         window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&window));
@@ -511,292 +500,141 @@ private slots:
         QWhatsThis::leaveWhatsThisMode();
         // The ignored keys never reach a page: Ctrl+Z does not undo a stroke.
         OpenCategory(window, 0);
-        QTest::mouseClick(window.Category()->LessonButton(), Qt::LeftButton);
-        LessonPage* lesson = window.Lesson();
+        QTest::mouseClick(ChildOf<CategoryPage>(window)->LessonButton(), Qt::LeftButton);
+        LessonPage* lesson = ChildOf<LessonPage>(window);
         DrawInk(lesson->Input(), StrokeAsMouse(*lesson->Glyph(), 0, lesson->Input()->ClientRect().width()));
         QCOMPARE(lesson->Input()->StrokeCount(), 1);
         QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
         QTest::keyClick(&window, Qt::Key_F6);
         QCOMPARE(lesson->Input()->StrokeCount(), 1);
-        QCOMPARE(window.ShownPage(), window.Lesson());
+        QCOMPARE(ShownPage(window), lesson);
         // Exit closes and saves.
-        window.ExitAction()->trigger();
+        ActionOf(window, "exitAction")->trigger();
         QVERIFY(!window.isVisible());
     }
 
     void preferencesSwitchTheWritingAidsAndAreKept()
     {
-        DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
+        WindowFixture f(OneLearner("A"));
+        QVERIFY(f.Start());
+        MainWindow& window = f.Window();
+        LessonPage* lesson = ChildOf<LessonPage>(window);
+        QAction* preferences = ActionOf(window, "preferencesAction");
+        QVERIFY(preferences->isEnabled());
+        QCOMPARE(preferences->text(), QStringLiteral("Preferences…"));
+        // All on at first: the guide lines and the feedback line are there.
+        QVERIFY(lesson->Input()->GuideLines());
+        QVERIFY(lesson->Feedback()->isVisibleTo(lesson));
+        const QSize withLine = lesson->size();
         {
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-            QVERIFY(window.ChooseLearnerAtStart());
-            window.ShowChosenLearner();
-            QCOMPARE(window.Preferences(), CoachingPreferences{}); // all on at first
-            QVERIFY(window.PreferencesAction()->isEnabled());
-            QCOMPARE(window.PreferencesAction()->text(), QStringLiteral("Preferences…"));
-            const QSize withLine = window.Lesson()->size();
             ModalAnswerer<PreferencesDialog> untick([](PreferencesDialog& dialog) {
-                QCOMPARE(dialog.ExplainBox()->text(), QStringLiteral("Explain refused strokes"));
-                QCOMPARE(dialog.GridBox()->text(), QStringLiteral("Practice grid"));
-                QCOMPARE(dialog.HintBox()->text(), QStringLiteral("Show where a stroke starts after three misses"));
-                QCOMPARE(dialog.OnScreenBox()->text(), QStringLiteral("Bring the window onto the screen at start"));
-                for (QCheckBox* box : {dialog.ExplainBox(), dialog.GridBox(), dialog.HintBox(), dialog.OnScreenBox()}) {
-                    QVERIFY(box->isChecked());
-                    QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2));
+                const QStringList captions{QStringLiteral("Explain refused strokes"), QStringLiteral("Practice grid"),
+                    QStringLiteral("Show where a stroke starts after three misses"),
+                    QStringLiteral("Bring the window onto the screen at start")};
+                const QList<QCheckBox*> boxes = dialog.findChildren<QCheckBox*>();
+                QCOMPARE(boxes.size(), captions.size());
+                for (int i = 0; i < boxes.size(); ++i) {
+                    QCOMPARE(boxes[i]->text(), captions[i]);
+                    QCOMPARE(boxes[i]->accessibleName(), captions[i]);
+                    QVERIFY(boxes[i]->isChecked());
+                    QTest::mouseClick(boxes[i], Qt::LeftButton, Qt::NoModifier, QPoint(8, boxes[i]->height() / 2));
                 }
                 dialog.accept();
             });
-            window.PreferencesAction()->trigger();
+            preferences->trigger();
             QCOMPARE(untick.Shown(), 1);
-            QCOMPARE(window.Preferences(), CoachingPreferences::AllOff());
-            QVERIFY(!window.Lesson()->Input()->GuideLines());
-            QVERIFY(!window.Test()->DrawingPage()->Input()->GuideLines());
-            // The feedback line is gone, and the page takes no room for it.
-            QVERIFY(!window.Lesson()->Feedback()->isVisibleTo(window.Lesson()));
-            QVERIFY(window.Lesson()->height() <= withLine.height());
-            window.close();
         }
-        ReleaseDataStores();
-        MainWindow again(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-        QCOMPARE(again.Preferences(), CoachingPreferences::AllOff());
-        QVERIFY(!again.Lesson()->Feedback()->isVisibleTo(again.Lesson()));
-    }
-
-    void splashStartsAtThreeQuartersThenFollowsTheReader()
-    {
-        SplashWindow splash;
-        QVERIFY(splash.HasPicture());
-        QVERIFY(splash.height() >= 240);
-        QCOMPARE(splash.Bar()->geometry().top(), 230);
-        QCOMPARE(splash.Bar()->geometry().bottom(), 239);
-        QCOMPARE(splash.Bar()->minimum(), 0);
-        QCOMPARE(splash.Bar()->maximum(), 100);
-        QCOMPARE(splash.Bar()->value(), 75);
-        // It must never cover the User Manager shown while it is up.
-        QVERIFY(!(splash.windowFlags() & Qt::WindowStaysOnTopHint));
-        splash.show();
-        // The bar is drawn filled in the highlight colour as far as its value.
-        const auto filledShare = [&splash] {
-            const QImage shot = splash.Bar()->grab().toImage();
-            const QRgb highlight = splash.Bar()->palette().color(QPalette::Highlight).rgb();
-            const int row = shot.height() / 2;
-            int filled = 0;
-            for (int x = 0; x < shot.width(); ++x)
-                filled += shot.pixel(x, row) == highlight;
-            return double(filled) / shot.width();
-        };
-        QVERIFY2(qAbs(filledShare() - 0.75) < 0.05, qPrintable(QString::number(filledShare())));
-        // Repaints follow the bar's visible fill, not every one of thousands of reports.
-        struct PaintCounter : QObject {
-            int paints = 0;
-            bool eventFilter(QObject*, QEvent* e) override
-            {
-                paints += e->type() == QEvent::Paint;
-                return false;
-            }
-        } counter;
-        splash.Bar()->installEventFilter(&counter);
-        // Each paint of the bar shows a fill it did not show before.
-        struct FillRecorder : QObject {
-            QProgressBar* bar = nullptr;
-            QList<int> fills;
-            bool eventFilter(QObject*, QEvent* e) override
-            {
-                if (e->type() == QEvent::Paint) {
-                    const qint64 span = qint64(bar->maximum()) - bar->minimum();
-                    fills.append(span > 0 ? int((qint64(bar->value()) - bar->minimum()) * bar->width() / span) : 0);
-                }
-                return false;
-            }
-        } recorder;
-        recorder.bar = splash.Bar();
-        splash.Bar()->installEventFilter(&recorder);
-        DataFolder folder;
-        FileCharacterDatabase db("database");
-        db.Preload(&splash);
-        QVERIFY(counter.paints > 0);
-        QVERIFY2(counter.paints <= splash.Bar()->width() + 2, qPrintable(QString::number(counter.paints)));
-        for (qsizetype i = 1; i < recorder.fills.size(); ++i)
-            QVERIFY2(recorder.fills[i] != recorder.fills[i - 1], qPrintable(QString::number(i)));
-        // The last report always shows: the bar ends full.
-        QCOMPARE(recorder.fills.last(), splash.Bar()->width() - 1);
-        QVERIFY2(filledShare() > 0.95, qPrintable(QString::number(filledShare())));
-        QCOMPARE(splash.Bar()->maximum(), int(db.CharacterCount()) + int(db.ElementCount()));
-        QCOMPARE(splash.Bar()->value(), int(db.CharacterCount()) + int(db.ElementCount()) - 1);
-    }
-
-    void theToolsMenuOffersProgressExportAndImportForALearner()
-    {
-        DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
-        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-        QCOMPARE(window.ProgressAction()->text(), QStringLiteral("Progress…"));
-        QCOMPARE(window.ExportAction()->text(), QStringLiteral("Export learner…"));
-        QCOMPARE(window.ImportAction()->text(), QStringLiteral("Import learner…"));
-        QVERIFY(!window.ProgressAction()->isEnabled()); // no learner open yet
-        QVERIFY(!window.ExportAction()->isEnabled());
-        QVERIFY(window.ChooseLearnerAtStart());
-        window.ShowChosenLearner();
-        QVERIFY(window.ProgressAction()->isEnabled());
-        QVERIFY(window.ExportAction()->isEnabled());
-        // A module that cannot be loaded is said so, and nothing opens.
-        window.SetProgressViews([](QString& error) -> ProgressViewFactory* {
-            error = QStringLiteral("no module here");
-            return nullptr;
+        QVERIFY(!lesson->Input()->GuideLines());
+        QVERIFY(!ChildOf<TestContainer>(window)->DrawingPage()->Input()->GuideLines());
+        // The feedback line is gone, and the page takes no room for it.
+        QVERIFY(!lesson->Feedback()->isVisibleTo(lesson));
+        QVERIFY(lesson->height() <= withLine.height());
+        // Kept for the next start, and shown as kept.
+        f.Restart();
+        QVERIFY(!ChildOf<LessonPage>(f.Window())->Feedback()->isVisibleTo(ChildOf<LessonPage>(f.Window())));
+        QVERIFY(!ChildOf<LessonPage>(f.Window())->Input()->GuideLines());
+        ModalAnswerer<PreferencesDialog> look([](PreferencesDialog& dialog) {
+            for (QCheckBox* box : dialog.findChildren<QCheckBox*>())
+                QVERIFY(!box->isChecked());
+            dialog.reject();
         });
-        window.ProgressAction()->trigger();
-        QVERIFY(!window.ProgressView());
-        QCOMPARE(m_prompt.messages.value(0),
-            QStringLiteral("Progress: The progress window cannot be opened: no module here"));
-        // The real module, beside the program.
-        QString error;
-        window.SetProgressViews([](QString& why) {
+        QVERIFY(f.Start());
+        ActionOf(f.Window(), "preferencesAction")->trigger();
+        QCOMPARE(look.Shown(), 1);
+    }
+
+    void theToolsMenuOffersProgressAndExportForALearner()
+    {
+        // A module whose loading the test decides.
+        bool moduleThere = false;
+        WindowFixture f(OneLearner("A"), [&moduleThere](QString& why) -> ProgressViewFactory* {
+            if (!moduleThere) {
+                why = QStringLiteral("no module here");
+                return nullptr;
+            }
             QPluginLoader loader(QStringLiteral(ZAVOREN_PROGRESS_MODULE));
             auto* factory = qobject_cast<ProgressViewFactory*>(loader.instance());
             if (!factory)
                 why = loader.errorString();
             return factory;
         });
-        window.ProgressAction()->trigger();
-        QVERIFY2(window.ProgressView(), qPrintable(m_prompt.messages.join(QLatin1Char('\n'))));
-        window.SetLearner(nullptr);
-        QVERIFY(!window.ProgressView()); // closed with its learner
-        QVERIFY(!window.ProgressAction()->isEnabled());
+        MainWindow& window = f.Window();
+        QAction* progress = ActionOf(window, "progressAction");
+        QAction* exportAction = ActionOf(window, "exportAction");
+        QCOMPARE(progress->text(), QStringLiteral("Progress…"));
+        QCOMPARE(exportAction->text(), QStringLiteral("Export learner…"));
+        QCOMPARE(ActionOf(window, "importAction")->text(), QStringLiteral("Import learner…"));
+        QVERIFY(!progress->isEnabled()); // no learner open yet
+        QVERIFY(!exportAction->isEnabled());
+        QVERIFY(f.Start());
+        QVERIFY(progress->isEnabled());
+        QVERIFY(exportAction->isEnabled());
+        // A module that cannot be loaded is said so, and nothing opens.
+        progress->trigger();
+        QCOMPARE(f.Prompt().messages.value(0),
+            QStringLiteral("Progress: The progress window cannot be opened: no module here"));
+        QVERIFY(!window.findChild<QWidget*>(QStringLiteral("ProgressWindow")));
+        // The real module, beside the program.
+        moduleThere = true;
+        progress->trigger();
+        QVERIFY2(window.findChild<QWidget*>(QStringLiteral("ProgressWindow")),
+            qPrintable(f.Prompt().messages.join(QLatin1Char('\n'))));
     }
 
-    void anExportedLearnerImportsIntoAnEmptyFile()
+    void importingOverTheOpenLearnerShowsTheImportedRecord()
     {
+        // Anna with character 7 learned, in a file of her own.
         const QString exported = QDir(m_files.path()).filePath(QStringLiteral("anna.xml"));
-        std::vector<LearnerEvent> history;
         {
-            DataFolder folder(R"(<Z><Users currentUser="Anna"><User name="Anna"/></Users></Z>)");
-            MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-            QVERIFY(window.ChooseLearnerAtStart());
-            window.ShowChosenLearner();
-            window.Learner()->GetProgress(0).AddLearned(5);
-            window.Learner()->GetProgress(1).AddUntested(90);
-            window.Learner()->AddEvent({FixedClock(), LearnerEvent::Passed, 0, 5, 2});
-            history = window.Learner()->History();
-            QVERIFY(window.ExportLearnerTo(exported));
-            QVERIFY(m_prompt.messages.isEmpty());
+            WindowFixture other(OneLearner("Anna", {}, {7}));
+            ModalAnswerer<QFileDialog> save([&](QFileDialog& dialog) {
+                QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptSave);
+                dialog.selectFile(exported);
+                static_cast<QDialog&>(dialog).accept();
+            });
+            QVERIFY(other.Start());
+            ActionOf(other.Window(), "exportAction")->trigger();
+            QCOMPARE(save.Shown(), 1);
+            QVERIFY(QFile::exists(exported));
         }
-        DataFolder empty;
-        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-        QVERIFY(window.ImportLearnerFrom(exported));
-        QVERIFY(m_prompt.messages.isEmpty());
-        ReleaseDataStores();
-        const auto anna = GetConfigStore().LoadUser("Anna");
-        QVERIFY(anna);
-        QCOMPARE(anna->GetProgress(0).Learned(), Codes{5});
-        QCOMPARE(anna->GetProgress(1).Untested(), Codes{90});
-        QVERIFY(anna->History() == history);
-    }
-
-    void anImportedNameThatIsTakenIsReplacedOrRenamedOrLeft()
-    {
-        const QString exported = ExportAnnaWithOneLearned();
-        QVERIFY(!exported.isEmpty());
-        DataFolder folder(R"(<Z><Users currentUser="Ben"><User name="Anna"/><User name="Ben"/></Users></Z>)");
-        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-        QVERIFY(window.ChooseLearnerAtStart());
-        window.ShowChosenLearner();
-        // Cancel: the file is not touched.
-        const std::string before = folder.ReadConfig();
-        m_prompt.answer = QMessageBox::Cancel;
-        QVERIFY(!window.ImportLearnerFrom(exported));
-        QVERIFY(m_prompt.messages.value(0).startsWith(QStringLiteral("Import learner: A learner named \"Anna\" already exists.")));
-        QCOMPARE(folder.ReadConfig(), before);
-        // No: under another name, asked with the Add dialog's rules (a taken name is refused).
-        m_prompt.answers = {QMessageBox::No};
-        m_prompt.answer = QMessageBox::Ok;
-        QStringList offered;
-        int round = 0;
-        ModalAnswerer<AddUserDialog> rename([&](AddUserDialog& dialog) {
-            offered << dialog.NameEdit()->text();
-            dialog.NameEdit()->setText(round++ == 0 ? QStringLiteral("Ben") : QStringLiteral("Anna 2"));
-            QTest::mouseClick(dialog.OkButton(), Qt::LeftButton);
+        WindowFixture f(OneLearner("Anna"));
+        QVERIFY(f.Start());
+        f.Prompt().answer = QMessageBox::Yes; // replace Anna's record
+        ModalAnswerer<QFileDialog> open([&](QFileDialog& dialog) {
+            dialog.selectFile(exported);
+            static_cast<QDialog&>(dialog).accept();
         });
-        QVERIFY(window.ImportLearnerFrom(exported));
-        QCOMPARE(offered, (QStringList{QStringLiteral("Anna"), QStringLiteral("Ben")}));
-        QVERIFY(m_prompt.messages.contains(QStringLiteral("Can't create user: User already exists. Try another user name")));
-        // Yes: the existing record is replaced.
-        m_prompt.answers = {QMessageBox::Yes};
-        QVERIFY(window.ImportLearnerFrom(exported));
-        QCOMPARE(window.Learner()->Name(), std::string("Ben")); // the open learner is not changed
-        window.close();
-        ReleaseDataStores();
-        QCOMPARE(GetConfigStore().LoadUser("Anna 2")->GetProgress(0).Learned(), Codes{7});
-        QCOMPARE(GetConfigStore().LoadUser("Anna")->GetProgress(0).Learned(), Codes{7});
-        QVERIFY(GetConfigStore().LoadUser("Ben")->GetProgress(0).Learned().empty());
-    }
-
-    void replacingTheOpenLearnerShowsTheImportedRecord()
-    {
-        const QString exported = ExportAnnaWithOneLearned();
-        QVERIFY(!exported.isEmpty());
-        DataFolder folder(R"(<Z><Users currentUser="Anna"><User name="Anna"/></Users></Z>)");
-        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-        QVERIFY(window.ChooseLearnerAtStart());
-        window.ShowChosenLearner();
-        m_prompt.answer = QMessageBox::Yes;
-        QVERIFY(window.ImportLearnerFrom(exported));
-        QCOMPARE(window.Learner()->GetProgress(0).Learned(), Codes{7});
-        window.close(); // saving at close keeps the imported record
-        ReleaseDataStores();
-        QCOMPARE(GetConfigStore().LoadUser("Anna")->GetProgress(0).Learned(), Codes{7});
-    }
-
-    void aDamagedOrForeignFileChangesNothing()
-    {
-        DataFolder folder(R"(<Z><Users currentUser="Anna"><User name="Anna"/></Users></Z>)");
-        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-        QVERIFY(window.ChooseLearnerAtStart());
-        window.ShowChosenLearner();
-        const std::string before = folder.ReadConfig();
-        const QString path = QDir(m_files.path()).filePath(QStringLiteral("bad.xml"));
-        const QString categories = QString::number(GetDatabase().CategoryCount());
-        const QStringList files{
-            QStringLiteral("<ZavorenLearner version=\"1\" categories=\"%1\"><User name=\"Z\">").arg(categories),
-            QStringLiteral("<Zavoren><Users/></Zavoren>"),
-            QStringLiteral("<ZavorenLearner version=\"1\" categories=\"2\"><User name=\"Z\"/></ZavorenLearner>"),
-        };
-        const QStringList said{QStringLiteral("is damaged."), QStringLiteral("is not a learner exported by Zavoren!."),
-            QStringLiteral("was written with a character database of 2 categories; this one has %1.").arg(categories)};
-        for (int i = 0; i < files.size(); ++i) {
-            QFile file(path);
-            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-            file.write(files[i].toUtf8());
-            file.close();
-            m_prompt.messages.clear();
-            QVERIFY(!window.ImportLearnerFrom(path));
-            QCOMPARE(m_prompt.messages.size(), 1);
-            QVERIFY2(m_prompt.messages[0].contains(said[i]), qPrintable(m_prompt.messages[0]));
-            QVERIFY(m_prompt.messages[0].endsWith(QStringLiteral("Nothing was imported.")));
-            QCOMPARE(folder.ReadConfig(), before);
-        }
-        QCOMPARE(GetConfigStore().UserCount(), 1);
-        // An export to a place that cannot be written is said so.
-        m_prompt.messages.clear();
-        QVERIFY(!window.ExportLearnerTo(QDir(m_files.path()).filePath(QStringLiteral("no/such/folder.xml"))));
-        QVERIFY(m_prompt.messages.value(0).startsWith(QStringLiteral("Export learner: The learner could not be written")));
+        ActionOf(f.Window(), "importAction")->trigger();
+        QCOMPARE(open.Shown(), 1);
+        QVERIFY(f.Prompt().messages.value(0).startsWith(QStringLiteral("Import learner: A learner named \"Anna\"")));
+        // The open learner is now the imported record: the home page counts one learned.
+        QVERIFY(ChildOf<HomePage>(f.Window())->CategoryList()->topLevelItem(0)->text(0).startsWith(
+            QStringLiteral("Grade 1 (1 of ")));
+        f.Close(); // saving at close keeps the imported record
+        QCOMPARE(f.Saved("Anna")->GetProgress(0).Learned(), Codes{7});
     }
 
 private:
-    /// Anna with character 7 learned, exported from a data folder of her own; the file's path,
-    /// or an empty one when the export failed.
-    QString ExportAnnaWithOneLearned()
-    {
-        const QString exported = QDir(m_files.path()).filePath(QStringLiteral("anna.xml"));
-        DataFolder folder(R"(<Z><Users currentUser="Anna"><User name="Anna"/></Users></Z>)");
-        MainWindow window(GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-        if (!window.ChooseLearnerAtStart())
-            return QString();
-        window.ShowChosenLearner();
-        window.Learner()->GetProgress(0).AddLearned(7);
-        return window.ExportLearnerTo(exported) ? exported : QString();
-    }
-
-    RecordingPrompt m_prompt;
-    RecordingOpener m_urls;
     QTemporaryDir m_files;
 };
 

@@ -23,6 +23,7 @@
 #include "RecordingOpener.h"
 #include "RecordingPrompt.h"
 #include "ShellTestSupport.h"
+#include "WindowFixture.h"
 #include "SplashWindow.h"
 #include "TestContainer.h"
 #include "TestSupport.h"
@@ -36,6 +37,7 @@
 #include <QRadioButton>
 #include <QStackedWidget>
 #include <QTest>
+#include <QTreeWidget>
 
 using namespace testsupport;
 
@@ -137,19 +139,19 @@ class PageLayoutTest : public QObject {
 private slots:
     void init()
     {
-        m_folder = std::make_unique<DataFolder>(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
-        m_window = std::make_unique<MainWindow>(
-            GetDatabase(), GetConfigStore(), m_prompt, FixedSeed, m_urls.Opener(), FixedClock);
-        QVERIFY(m_window->ChooseLearnerAtStart());
-        m_window->ShowChosenLearner();
-        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+        // Five characters to test, so that every page can be reached.
+        const std::vector<std::uint16_t> grade1 = StandardDatabase().LoadCategory(0)->Characters();
+        m_fixture = std::make_unique<WindowFixture>(OneLearner("A", {grade1.begin(), grade1.begin() + 5}));
+        QVERIFY(m_fixture->Start());
+        m_window = &m_fixture->Window();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window));
         m_ratio = m_window->devicePixelRatioF();
     }
 
     void cleanup()
     {
-        m_window.reset();
-        m_folder.reset();
+        m_window = nullptr;
+        m_fixture.reset();
     }
 
     void theRatioIsTheOneAskedFor()
@@ -160,11 +162,10 @@ private slots:
 
     void everyPageFitsItsWindowWithTheMenuBar()
     {
-        for (Page* page : {static_cast<Page*>(m_window->Home()), static_cast<Page*>(m_window->Lesson()),
-                 static_cast<Page*>(m_window->Test()), static_cast<Page*>(m_window->Category())}) {
-            if (page == m_window->Category())
-                QVERIFY(m_window->Category()->SetCategory(0, std::nullopt));
-            m_window->ShowPage(page);
+        for (Page* page : {static_cast<Page*>(ChildOf<HomePage>(*m_window)),
+                 static_cast<Page*>(ChildOf<LessonPage>(*m_window)), static_cast<Page*>(ChildOf<TestContainer>(*m_window)),
+                 static_cast<Page*>(ChildOf<CategoryPage>(*m_window))}) {
+            Show(page);
             QApplication::processEvents();
             const QString outside = ChildrenOutside(page) + ClippedLabels(page);
             QVERIFY2(outside.isEmpty(), qPrintable(outside));
@@ -177,11 +178,11 @@ private slots:
 
     void theLessonKeepsItsPlacesWhateverTheCharacter()
     {
-        LessonPage* lesson = m_window->Lesson();
-        m_window->ShowPage(lesson);
+        LessonPage* lesson = ChildOf<LessonPage>(*m_window);
+        Show(lesson);
         const QSize windowSize = m_window->size();
         std::optional<QRect> input, display, next;
-        for (std::uint16_t code : TellingCharacters(GetDatabase())) {
+        for (std::uint16_t code : TellingCharacters(StandardDatabase())) {
             lesson->StartLesson({code});
             QApplication::processEvents();
             const QString outside = ChildrenOutside(lesson) + ClippedLabels(lesson);
@@ -206,7 +207,7 @@ private slots:
             QVERIFY2(inside.isEmpty(), qPrintable(inside));
             lesson->Feedback()->Clear();
             // The caption shows the meaning in full, or as much as fits with the rest in its tooltip.
-            const auto character = GetDatabase().LoadCharacter(code);
+            const auto character = StandardDatabase().LoadCharacter(code);
             QCOMPARE(FullText(lesson->MeaningBox()), QString::fromUtf8(character->Meaning()));
             QCOMPARE(lesson->MeaningBox()->toolTip(), QString::fromUtf8(character->Meaning()));
             QCOMPARE(lesson->MeaningBox()->accessibleName(), QString::fromUtf8(character->Meaning()));
@@ -215,14 +216,14 @@ private slots:
 
     void theTestPagesKeepTheirPlacesWhateverTheCharacter()
     {
-        TestContainer* test = m_window->Test();
-        m_window->ShowPage(test);
+        TestContainer* test = ChildOf<TestContainer>(*m_window);
+        Show(test);
         auto* stack = test->findChild<QStackedWidget*>();
         QVERIFY(stack);
         const QSize windowSize = m_window->size();
         std::optional<QRect> readingDisplay, kunGroup, drawingInput, drawingDisplay, next;
-        for (std::uint16_t code : TellingCharacters(GetDatabase())) {
-            const auto character = GetDatabase().LoadCharacter(code);
+        for (std::uint16_t code : TellingCharacters(StandardDatabase())) {
+            const auto character = StandardDatabase().LoadCharacter(code);
             ReadingTestPage* reading = test->ReadingPage();
             reading->SetCharacter(character.get());
             stack->setCurrentWidget(reading);
@@ -257,14 +258,14 @@ private slots:
 
     void aLongReadingChoiceTakesTwoLinesBeforeItIsShortened()
     {
-        TestContainer* test = m_window->Test();
-        m_window->ShowPage(test);
+        TestContainer* test = ChildOf<TestContainer>(*m_window);
+        Show(test);
         ReadingTestPage* reading = test->ReadingPage();
         test->findChild<QStackedWidget*>()->setCurrentWidget(reading);
         int wrapped = 0, shortened = 0;
         // The right answer is always among the choices: characters with long KUN readings.
-        for (std::uint16_t code = 0; code < GetDatabase().CharacterCount() && (wrapped == 0 || shortened == 0); ++code) {
-            const auto character = GetDatabase().LoadCharacter(code);
+        for (std::uint16_t code = 0; code < StandardDatabase().CharacterCount() && (wrapped == 0 || shortened == 0); ++code) {
+            const auto character = StandardDatabase().LoadCharacter(code);
             const QString kun = QString::fromUtf8(character->KunReading() ? character->KunReading() : "");
             if (kun.size() < 16)
                 continue;
@@ -297,10 +298,10 @@ private slots:
 
     void theCategoryPageKeepsItsPlacesInEveryCategory()
     {
-        CategoryPage* category = m_window->Category();
-        m_window->ShowPage(category);
+        CategoryPage* category = ChildOf<CategoryPage>(*m_window);
+        Show(category);
         std::optional<QRect> grid, strip;
-        for (std::uint16_t id = 0; id < GetDatabase().CategoryCount(); ++id) {
+        for (std::uint16_t id = 0; id < StandardDatabase().CategoryCount(); ++id) {
             QVERIFY(category->SetCategory(id, std::nullopt));
             QApplication::processEvents();
             const QString outside = ChildrenOutside(category) + ClippedLabels(category);
@@ -316,10 +317,10 @@ private slots:
 
     void theDialogsKeepTheirControlsInside()
     {
-        KanjiInfoDialog info(GetDatabase(), m_prompt);
+        KanjiInfoDialog info(StandardDatabase(), m_fixture->Prompt());
         std::optional<QSize> size;
         std::optional<QRect> display;
-        for (std::uint16_t code : TellingCharacters(GetDatabase())) {
+        for (std::uint16_t code : TellingCharacters(StandardDatabase())) {
             info.SetCode(code);
             info.show();
             QVERIFY(QTest::qWaitForWindowExposed(&info));
@@ -332,7 +333,7 @@ private slots:
             QCOMPARE(info.size(), *size);
             QCOMPARE(PlaceInWindow(info.Display()), *display);
         }
-        UserManagerDialog manager(GetConfigStore(), m_prompt);
+        UserManagerDialog manager(m_fixture->Store(), m_fixture->Prompt());
         manager.show();
         QVERIFY(QTest::qWaitForWindowExposed(&manager));
         QVERIFY2((ChildrenOutside(&manager) + ClippedLabels(&manager)).isEmpty(), qPrintable(ChildrenOutside(&manager)));
@@ -345,9 +346,9 @@ private slots:
 
     void backBuffersAreDrawnAtTheRatio()
     {
-        LessonPage* lesson = m_window->Lesson();
-        m_window->ShowPage(lesson);
-        lesson->StartLesson({GetDatabase().LoadCategory(0)->Characters()[0]});
+        LessonPage* lesson = ChildOf<LessonPage>(*m_window);
+        Show(lesson);
+        lesson->StartLesson({StandardDatabase().LoadCategory(0)->Characters()[0]});
         QApplication::processEvents();
         for (CanvasBase* canvas : {static_cast<CanvasBase*>(lesson->Input()), static_cast<CanvasBase*>(lesson->Display())}) {
             QCOMPARE(canvas->BackBuffer().devicePixelRatio(), m_ratio);
@@ -363,9 +364,9 @@ private slots:
     {
         if (m_ratio != 2.0)
             QSKIP("device pixels are counted at ratio 2");
-        LessonPage* lesson = m_window->Lesson();
-        m_window->ShowPage(lesson);
-        lesson->StartLesson({GetDatabase().LoadCategory(0)->Characters()[0]});
+        LessonPage* lesson = ChildOf<LessonPage>(*m_window);
+        Show(lesson);
+        lesson->StartLesson({StandardDatabase().LoadCategory(0)->Characters()[0]});
         InputCanvas* input = lesson->Input();
         QVERIFY(input->GuideLines());
         const QImage grabbed = input->grab().toImage();
@@ -388,9 +389,9 @@ private slots:
 
     void noStrayPixelsAroundTheCanvases()
     {
-        LessonPage* lesson = m_window->Lesson();
-        m_window->ShowPage(lesson);
-        const auto grade1 = GetDatabase().LoadCategory(0)->Characters();
+        LessonPage* lesson = ChildOf<LessonPage>(*m_window);
+        Show(lesson);
+        const auto grade1 = StandardDatabase().LoadCategory(0)->Characters();
         lesson->StartLesson({grade1[0]});
         lesson->Input()->SetGuideLines(false);
         QApplication::processEvents();
@@ -412,9 +413,9 @@ private slots:
 
     void theSameInkIsJudgedAlikeAtEveryRatio()
     {
-        LessonPage* lesson = m_window->Lesson();
-        m_window->ShowPage(lesson);
-        const std::uint16_t code = GetDatabase().LoadCategory(0)->Characters()[0]; // 日
+        LessonPage* lesson = ChildOf<LessonPage>(*m_window);
+        Show(lesson);
+        const std::uint16_t code = StandardDatabase().LoadCategory(0)->Characters()[0]; // 日
         lesson->StartLesson({code});
         QApplication::processEvents();
         InputCanvas* input = lesson->Input();
@@ -443,9 +444,8 @@ private slots:
     void theGridIsReadableInADarkPalette()
     {
         m_window->setPalette(DarkPalette());
-        CategoryPage* category = m_window->Category();
-        m_window->ShowPage(category);
-        QVERIFY(category->SetCategory(0, std::nullopt));
+        CategoryPage* category = ChildOf<CategoryPage>(*m_window);
+        Show(category);
         QApplication::processEvents();
         CharacterGrid* grid = category->Grid();
         const QImage shot = grid->viewport()->grab().toImage();
@@ -473,9 +473,38 @@ private slots:
     }
 
 private:
-    std::unique_ptr<DataFolder> m_folder;
-    std::unique_ptr<MainWindow> m_window;
-    RecordingPrompt m_prompt;
+    /// Shows `page` the way a learner reaches it: back to the home page, then Grade 1, then
+    /// Lesson or Test.
+    void Show(Page* page)
+    {
+        MainWindow& w = *m_window;
+        if (ShownPage(w) == page)
+            return;
+        auto* category = ChildOf<CategoryPage>(w);
+        if (ShownPage(w) == ChildOf<LessonPage>(w))
+            QTest::mouseClick(ChildOf<LessonPage>(w)->AbortButton(), Qt::LeftButton);
+        if (ShownPage(w) == ChildOf<TestContainer>(w))
+            QTest::mouseClick(ChildOf<TestContainer>(w)->AbortButton(), Qt::LeftButton);
+        if (ShownPage(w) == page)
+            return;
+        if (ShownPage(w) == category)
+            QTest::mouseClick(category->BackButton(), Qt::LeftButton);
+        if (page == ChildOf<HomePage>(w))
+            return;
+        HomePage* home = ChildOf<HomePage>(w);
+        QTreeWidget* list = home->CategoryList();
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+            list->visualItemRect(list->topLevelItem(0)).center());
+        QTest::mouseClick(home->OpenButton(), Qt::LeftButton);
+        if (page == ChildOf<LessonPage>(w))
+            QTest::mouseClick(category->LessonButton(), Qt::LeftButton);
+        if (page == ChildOf<TestContainer>(w))
+            QTest::mouseClick(category->TestButton(), Qt::LeftButton);
+        QCOMPARE(ShownPage(w), page);
+    }
+
+    std::unique_ptr<WindowFixture> m_fixture;
+    MainWindow* m_window = nullptr;
     RecordingOpener m_urls;
     qreal m_ratio = 1.0;
 };

@@ -6,6 +6,7 @@
 #include "ConfigStore.h"
 #include "HomePage.h"
 #include "MainWindow.h"
+#include "WindowFixture.h"
 #include "RecordingOpener.h"
 #include "RecordingPrompt.h"
 #include "ShellTestSupport.h"
@@ -29,20 +30,17 @@ private slots:
 
     void theMenusAndButtonsAreFrench()
     {
-        DataFolder folder(R"(<Z><Users currentUser="A"><User name="A"/></Users></Z>)");
-        RecordingPrompt prompt;
-        RecordingOpener urls;
-        MainWindow window(GetDatabase(), GetConfigStore(), prompt, FixedSeed, urls.Opener(), FixedClock);
-        QVERIFY(window.ChooseLearnerAtStart());
-        window.ShowChosenLearner();
+        WindowFixture f(OneLearner("A"));
+        QVERIFY(f.Start());
+        MainWindow& window = f.Window();
         QStringList menus;
         for (QAction* action : window.menuBar()->actions())
             menus << action->text();
         QCOMPARE(menus, (QStringList{QStringLiteral("&Fichier"), QStringLiteral("&Outils"), QStringLiteral("&Aide")}));
-        QCOMPARE(window.UsersAction()->text(), QStringLiteral("Utilisateurs"));
-        QCOMPARE(window.ExitAction()->text(), QStringLiteral("Quitter"));
-        QCOMPARE(window.ProgressAction()->text(), QStringLiteral("Progrès…"));
-        QCOMPARE(window.Home()->OpenButton()->text(), QStringLiteral("&Ouvrir"));
+        QCOMPARE(ActionOf(window, "usersAction")->text(), QStringLiteral("Utilisateurs"));
+        QCOMPARE(ActionOf(window, "exitAction")->text(), QStringLiteral("Quitter"));
+        QCOMPARE(ActionOf(window, "progressAction")->text(), QStringLiteral("Progrès…"));
+        QCOMPARE(ChildOf<HomePage>(window)->OpenButton()->text(), QStringLiteral("&Ouvrir"));
         AddUserDialog add;
         QCOMPARE(add.OkButton()->text(), QStringLiteral("&OK"));
         QCOMPARE(add.CancelButton()->text(), QStringLiteral("A&nnuler"));

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "User.h"
+
+#include <QCoreApplication>
+#include <QString>
+
+#include <memory>
+#include <string>
+
+class CharacterDatabase;
+class ConfigStore;
+class Prompt;
+class QWidget;
+
+/// One learner in a file of their own: Tools > Export learner… writes the open learner's record
+/// and history to a file; Import learner… adds a file's learner to the store, asking whether to
+/// replace or rename when the name is taken. Every refusal is told to the learner through the
+/// prompt, and leaves the store and the file as they were.
+class LearnerTransfer {
+    Q_DECLARE_TR_FUNCTIONS(LearnerTransfer)
+public:
+    /// Files are checked against `database`; learners go into `store`; messages and questions go
+    /// through `prompt`, owned by `parent`.
+    LearnerTransfer(CharacterDatabase& database, ConfigStore& store, Prompt& prompt, QWidget* parent);
+
+    /// The file name offered for exporting `learner`, in the home folder.
+    static QString SuggestedPath(const User& learner);
+    /// Tools > Export learner…: asks for a file and writes `learner` to it (none: nothing).
+    void ExportAsked(User* learner);
+    /// Writes `learner` to `path`; false after telling the learner why not.
+    bool Export(User& learner, const QString& path);
+
+    /// What an import did.
+    struct Outcome {
+        bool imported = false; ///< the store holds the file's learner
+        /// The imported record when it replaced the record of the learner who is open: they
+        /// become this record (not saved over it at close).
+        std::unique_ptr<User> replacedOpen;
+    };
+    /// Adds the learner of the file at `path` to the store; `openName` is the learner who is
+    /// open (empty for none). Throws ConfigException when the store fails.
+    Outcome Import(const QString& path, const std::string& openName);
+    /// Tools > Import learner…: asks for a file and imports it (nothing when cancelled).
+    Outcome ImportAsked(const std::string& openName);
+
+private:
+    void Refuse(const QString& title, const QString& text);
+
+    CharacterDatabase& m_database;
+    ConfigStore& m_store;
+    Prompt& m_prompt;
+    QWidget* m_parent;
+};

@@ -1,0 +1,81 @@
+#include "ProgramSettings.h"
+
+#include <QSettings>
+#include <QtEndian>
+
+namespace {
+
+QSettings File()
+{
+    return QSettings(QStringLiteral("Zavoren"), QStringLiteral("Zavoren"));
+}
+
+const char* const PlacementKey = "WindowPosition";
+const char* const ExplainKey = "Preferences/ExplainRefusedStrokes";
+const char* const GridKey = "Preferences/PracticeGrid";
+const char* const HintKey = "Preferences/HintAfterThreeMisses";
+const char* const OnScreenKey = "Preferences/KeepWindowOnScreen";
+
+constexpr int PlacementFields = 4;
+constexpr int PlacementBytes = 4 * PlacementFields;
+
+} // namespace
+
+QByteArray ProgramSettings::EncodePlacement(const QRect& frame)
+{
+    const qint32 fields[PlacementFields]
+        = {frame.left(), frame.top(), frame.left() + frame.width(), frame.top() + frame.height()};
+    QByteArray bytes(PlacementBytes, '\0');
+    for (int i = 0; i < PlacementFields; ++i)
+        qToLittleEndian<qint32>(fields[i], bytes.data() + 4 * i);
+    return bytes;
+}
+
+std::optional<QPoint> ProgramSettings::DecodePlacement(const QByteArray& value, const QRect& frame)
+{
+    if (value.isEmpty() || value.size() > PlacementBytes)
+        return std::nullopt; // a longer value is not a placement; ignored
+    QPoint position = frame.topLeft();
+    if (value.size() >= 4)
+        position.setX(qFromLittleEndian<qint32>(value.constData()));
+    if (value.size() >= 8)
+        position.setY(qFromLittleEndian<qint32>(value.constData() + 4));
+    return position;
+}
+
+std::optional<QPoint> ProgramSettings::StoredPosition(const QRect& frame) const
+{
+    const QVariant value = File().value(QLatin1String(PlacementKey));
+    if (!value.isValid())
+        return std::nullopt;
+    return DecodePlacement(value.toByteArray(), frame);
+}
+
+void ProgramSettings::StorePlacement(const QRect& frame)
+{
+    const QByteArray bytes = EncodePlacement(frame);
+    QSettings settings = File();
+    const QVariant stored = settings.value(QLatin1String(PlacementKey));
+    if (stored.typeId() != QMetaType::QByteArray || stored.toByteArray() != bytes)
+        settings.setValue(QLatin1String(PlacementKey), bytes);
+}
+
+CoachingPreferences ProgramSettings::Coaching() const
+{
+    const QSettings settings = File();
+    CoachingPreferences p;
+    p.explainRefusals = settings.value(QLatin1String(ExplainKey), p.explainRefusals).toBool();
+    p.practiceGrid = settings.value(QLatin1String(GridKey), p.practiceGrid).toBool();
+    p.hintAfterMisses = settings.value(QLatin1String(HintKey), p.hintAfterMisses).toBool();
+    p.keepOnScreen = settings.value(QLatin1String(OnScreenKey), p.keepOnScreen).toBool();
+    return p;
+}
+
+void ProgramSettings::StoreCoaching(const CoachingPreferences& preferences)
+{
+    QSettings settings = File();
+    settings.setValue(QLatin1String(ExplainKey), preferences.explainRefusals);
+    settings.setValue(QLatin1String(GridKey), preferences.practiceGrid);
+    settings.setValue(QLatin1String(HintKey), preferences.hintAfterMisses);
+    settings.setValue(QLatin1String(OnScreenKey), preferences.keepOnScreen);
+}

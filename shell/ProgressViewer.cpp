@@ -1,0 +1,39 @@
+#include "ProgressViewer.h"
+
+#include "Prompt.h"
+
+#include <QWidget>
+
+ProgressViewer::ProgressViewer(CharacterDatabase& database, Prompt& prompt, EventClock clock, ProgressViewSource source)
+    : m_database(database), m_prompt(prompt), m_clock(std::move(clock)), m_source(std::move(source))
+{
+}
+
+void ProgressViewer::Close()
+{
+    delete m_window;
+}
+
+void ProgressViewer::Open(const User* learner, QWidget* parent)
+{
+    Close();
+    if (!learner)
+        return;
+    QString error;
+    ProgressViewFactory* factory = m_source ? m_source(error) : nullptr;
+    try {
+        if (factory)
+            m_window = factory->CreateProgressView(
+                m_database, m_prompt, *learner, m_clock ? m_clock() : LocalTimeNow(), parent);
+    } catch (const std::exception& e) {
+        factory = nullptr;
+        error = QString::fromUtf8(e.what());
+    }
+    if (!factory) {
+        m_prompt.Ask(
+            parent, QMessageBox::Warning, tr("Progress"), tr("The progress window cannot be opened: %1").arg(error));
+        return;
+    }
+    if (m_window)
+        m_window->show();
+}

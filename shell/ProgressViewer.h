@@ -1,0 +1,34 @@
+#pragma once
+
+#include "LearnerEvent.h"
+#include "ProgressModule.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+
+class CharacterDatabase;
+class Prompt;
+class User;
+class QWidget;
+
+/// Tools > Progress…: at most one progress window, showing the learner it was opened for. The
+/// window comes from the progress module (loaded on first use); when it cannot be opened, the
+/// learner is told why.
+class ProgressViewer {
+    Q_DECLARE_TR_FUNCTIONS(ProgressViewer)
+public:
+    /// Windows come from `source`; "today" is `clock`'s time.
+    ProgressViewer(CharacterDatabase& database, Prompt& prompt, EventClock clock, ProgressViewSource source);
+
+    /// Opens `learner`'s window over `parent`, closing the one open (none: nothing opens).
+    void Open(const User* learner, QWidget* parent);
+    /// Closes the window open, if any.
+    void Close();
+
+private:
+    CharacterDatabase& m_database;
+    Prompt& m_prompt;
+    EventClock m_clock;
+    ProgressViewSource m_source;
+    QPointer<QWidget> m_window;
+};
