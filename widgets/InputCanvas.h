@@ -32,8 +32,6 @@ public:
     void ShowHint(const Form& glyph, std::uint16_t index);
     /// Brings the back buffer up to date with the finished strokes.
     void Sync();
-    /// The pen strokes are written with.
-    const QPen& InkPen() const { return m_pen; }
 
     /// What the canvas shows for a moment after a refused stroke.
     struct Refusal {

@@ -69,12 +69,6 @@ private slots:
         QCOMPARE(m_urls.opened, QList<QUrl>{QUrl(QString::fromLatin1(MakerSite))});
     }
 
-    void theDesktopOpenerHandsTheAddressToTheDesktop()
-    {
-        QVERIFY(OpenWithDesktop(QUrl(QStringLiteral("https://example.invalid/page"))));
-        QCOMPARE(m_catcher.opened, QList<QUrl>{QUrl(QStringLiteral("https://example.invalid/page"))});
-    }
-
     void aboutShowsProductVersionLinksAndCredits()
     {
         QMainWindow owner;

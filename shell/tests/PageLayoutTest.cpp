@@ -154,12 +154,6 @@ private slots:
         m_fixture.reset();
     }
 
-    void theRatioIsTheOneAskedFor()
-    {
-        const QByteArray asked = qgetenv("QT_SCALE_FACTOR");
-        QCOMPARE(m_ratio, asked.isEmpty() ? 1.0 : asked.toDouble());
-    }
-
     void everyPageFitsItsWindowWithTheMenuBar()
     {
         for (Page* page : {static_cast<Page*>(ChildOf<HomePage>(*m_window)),
