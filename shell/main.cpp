@@ -12,23 +12,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstring>
-#include <stdexcept>
 #include <string>
-
-namespace {
-
-/// `--crash-test KIND` makes the program fail on purpose, to try the crash report.
-[[noreturn]] void CrashOnPurpose(const char* kind)
-{
-    if (std::strcmp(kind, "exception") == 0)
-        throw std::runtime_error("crash test");
-    if (std::strcmp(kind, "abort") == 0)
-        std::abort();
-    std::raise(SIGSEGV);
-    std::abort();
-}
-
-} // namespace
 
 int main(int argc, char** argv)
 {
@@ -57,7 +41,5 @@ int main(int argc, char** argv)
     MessageBoxPrompt prompt;
     if (reportHelper)
         return RunCrashReportHelper(prompt, CrashReportFolder());
-    if (argc >= 3 && std::strcmp(argv[1], "--crash-test") == 0)
-        CrashOnPurpose(argv[2]);
     return RunZavoren(OptionsFromArguments(QApplication::arguments()), prompt);
 }

@@ -125,7 +125,9 @@ private slots:
 
     void theProgramStartsItsOwnHelperWhenItFails()
     {
-        // The helper asks its question on screen; it is seen running, then both are ended.
+        // Started in a folder without a database, the program fails at start (the reader's
+        // exception is not caught there). The helper asks its question on screen; it is seen
+        // running, then both are ended.
         QTemporaryDir folder;
         QProcess process;
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
@@ -136,8 +138,7 @@ private slots:
         process.setProcessEnvironment(env);
         process.setWorkingDirectory(folder.path());
         process.start(QStringLiteral(ZAVOREN_PROGRAM),
-            {QStringLiteral("--crash-test"), QStringLiteral("segv"), QStringLiteral("--instance-name"),
-                QStringLiteral("crash test ") + folder.path()});
+            {QStringLiteral("--instance-name"), QStringLiteral("crash test ") + folder.path()});
         QVERIFY(process.waitForStarted());
         QTRY_COMPARE_WITH_TIMEOUT(ProcessesIn(folder.path(), "--crash-report"), 1, 20000);
         for (const QString& pid : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs)) {
@@ -149,7 +150,7 @@ private slots:
         }
         QVERIFY(process.waitForFinished(20000));
         QCOMPARE(process.exitStatus(), QProcess::CrashExit); // it ends as the signal would have
-        QCOMPARE(process.exitCode(), SIGSEGV);
+        QCOMPARE(process.exitCode(), SIGABRT); // an uncaught exception ends in abort
         QTRY_COMPARE_WITH_TIMEOUT(ProcessesIn(folder.path(), "zavoren"), 0, 5000);
     }
 
