@@ -1,6 +1,7 @@
 // The lesson page: loading a character (stroke checker plus smooth drawing) and one step of the
 // stroke-order animation, at the sizes the pages use.
 
+#include "Named.h"
 #include "CategoryPage.h"
 #include "CharacterGrid.h"
 #include "DisplayCanvas.h"
@@ -43,8 +44,8 @@ void BM_LessonPageLoadCharacter(benchmark::State& state)
         page.StartLesson({id});
         id = static_cast<std::uint16_t>((id + 1) % db.CharacterCount());
     }
-    state.SetLabel("input canvas " + std::to_string(page.Input()->ClientRect().width()) + " px, display "
-        + std::to_string(page.Display()->ClientRect().width()) + " px, averaged over all characters");
+    state.SetLabel("input canvas " + std::to_string(Named<InputCanvas>(&page, "inputCanvas")->ClientRect().width()) + " px, display "
+        + std::to_string(Named<DisplayCanvas>(&page, "displayCanvas")->ClientRect().width()) + " px, averaged over all characters");
 }
 BENCHMARK(BM_LessonPageLoadCharacter)->Unit(benchmark::kMillisecond);
 
@@ -106,7 +107,7 @@ void BM_CategoryPageScrollOnePage(benchmark::State& state)
     CategoryPage page(db, Prompts(), ClockSeed);
     page.show();
     page.SetCategory(6, ProgressRecorder(learner, 6, {}));
-    CharacterGrid* grid = page.Grid();
+    CharacterGrid* grid = Named<CharacterGrid>(&page, "characterGrid");
     QScrollBar* bar = grid->verticalScrollBar();
     // Scroll through new pages each time (cells not yet cached), wrapping at the end.
     for (auto _ : state) {

@@ -24,14 +24,14 @@ public:
     const QString& Name() const { return m_name; }
     /// The name offered when the dialog shows, all selected.
     void Offer(const QString& name) { m_name = name; }
-    QLineEdit* NameEdit() const;
-    QPushButton* OkButton() const;
-    QPushButton* CancelButton() const;
 
 protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    QLineEdit* NameEdit() const;
+    QPushButton* OkButton() const;
+    QPushButton* CancelButton() const;
     void UpdateOk();
 
     std::unique_ptr<Ui::AddUserDialog> m_ui;

@@ -33,9 +33,6 @@ public:
     /// The category chosen by the last Open.
     std::uint16_t ChosenCategory() const { return m_chosenCategory; }
 
-    QLabel* UserNameLabel() const;
-    QTreeWidget* CategoryList() const;
-    QPushButton* OpenButton() const;
     /// The text shown for a category: its name, and " (learned of total)" once one is learned.
     static QString CategoryText(const char* name, std::size_t learned, std::size_t total);
 
@@ -43,6 +40,9 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    QLabel* UserNameLabel() const;
+    QTreeWidget* CategoryList() const;
+    QPushButton* OpenButton() const;
     void FillItem(QTreeWidgetItem* item, std::uint16_t categoryId);
     void UpdateButtons();
     void OnOpen();

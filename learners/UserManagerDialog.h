@@ -28,11 +28,6 @@ public:
 
     /// The selected learner's name; empty when none is selected.
     const std::string& SelectedUserName() const { return m_selectedUserName; }
-    QListWidget* UserList() const;
-    QPushButton* OpenButton() const;
-    QPushButton* AddButton() const;
-    QPushButton* DeleteButton() const;
-    QPushButton* CloseButton() const;
     /// The button that Enter presses: Open with a selection, otherwise Add.
     QPushButton* DefaultButton() const;
 
@@ -47,6 +42,11 @@ protected:
     void reject() override;
 
 private:
+    QListWidget* UserList() const;
+    QPushButton* OpenButton() const;
+    QPushButton* AddButton() const;
+    QPushButton* DeleteButton() const;
+    QPushButton* CloseButton() const;
     void Fill();
     void SelectRow(int row);
     void UpdateButtons();

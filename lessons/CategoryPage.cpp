@@ -37,6 +37,7 @@ CategoryPage::CategoryPage(CharacterDatabase& database, Prompt& prompt, SeedSour
     }
     // Context menus; each one's first item is its default.
     m_learnedMenu = new QMenu(tr("Learned"), this);
+    m_learnedMenu->setObjectName(QStringLiteral("learnedMenu"));
     QAction* info = m_learnedMenu->addAction(tr("&Info"), this, [this] { ShowInfo(Grid()); });
     m_learnedMenu->setDefaultAction(info);
     m_learnedMenu->addAction(tr("&Review"), this, [] {
@@ -44,9 +45,11 @@ CategoryPage::CategoryPage(CharacterDatabase& database, Prompt& prompt, SeedSour
     });
     m_learnedMenu->addAction(tr("&Forget"), this, &CategoryPage::OnForget);
     m_unlearnedMenu = new QMenu(tr("Unlearned"), this);
+    m_unlearnedMenu->setObjectName(QStringLiteral("unlearnedMenu"));
     m_unlearnedMenu->setDefaultAction(m_unlearnedMenu->addAction(tr("&Info"), this, [this] { ShowInfo(Grid()); }));
     m_learnAction = m_unlearnedMenu->addAction(tr("&Learn"), this, &CategoryPage::OnLearn);
     m_untestedMenu = new QMenu(tr("Untested"), this);
+    m_untestedMenu->setObjectName(QStringLiteral("untestedMenu"));
     m_untestedMenu->setDefaultAction(m_untestedMenu->addAction(tr("&Info"), this, [this] { ShowInfo(Strip()); }));
 
     connect(LessonButton(), &QPushButton::clicked, this, [this] { emit pageEvent(Lesson, 0); });

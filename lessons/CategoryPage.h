@@ -45,6 +45,13 @@ public:
     /// Refreshes grid, strip and buttons from the learner's record.
     void Refresh();
 
+    /// Opens the Kanji Info dialog for the first selected character of `grid` (modal).
+    void ShowInfo(CharacterGrid* grid);
+
+protected:
+    void Cancel() override;
+
+private:
     CharacterGrid* Grid() const;
     CharacterGrid* Strip() const;
     QPushButton* LessonButton() const;
@@ -56,13 +63,6 @@ public:
     QMenu* LearnedMenu() const { return m_learnedMenu; }
     QMenu* UnlearnedMenu() const { return m_unlearnedMenu; }
     QMenu* UntestedMenu() const { return m_untestedMenu; }
-    /// Opens the Kanji Info dialog for the first selected character of `grid` (modal).
-    void ShowInfo(CharacterGrid* grid);
-
-protected:
-    void Cancel() override;
-
-private:
     void RefreshButtons();
     void OnContextMenu(CharacterGrid* grid, int cell, const QPoint& globalPosition);
     void OnForget();

@@ -31,17 +31,17 @@ public:
     bool Revealed() const { return Quiz().Revealed(); }
     bool Peeked() const { return Quiz().Peeked(); }
     const Form* Glyph() const { return Quiz().Glyph(); }
-    /// The line under the writing canvas that says why a stroke was refused.
-    FeedbackLine* Feedback() const;
     /// Switches the writing aids (there is no hint after misses in a test).
     void SetCoaching(const CoachingPreferences& preferences);
+
+private:
+    /// The line under the writing canvas that says why a stroke was refused.
+    FeedbackLine* Feedback() const;
     DisplayCanvas* Display() const;
     InputCanvas* Input() const;
     QLabel* OnReadingLabel() const;
     QLabel* KunReadingLabel() const;
     QLabel* MeaningLabel() const;
-
-private:
     const WritingQuiz& Quiz() const;
     void OnStrokeKept();
     void OnDisplayClicked();

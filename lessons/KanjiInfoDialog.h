@@ -28,11 +28,6 @@ public:
     /// Loads the character and its glyph; false (after an error box) when the database fails.
     bool SetCode(std::uint16_t code);
 
-    DisplayCanvas* Display() const;
-    QLabel* OnReadingLabel() const;
-    QLabel* KunReadingLabel() const;
-    QLabel* MeaningLabel() const;
-    QPushButton* CloseButton() const;
 
     void reject() override;
 
@@ -40,6 +35,11 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    DisplayCanvas* Display() const;
+    QLabel* OnReadingLabel() const;
+    QLabel* KunReadingLabel() const;
+    QLabel* MeaningLabel() const;
+    QPushButton* CloseButton() const;
     std::unique_ptr<Ui::KanjiInfoDialog> m_ui;
     CharacterDatabase& m_database;
     Prompt& m_prompt;

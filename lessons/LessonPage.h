@@ -35,6 +35,17 @@ public:
     /// The codes taught to the end, in the order they were finished.
     const std::vector<std::uint16_t>& DoneCodes() const { return m_session.Done(); }
 
+    /// The glyph being taught, or null.
+    const Form* Glyph() const;
+    /// Switches the writing aids.
+    void SetCoaching(const CoachingPreferences& preferences);
+
+protected:
+    void Cancel() override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
     DisplayCanvas* Display() const;
     InputCanvas* Input() const;
     QCheckBox* OnReadingBox() const;
@@ -45,19 +56,8 @@ public:
     QPushButton* HintButton() const;
     QPushButton* AbortButton() const;
     QPushButton* NextButton() const;
-    /// The glyph being taught, or null.
-    const Form* Glyph() const;
     /// The line under the writing canvas that says why a stroke was refused.
     FeedbackLine* Feedback() const;
-    /// Switches the writing aids.
-    void SetCoaching(const CoachingPreferences& preferences);
-
-protected:
-    void Cancel() override;
-    void showEvent(QShowEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
-
-private:
     void LoadCharacter();
     void RefreshControls();
     void ShowHint();

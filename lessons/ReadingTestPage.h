@@ -35,12 +35,12 @@ public:
     const ReadingChoices& Choices() const { return m_choices; }
     QRadioButton* OnButton(int i) const { return m_onButtons.at(static_cast<std::size_t>(i)); }
     QRadioButton* KunButton(int i) const { return m_kunButtons.at(static_cast<std::size_t>(i)); }
+
+private:
     QLabel* OnReadingLabel() const;
     QLabel* KunReadingLabel() const;
     QLabel* MeaningLabel() const;
     DisplayCanvas* Display() const;
-
-private:
     void Pick(bool on, int index);
 
     std::unique_ptr<Ui::ReadingTestPage> m_ui;

@@ -42,13 +42,13 @@ public:
     DrawingTestPage* DrawingPage() const { return m_drawing; }
     /// The question page shown, or null.
     QuestionPage* ShownPage() const;
-    QPushButton* NextButton() const;
-    QPushButton* AbortButton() const;
 
 protected:
     void Cancel() override;
 
 private:
+    QPushButton* NextButton() const;
+    QPushButton* AbortButton() const;
     void AskQuestion();
     void RefreshButtons();
     void OnPageEvent(QuestionPage* page, quint16 code);

@@ -35,6 +35,7 @@ AboutDialog::AboutDialog(UrlOpener open, QWidget* owner) : QDialog(owner)
         this);
     credits->setWordWrap(true);
     m_ok = new QPushButton(tr("OK"), this);
+    m_ok->setObjectName(QStringLiteral("okButton"));
     m_ok->setDefault(true);
     connect(m_ok, &QPushButton::clicked, this, [this] { done(1); });
 

@@ -18,12 +18,12 @@ public:
     QLabel* VersionLabel() const { return m_version; }
     HyperlinkLabel* SiteLink() const { return m_site; }
     HyperlinkLabel* SupportLink() const { return m_support; }
-    QPushButton* OkButton() const { return m_ok; }
 
 protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    QPushButton* OkButton() const { return m_ok; }
     QLabel* m_version = nullptr;
     HyperlinkLabel* m_site = nullptr;
     HyperlinkLabel* m_support = nullptr;

@@ -1,3 +1,4 @@
+#include "Named.h"
 #include "AddUserDialog.h"
 #include "CharacterDatabase.h"
 #include "ConfigStore.h"
@@ -69,10 +70,10 @@ private slots:
         UserManagerDialog manager(GetConfigStore(), m_prompt);
         QCOMPARE(manager.windowTitle(), QStringLiteral("User Manager"));
         manager.show();
-        QCOMPARE(manager.UserList()->count(), 0);
-        QVERIFY(!manager.OpenButton()->isEnabled());
-        QVERIFY(!manager.DeleteButton()->isEnabled());
-        QCOMPARE(manager.DefaultButton(), manager.AddButton());
+        QCOMPARE(Named<QListWidget>(&manager, "userList")->count(), 0);
+        QVERIFY(!Named<QPushButton>(&manager, "openButton")->isEnabled());
+        QVERIFY(!Named<QPushButton>(&manager, "deleteButton")->isEnabled());
+        QCOMPARE(manager.DefaultButton(), Named<QPushButton>(&manager, "addButton"));
         QVERIFY(manager.SelectedUserName().empty());
     }
 
@@ -82,17 +83,17 @@ private slots:
             R"(<Z><Users currentUser="ben"><User name="Chiyo"/><User name="Ben"/><User name="Anna"/></Users></Z>)");
         UserManagerDialog manager(GetConfigStore(), m_prompt);
         manager.show();
-        QCOMPARE(Items(manager.UserList()), (QStringList{"Chiyo", "Ben", "Anna"}));
-        QCOMPARE(Selected(manager.UserList()), QStringLiteral("Ben"));
+        QCOMPARE(Items(Named<QListWidget>(&manager, "userList")), (QStringList{"Chiyo", "Ben", "Anna"}));
+        QCOMPARE(Selected(Named<QListWidget>(&manager, "userList")), QStringLiteral("Ben"));
         QCOMPARE(manager.SelectedUserName(), std::string("Ben"));
-        QVERIFY(manager.OpenButton()->isEnabled());
-        QCOMPARE(manager.DefaultButton(), manager.OpenButton());
-        QVERIFY(!manager.UserList()->item(0)->icon().isNull());
+        QVERIFY(Named<QPushButton>(&manager, "openButton")->isEnabled());
+        QCOMPARE(manager.DefaultButton(), Named<QPushButton>(&manager, "openButton"));
+        QVERIFY(!Named<QListWidget>(&manager, "userList")->item(0)->icon().isNull());
         // Double click opens.
         QTimer::singleShot(0, &manager, [&] {
-            const QRect r = manager.UserList()->visualItemRect(manager.UserList()->item(2));
-            QTest::mouseClick(manager.UserList()->viewport(), Qt::LeftButton, Qt::NoModifier, r.center());
-            QTest::mouseDClick(manager.UserList()->viewport(), Qt::LeftButton, Qt::NoModifier, r.center());
+            const QRect r = Named<QListWidget>(&manager, "userList")->visualItemRect(Named<QListWidget>(&manager, "userList")->item(2));
+            QTest::mouseClick(Named<QListWidget>(&manager, "userList")->viewport(), Qt::LeftButton, Qt::NoModifier, r.center());
+            QTest::mouseDClick(Named<QListWidget>(&manager, "userList")->viewport(), Qt::LeftButton, Qt::NoModifier, r.center());
         });
         QCOMPARE(manager.exec(), int(UserManagerDialog::Open));
         QCOMPARE(manager.SelectedUserName(), std::string("Anna"));
@@ -104,28 +105,28 @@ private slots:
         UserManagerDialog manager(GetConfigStore(), m_prompt);
         manager.show();
         Type({"anna"});
-        QTest::mouseClick(manager.AddButton(), Qt::LeftButton);
-        QCOMPARE(Items(manager.UserList()), (QStringList{"Anna", "anna"}));
-        QCOMPARE(Selected(manager.UserList()), QStringLiteral("anna"));
+        QTest::mouseClick(Named<QPushButton>(&manager, "addButton"), Qt::LeftButton);
+        QCOMPARE(Items(Named<QListWidget>(&manager, "userList")), (QStringList{"Anna", "anna"}));
+        QCOMPARE(Selected(Named<QListWidget>(&manager, "userList")), QStringLiteral("anna"));
         QVERIFY(m_prompt.messages.isEmpty());
         QCOMPARE(GetConfigStore().CurrentUserName(), std::string("Anna")); // adding does not make current
         QSignalSpy deleted(&manager, &UserManagerDialog::currentUserDeleted);
-        QTest::mouseClick(manager.DeleteButton(), Qt::LeftButton);
+        QTest::mouseClick(Named<QPushButton>(&manager, "deleteButton"), Qt::LeftButton);
         QCOMPARE(m_prompt.messages, QStringList{"Delete User: Delete current user?"});
-        QCOMPARE(Items(manager.UserList()), QStringList{"Anna"});
+        QCOMPARE(Items(Named<QListWidget>(&manager, "userList")), QStringList{"Anna"});
         QCOMPARE(GetConfigStore().CurrentUserName(), std::string());
         QCOMPARE(deleted.count(), 1);
         // Another learner: the plain question, no notice.
         m_prompt.messages.clear();
         Type({"Ben"});
-        QTest::mouseClick(manager.AddButton(), Qt::LeftButton);
-        QTest::mouseClick(manager.DeleteButton(), Qt::LeftButton);
+        QTest::mouseClick(Named<QPushButton>(&manager, "addButton"), Qt::LeftButton);
+        QTest::mouseClick(Named<QPushButton>(&manager, "deleteButton"), Qt::LeftButton);
         QCOMPARE(m_prompt.messages, QStringList{"Delete User: Delete user?"});
         QCOMPARE(deleted.count(), 1);
         // Answering No keeps the learner.
         m_prompt.answer = QMessageBox::No;
-        QTest::mouseClick(manager.DeleteButton(), Qt::LeftButton);
-        QCOMPARE(Items(manager.UserList()), QStringList{"Anna"});
+        QTest::mouseClick(Named<QPushButton>(&manager, "deleteButton"), Qt::LeftButton);
+        QCOMPARE(Items(Named<QListWidget>(&manager, "userList")), QStringList{"Anna"});
     }
 
     void deletingTheLastOrOnlyItem()
@@ -133,18 +134,18 @@ private slots:
         WriteConfig(R"(<Z><Users><User name="A"/><User name="B"/><User name="C"/></Users></Z>)");
         UserManagerDialog manager(GetConfigStore(), m_prompt);
         manager.show();
-        manager.UserList()->setCurrentRow(2);
-        QTest::mouseClick(manager.DeleteButton(), Qt::LeftButton);
-        QCOMPARE(Items(manager.UserList()), (QStringList{"A", "B"}));
-        QCOMPARE(Selected(manager.UserList()), QStringLiteral("B"));
-        manager.UserList()->setCurrentRow(0);
-        QTest::mouseClick(manager.DeleteButton(), Qt::LeftButton);
-        QCOMPARE(Selected(manager.UserList()), QStringLiteral("B"));
-        QTest::mouseClick(manager.DeleteButton(), Qt::LeftButton);
-        QCOMPARE(manager.UserList()->count(), 0);
-        QVERIFY(manager.UserList()->selectedItems().isEmpty());
-        QVERIFY(!manager.DeleteButton()->isEnabled());
-        QCOMPARE(manager.DefaultButton(), manager.AddButton());
+        Named<QListWidget>(&manager, "userList")->setCurrentRow(2);
+        QTest::mouseClick(Named<QPushButton>(&manager, "deleteButton"), Qt::LeftButton);
+        QCOMPARE(Items(Named<QListWidget>(&manager, "userList")), (QStringList{"A", "B"}));
+        QCOMPARE(Selected(Named<QListWidget>(&manager, "userList")), QStringLiteral("B"));
+        Named<QListWidget>(&manager, "userList")->setCurrentRow(0);
+        QTest::mouseClick(Named<QPushButton>(&manager, "deleteButton"), Qt::LeftButton);
+        QCOMPARE(Selected(Named<QListWidget>(&manager, "userList")), QStringLiteral("B"));
+        QTest::mouseClick(Named<QPushButton>(&manager, "deleteButton"), Qt::LeftButton);
+        QCOMPARE(Named<QListWidget>(&manager, "userList")->count(), 0);
+        QVERIFY(Named<QListWidget>(&manager, "userList")->selectedItems().isEmpty());
+        QVERIFY(!Named<QPushButton>(&manager, "deleteButton")->isEnabled());
+        QCOMPARE(manager.DefaultButton(), Named<QPushButton>(&manager, "addButton"));
     }
 
     void blankNamesEmptyNamesAndRejectedNames()
@@ -154,28 +155,28 @@ private slots:
         manager.show();
         // Only blanks: accepted as typed.
         Type({"   "});
-        QTest::mouseClick(manager.AddButton(), Qt::LeftButton);
-        QCOMPARE(Items(manager.UserList()), (QStringList{"Anna", "   "}));
+        QTest::mouseClick(Named<QPushButton>(&manager, "addButton"), Qt::LeftButton);
+        QCOMPARE(Items(Named<QListWidget>(&manager, "userList")), (QStringList{"Anna", "   "}));
         // A taken name: the message, then the dialog again with the name selected; Cancel ends.
         QStringList seenAgain;
         int shown = 0;
         m_typing = std::make_unique<ModalAnswerer<AddUserDialog>>([&](AddUserDialog& dialog) {
             ++shown;
             if (shown == 1) {
-                QVERIFY(!dialog.OkButton()->isEnabled()); // empty: OK disabled
-                dialog.NameEdit()->setText(QStringLiteral("Anna"));
-                QVERIFY(dialog.OkButton()->isEnabled());
-                QTest::mouseClick(dialog.OkButton(), Qt::LeftButton);
+                QVERIFY(!Named<QPushButton>(&dialog, "okButton")->isEnabled()); // empty: OK disabled
+                Named<QLineEdit>(&dialog, "nameEdit")->setText(QStringLiteral("Anna"));
+                QVERIFY(Named<QPushButton>(&dialog, "okButton")->isEnabled());
+                QTest::mouseClick(Named<QPushButton>(&dialog, "okButton"), Qt::LeftButton);
             } else {
-                seenAgain << dialog.NameEdit()->text() << dialog.NameEdit()->selectedText();
-                QTest::mouseClick(dialog.CancelButton(), Qt::LeftButton);
+                seenAgain << Named<QLineEdit>(&dialog, "nameEdit")->text() << Named<QLineEdit>(&dialog, "nameEdit")->selectedText();
+                QTest::mouseClick(Named<QPushButton>(&dialog, "cancelButton"), Qt::LeftButton);
             }
         });
-        QTest::mouseClick(manager.AddButton(), Qt::LeftButton);
+        QTest::mouseClick(Named<QPushButton>(&manager, "addButton"), Qt::LeftButton);
         QCOMPARE(shown, 2);
         QCOMPARE(m_prompt.messages, QStringList{"Can't create user: User already exists. Try another user name"});
         QCOMPARE(seenAgain, (QStringList{"Anna", "Anna"}));
-        QCOMPARE(Items(manager.UserList()), (QStringList{"Anna", "   "}));
+        QCOMPARE(Items(Named<QListWidget>(&manager, "userList")), (QStringList{"Anna", "   "}));
     }
 
     void apostropheNamesAreRefusedWithTheReason()
@@ -183,10 +184,10 @@ private slots:
         UserManagerDialog manager(GetConfigStore(), m_prompt);
         manager.show();
         Type({"O'Brien", "OBrien"});
-        QTest::mouseClick(manager.AddButton(), Qt::LeftButton);
+        QTest::mouseClick(Named<QPushButton>(&manager, "addButton"), Qt::LeftButton);
         QCOMPARE(m_prompt.messages,
             QStringList{"Can't create user: A user name cannot contain an apostrophe ('). Try another user name"});
-        QCOMPARE(Items(manager.UserList()), QStringList{"OBrien"});
+        QCOMPARE(Items(Named<QListWidget>(&manager, "userList")), QStringList{"OBrien"});
     }
 
     void addDialogRules()
@@ -194,10 +195,10 @@ private slots:
         AddUserDialog dialog;
         QCOMPARE(dialog.windowTitle(), QStringLiteral("Add New User"));
         dialog.show();
-        QVERIFY(!dialog.OkButton()->isEnabled());
-        QTest::keyClicks(dialog.NameEdit(), "Dai");
-        QVERIFY(dialog.OkButton()->isEnabled());
-        QTest::mouseClick(dialog.OkButton(), Qt::LeftButton);
+        QVERIFY(!Named<QPushButton>(&dialog, "okButton")->isEnabled());
+        QTest::keyClicks(Named<QLineEdit>(&dialog, "nameEdit"), "Dai");
+        QVERIFY(Named<QPushButton>(&dialog, "okButton")->isEnabled());
+        QTest::mouseClick(Named<QPushButton>(&dialog, "okButton"), Qt::LeftButton);
         QCOMPARE(dialog.result(), 1);
         QCOMPARE(dialog.Name(), QStringLiteral("Dai"));
     }
@@ -213,33 +214,33 @@ private slots:
         for (int i = 0; i < 3; ++i)
             user.GetProgress(0).AddLearned(grade1[static_cast<std::size_t>(i)]);
         home.SetUser(&user);
-        QCOMPARE(home.UserNameLabel()->text(), QStringLiteral("Anna"));
-        QCOMPARE(home.CategoryList()->topLevelItemCount(), int(db.CategoryCount()));
-        QCOMPARE(home.CategoryList()->topLevelItem(0)->text(0), QStringLiteral("Grade 1 (3 of %1)").arg(grade1.size()));
-        QCOMPARE(home.CategoryList()->topLevelItem(0)->data(0, Qt::UserRole + 1).toInt(), 1);
-        QCOMPARE(home.CategoryList()->topLevelItem(1)->text(0), QStringLiteral("Grade 2"));
-        QCOMPARE(home.CategoryList()->topLevelItem(1)->data(0, Qt::UserRole + 1).toInt(), 0);
+        QCOMPARE(Named<QLabel>(&home, "userName")->text(), QStringLiteral("Anna"));
+        QCOMPARE(Named<QTreeWidget>(&home, "categoryList")->topLevelItemCount(), int(db.CategoryCount()));
+        QCOMPARE(Named<QTreeWidget>(&home, "categoryList")->topLevelItem(0)->text(0), QStringLiteral("Grade 1 (3 of %1)").arg(grade1.size()));
+        QCOMPARE(Named<QTreeWidget>(&home, "categoryList")->topLevelItem(0)->data(0, Qt::UserRole + 1).toInt(), 1);
+        QCOMPARE(Named<QTreeWidget>(&home, "categoryList")->topLevelItem(1)->text(0), QStringLiteral("Grade 2"));
+        QCOMPARE(Named<QTreeWidget>(&home, "categoryList")->topLevelItem(1)->data(0, Qt::UserRole + 1).toInt(), 0);
         // Every category now has a record in memory.
         QCOMPARE(user.ProgressCount(), std::size_t(db.CategoryCount()));
-        QVERIFY(!home.OpenButton()->isEnabled());
+        QVERIFY(!Named<QPushButton>(&home, "openButton")->isEnabled());
         QSignalSpy events(&home, &HomePage::pageEvent);
-        const QRect second = home.CategoryList()->visualItemRect(home.CategoryList()->topLevelItem(1));
-        QTest::mouseClick(home.CategoryList()->viewport(), Qt::LeftButton, Qt::NoModifier, second.center());
-        QVERIFY(home.OpenButton()->isEnabled());
-        QCOMPARE(home.DefaultButton(), home.OpenButton());
-        QTest::mouseDClick(home.CategoryList()->viewport(), Qt::LeftButton, Qt::NoModifier, second.center());
+        const QRect second = Named<QTreeWidget>(&home, "categoryList")->visualItemRect(Named<QTreeWidget>(&home, "categoryList")->topLevelItem(1));
+        QTest::mouseClick(Named<QTreeWidget>(&home, "categoryList")->viewport(), Qt::LeftButton, Qt::NoModifier, second.center());
+        QVERIFY(Named<QPushButton>(&home, "openButton")->isEnabled());
+        QCOMPARE(home.DefaultButton(), Named<QPushButton>(&home, "openButton"));
+        QTest::mouseDClick(Named<QTreeWidget>(&home, "categoryList")->viewport(), Qt::LeftButton, Qt::NoModifier, second.center());
         QCOMPARE(events.count(), 1);
         QCOMPARE(home.ChosenCategory(), 1);
         // Progress changes show after a refresh of the selected item.
         user.GetProgress(1).AddLearned(db.LoadCategory(1)->CharacterAt(0));
         home.RefreshSelectedCategory();
-        QCOMPARE(home.CategoryList()->topLevelItem(1)->text(0),
+        QCOMPARE(Named<QTreeWidget>(&home, "categoryList")->topLevelItem(1)->text(0),
             QStringLiteral("Grade 2 (1 of %1)").arg(db.LoadCategory(1)->CharacterCount()));
         // The learner closed: N/A, page disabled, items left as they were.
         home.SetUser(nullptr);
-        QCOMPARE(home.UserNameLabel()->text(), QStringLiteral("N/A"));
+        QCOMPARE(Named<QLabel>(&home, "userName")->text(), QStringLiteral("N/A"));
         QVERIFY(!home.isEnabled());
-        QCOMPARE(home.CategoryList()->topLevelItemCount(), int(db.CategoryCount()));
+        QCOMPARE(Named<QTreeWidget>(&home, "categoryList")->topLevelItemCount(), int(db.CategoryCount()));
     }
 
     void learnerWithoutProgressSeesBareNames()
@@ -249,9 +250,9 @@ private slots:
         User user;
         user.SetName("New");
         home.SetUser(&user);
-        for (int i = 0; i < home.CategoryList()->topLevelItemCount(); ++i) {
-            QVERIFY(!home.CategoryList()->topLevelItem(i)->text(0).contains('('));
-            QCOMPARE(home.CategoryList()->topLevelItem(i)->data(0, Qt::UserRole + 1).toInt(), 0);
+        for (int i = 0; i < Named<QTreeWidget>(&home, "categoryList")->topLevelItemCount(); ++i) {
+            QVERIFY(!Named<QTreeWidget>(&home, "categoryList")->topLevelItem(i)->text(0).contains('('));
+            QCOMPARE(Named<QTreeWidget>(&home, "categoryList")->topLevelItem(i)->data(0, Qt::UserRole + 1).toInt(), 0);
         }
     }
 
@@ -267,12 +268,12 @@ private:
         auto queue = std::make_shared<std::vector<std::string>>(std::move(names));
         m_typing = std::make_unique<ModalAnswerer<AddUserDialog>>([queue](AddUserDialog& dialog) {
             if (queue->empty()) {
-                QTest::mouseClick(dialog.CancelButton(), Qt::LeftButton);
+                QTest::mouseClick(Named<QPushButton>(&dialog, "cancelButton"), Qt::LeftButton);
                 return;
             }
-            dialog.NameEdit()->setText(QString::fromStdString(queue->front()));
+            Named<QLineEdit>(&dialog, "nameEdit")->setText(QString::fromStdString(queue->front()));
             queue->erase(queue->begin());
-            QTest::mouseClick(dialog.OkButton(), Qt::LeftButton);
+            QTest::mouseClick(Named<QPushButton>(&dialog, "okButton"), Qt::LeftButton);
         });
     }
 

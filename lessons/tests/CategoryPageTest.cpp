@@ -1,3 +1,4 @@
+#include "Named.h"
 #include "CategoryPage.h"
 #include "CharacterGrid.h"
 #include "FittedText.h"
@@ -54,16 +55,16 @@ private slots:
         for (int i = 0; i < untested; ++i)
             Grade1().AddUntested(m_grade1[static_cast<std::size_t>(10 + i)]);
         m_page->SetCategory(0, Recorder(0));
-        QCOMPARE(m_page->TestButton()->isEnabled(), untested > 0);
-        QCOMPARE(m_page->RetestButton()->isEnabled(), untested < 5);
-        QCOMPARE(m_page->LessonButton()->isEnabled(), untested < 10);
-        QVERIFY(!m_page->ForgetButton()->isEnabled());
-        QCOMPARE(m_page->DefaultButton(), untested > 0 ? m_page->TestButton() : m_page->LessonButton());
-        QCOMPARE(m_page->Strip()->Groups()[0].codes.size(), std::size_t(untested));
-        QCOMPARE(m_page->Grid()->Groups()[0].codes.size(), 6u);
-        QCOMPARE(m_page->Grid()->Groups()[1].codes.size(), m_grade1.size() - 6);
-        QCOMPARE(m_page->Grid()->Groups()[0].title, QStringLiteral("Learned Kanji"));
-        QCOMPARE(m_page->Grid()->Groups()[1].title, QStringLiteral("Kanji to be Learned"));
+        QCOMPARE(Named<QPushButton>(m_page, "testButton")->isEnabled(), untested > 0);
+        QCOMPARE(Named<QPushButton>(m_page, "retestButton")->isEnabled(), untested < 5);
+        QCOMPARE(Named<QPushButton>(m_page, "lessonButton")->isEnabled(), untested < 10);
+        QVERIFY(!Named<QPushButton>(m_page, "forgetButton")->isEnabled());
+        QCOMPARE(m_page->DefaultButton(), untested > 0 ? Named<QPushButton>(m_page, "testButton") : Named<QPushButton>(m_page, "lessonButton"));
+        QCOMPARE(Named<CharacterGrid>(m_page, "untestedStrip")->Groups()[0].codes.size(), std::size_t(untested));
+        QCOMPARE(Named<CharacterGrid>(m_page, "characterGrid")->Groups()[0].codes.size(), 6u);
+        QCOMPARE(Named<CharacterGrid>(m_page, "characterGrid")->Groups()[1].codes.size(), m_grade1.size() - 6);
+        QCOMPARE(Named<CharacterGrid>(m_page, "characterGrid")->Groups()[0].title, QStringLiteral("Learned Kanji"));
+        QCOMPARE(Named<CharacterGrid>(m_page, "characterGrid")->Groups()[1].title, QStringLiteral("Kanji to be Learned"));
         const auto lesson = m_page->PickLessonCharacters(5);
         QCOMPARE(lesson.size(), std::size_t(std::min(5, std::max(0, 10 - untested))));
     }
@@ -73,10 +74,10 @@ private slots:
         for (int i = 0; i < 9; ++i)
             Grade1().AddUntested(m_grade1[static_cast<std::size_t>(i)]);
         m_page->SetCategory(0, Recorder(0));
-        QVERIFY(m_page->LessonButton()->isEnabled());
+        QVERIFY(Named<QPushButton>(m_page, "lessonButton")->isEnabled());
         QCOMPARE(m_page->PickLessonCharacters(5), Codes{m_grade1[9]});
         QSignalSpy events(m_page.get(), &CategoryPage::pageEvent);
-        QTest::mouseClick(m_page->LessonButton(), Qt::LeftButton);
+        QTest::mouseClick(Named<QPushButton>(m_page, "lessonButton"), Qt::LeftButton);
         QCOMPARE(events.count(), 1);
         QCOMPARE(events[0][0].toInt(), int(CategoryPage::Lesson));
     }
@@ -86,11 +87,11 @@ private slots:
         for (std::uint16_t code : m_grade1)
             Grade1().AddLearned(code);
         m_page->SetCategory(0, Recorder(0));
-        QVERIFY(!m_page->LessonButton()->isEnabled());
-        QCOMPARE(m_page->Strip()->EmptyMessage(), QStringLiteral("Category complete"));
+        QVERIFY(!Named<QPushButton>(m_page, "lessonButton")->isEnabled());
+        QCOMPARE(Named<CharacterGrid>(m_page, "untestedStrip")->EmptyMessage(), QStringLiteral("Category complete"));
         m_learner = User();
         m_page->Refresh();
-        QCOMPARE(m_page->Strip()->EmptyMessage(),
+        QCOMPARE(Named<CharacterGrid>(m_page, "untestedStrip")->EmptyMessage(),
             QStringLiteral("To learn characters press 'Lesson' button and then test learned characters by pressing "
                            "'Test' button."));
     }
@@ -102,9 +103,9 @@ private slots:
         for (int i = 5; i < 9; ++i)
             Grade1().AddUntested(m_grade1[static_cast<std::size_t>(i)]);
         m_page->SetCategory(0, Recorder(0));
-        QVERIFY(m_page->RetestButton()->isEnabled());
+        QVERIFY(Named<QPushButton>(m_page, "retestButton")->isEnabled());
         QSignalSpy events(m_page.get(), &CategoryPage::pageEvent);
-        QTest::mouseClick(m_page->RetestButton(), Qt::LeftButton);
+        QTest::mouseClick(Named<QPushButton>(m_page, "retestButton"), Qt::LeftButton);
         QCOMPARE(Grade1().UntestedCount(), 9u);
         QCOMPARE(Grade1().LearnedCount(), 0u);
         QCOMPARE(events.count(), 1);
@@ -116,20 +117,20 @@ private slots:
         for (int i = 0; i < 6; ++i)
             Grade1().AddLearned(m_grade1[static_cast<std::size_t>(i)]);
         m_page->SetCategory(0, Recorder(0));
-        CharacterGrid* grid = m_page->Grid();
-        QVERIFY(!m_page->ForgetButton()->isEnabled()); // nothing selected
+        CharacterGrid* grid = Named<CharacterGrid>(m_page, "characterGrid");
+        QVERIFY(!Named<QPushButton>(m_page, "forgetButton")->isEnabled()); // nothing selected
         QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, grid->CellRect(1).center());
         QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::ControlModifier, grid->CellRect(3).center());
         QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::ControlModifier, grid->CellRect(4).center());
         QCOMPARE(grid->SelectedCodes(), (Codes{m_grade1[1], m_grade1[3], m_grade1[4]}));
-        QVERIFY(m_page->ForgetButton()->isEnabled());
-        QTest::mouseClick(m_page->ForgetButton(), Qt::LeftButton);
+        QVERIFY(Named<QPushButton>(m_page, "forgetButton")->isEnabled());
+        QTest::mouseClick(Named<QPushButton>(m_page, "forgetButton"), Qt::LeftButton);
         QCOMPARE(Grade1().Learned(), (Codes{m_grade1[0], m_grade1[2], m_grade1[5]}));
         QCOMPARE(grid->Groups()[0].codes.size(), 3u);
-        QVERIFY(!m_page->ForgetButton()->isEnabled());
+        QVERIFY(!Named<QPushButton>(m_page, "forgetButton")->isEnabled());
         // A cell of "Kanji to be Learned" first: Forget stays disabled.
         QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, grid->CellRect(5).center());
-        QVERIFY(!m_page->ForgetButton()->isEnabled());
+        QVERIFY(!Named<QPushButton>(m_page, "forgetButton")->isEnabled());
     }
 
     void keyboardMovesAcrossGroups()
@@ -137,7 +138,7 @@ private slots:
         for (int i = 0; i < 3; ++i)
             Grade1().AddLearned(m_grade1[static_cast<std::size_t>(i)]);
         m_page->SetCategory(0, Recorder(0));
-        CharacterGrid* grid = m_page->Grid();
+        CharacterGrid* grid = Named<CharacterGrid>(m_page, "characterGrid");
         grid->setFocus();
         const int columns = grid->Columns();
         QVERIFY(columns > 3);
@@ -148,10 +149,10 @@ private slots:
         QTest::keyClick(grid, Qt::Key_Down); // from "Learned Kanji" into the next group, same column
         QCOMPARE(grid->FocusedCell(), 3 + 1);
         QCOMPARE(grid->SelectedCodes(), Codes{m_grade1[4]});
-        QVERIFY(!m_page->ForgetButton()->isEnabled());
+        QVERIFY(!Named<QPushButton>(m_page, "forgetButton")->isEnabled());
         QTest::keyClick(grid, Qt::Key_Up);
         QCOMPARE(grid->FocusedCell(), 1);
-        QVERIFY(m_page->ForgetButton()->isEnabled());
+        QVERIFY(Named<QPushButton>(m_page, "forgetButton")->isEnabled());
         QTest::keyClick(grid, Qt::Key_Left);
         QTest::keyClick(grid, Qt::Key_Left);
         QCOMPARE(grid->FocusedCell(), 0);
@@ -165,36 +166,36 @@ private slots:
         m_page->SetCategory(0, Recorder(0));
         QSignalSpy events(m_page.get(), &CategoryPage::pageEvent);
         ModalAnswerer<KanjiInfoDialog> info([](KanjiInfoDialog& dialog) { dialog.reject(); });
-        m_page->ShowInfo(m_page->Grid());
+        m_page->ShowInfo(Named<CharacterGrid>(m_page, "characterGrid"));
         QCOMPARE(info.Shown(), 0);
-        m_page->UnlearnedMenu()->actions()[1]->trigger(); // Learn
+        Named<QMenu>(m_page, "unlearnedMenu")->actions()[1]->trigger(); // Learn
         QCOMPARE(events.count(), 0);
     }
 
     void contextMenusAndTheirDefaults()
     {
-        QCOMPARE(m_page->LearnedMenu()->title(), QStringLiteral("Learned"));
+        QCOMPARE(Named<QMenu>(m_page, "learnedMenu")->title(), QStringLiteral("Learned"));
         QStringList learned;
-        for (QAction* a : m_page->LearnedMenu()->actions())
+        for (QAction* a : Named<QMenu>(m_page, "learnedMenu")->actions())
             learned << a->text();
         QCOMPARE(learned, (QStringList{"&Info", "&Review", "&Forget"}));
-        QCOMPARE(m_page->LearnedMenu()->defaultAction(), m_page->LearnedMenu()->actions()[0]);
-        QCOMPARE(m_page->UnlearnedMenu()->actions().size(), 2);
-        QCOMPARE(m_page->UnlearnedMenu()->defaultAction()->text(), QStringLiteral("&Info"));
-        QCOMPARE(m_page->UntestedMenu()->actions().size(), 1);
+        QCOMPARE(Named<QMenu>(m_page, "learnedMenu")->defaultAction(), Named<QMenu>(m_page, "learnedMenu")->actions()[0]);
+        QCOMPARE(Named<QMenu>(m_page, "unlearnedMenu")->actions().size(), 2);
+        QCOMPARE(Named<QMenu>(m_page, "unlearnedMenu")->defaultAction()->text(), QStringLiteral("&Info"));
+        QCOMPARE(Named<QMenu>(m_page, "untestedMenu")->actions().size(), 1);
         // Learn on a cell of "Kanji to be Learned" asks for a lesson of that character.
         Grade1().AddLearned(m_grade1[0]);
         m_page->SetCategory(0, Recorder(0));
         QSignalSpy events(m_page.get(), &CategoryPage::pageEvent);
-        m_page->Grid()->SelectCell(2);
-        m_page->UnlearnedMenu()->actions()[1]->trigger();
+        Named<CharacterGrid>(m_page, "characterGrid")->SelectCell(2);
+        Named<QMenu>(m_page, "unlearnedMenu")->actions()[1]->trigger();
         QCOMPARE(events.count(), 1);
         QCOMPARE(events[0][0].toInt(), int(CategoryPage::Learn));
         QCOMPARE(events[0][1].toInt(), int(m_grade1[2]));
         // Review does nothing.
-        m_page->Grid()->SelectCell(0);
+        Named<CharacterGrid>(m_page, "characterGrid")->SelectCell(0);
         const Codes before = Grade1().Learned();
-        m_page->LearnedMenu()->actions()[1]->trigger();
+        Named<QMenu>(m_page, "learnedMenu")->actions()[1]->trigger();
         QCOMPARE(events.count(), 1);
         QCOMPARE(Grade1().Learned(), before);
     }
@@ -203,7 +204,7 @@ private slots:
     {
         // Everything unlearned: one group of 80 cells, several rows.
         m_page->SetCategory(0, Recorder(0));
-        CharacterGrid* grid = m_page->Grid();
+        CharacterGrid* grid = Named<CharacterGrid>(m_page, "characterGrid");
         QVERIFY(grid->frameWidth() > 0); // the frame is what a wrong mapping shifts by
         const int columns = grid->Columns();
         QVERIFY(columns >= 3);
@@ -219,9 +220,9 @@ private slots:
         QCOMPARE(requests[0][0].toInt(), cell);
         QCOMPARE(grid->SelectedCodes(), (Codes{m_grade1[static_cast<std::size_t>(cell)]}));
         // The menu that opened acts on that character: Learn asks for its lesson.
-        QTRY_VERIFY(m_page->UnlearnedMenu()->isVisible());
-        m_page->UnlearnedMenu()->actions()[1]->trigger();
-        m_page->UnlearnedMenu()->close();
+        QTRY_VERIFY(Named<QMenu>(m_page, "unlearnedMenu")->isVisible());
+        Named<QMenu>(m_page, "unlearnedMenu")->actions()[1]->trigger();
+        Named<QMenu>(m_page, "unlearnedMenu")->close();
         QCOMPARE(events.count(), 1);
         QCOMPARE(events[0][0].toInt(), int(CategoryPage::Learn));
         QCOMPARE(events[0][1].toInt(), int(m_grade1[static_cast<std::size_t>(cell)]));
@@ -231,7 +232,7 @@ private slots:
     {
         Grade1().AddUntested(m_grade1[7]);
         m_page->SetCategory(0, Recorder(0));
-        m_page->Strip()->SelectCell(0);
+        Named<CharacterGrid>(m_page, "untestedStrip")->SelectCell(0);
         QString title;
         QString meaning;
         ModalAnswerer<KanjiInfoDialog> info([&](KanjiInfoDialog& dialog) {
@@ -239,19 +240,19 @@ private slots:
             meaning = FullText(dialog.findChild<QLabel*>(QStringLiteral("meaning")));
             QTest::keyClick(&dialog, Qt::Key_Escape);
         });
-        m_page->UntestedMenu()->actions()[0]->trigger();
+        Named<QMenu>(m_page, "untestedMenu")->actions()[0]->trigger();
         QCOMPARE(info.Shown(), 1);
         QCOMPARE(title, QStringLiteral(" Kanji Info"));
         // It shows the selected character.
         QCOMPARE(meaning, QString::fromUtf8(m_standard->LoadCharacter(m_grade1[7])->Meaning()));
-        QCOMPARE(m_page->focusWidget(), m_page->Strip()); // focus goes back to the strip
+        QCOMPARE(m_page->focusWidget(), Named<CharacterGrid>(m_page, "untestedStrip")); // focus goes back to the strip
     }
 
     void backAndEscapeGoBack()
     {
         m_page->SetCategory(0, Recorder(0));
         QSignalSpy events(m_page.get(), &CategoryPage::pageEvent);
-        QTest::mouseClick(m_page->BackButton(), Qt::LeftButton);
+        QTest::mouseClick(Named<QPushButton>(m_page, "backButton"), Qt::LeftButton);
         QTest::keyClick(m_page.get(), Qt::Key_Escape);
         QCOMPARE(events.count(), 2);
         QCOMPARE(events[1][0].toInt(), int(CategoryPage::Back));
@@ -261,13 +262,13 @@ private slots:
     {
         // "Secondary school" holds over a thousand characters.
         m_page->SetCategory(6, Recorder(6));
-        QVERIFY(m_page->Grid()->Groups()[1].codes.size() > 1000);
+        QVERIFY(Named<CharacterGrid>(m_page, "characterGrid")->Groups()[1].codes.size() > 1000);
         m_page->grab();
-        const int afterFirstPaint = m_page->Grid()->RenderedCells();
+        const int afterFirstPaint = Named<CharacterGrid>(m_page, "characterGrid")->RenderedCells();
         QVERIFY(afterFirstPaint > 0);
         QVERIFY(afterFirstPaint < 200);
         m_page->grab();
-        QCOMPARE(m_page->Grid()->RenderedCells(), afterFirstPaint); // cached
+        QCOMPARE(Named<CharacterGrid>(m_page, "characterGrid")->RenderedCells(), afterFirstPaint); // cached
     }
 
 private:

@@ -1,3 +1,4 @@
+#include "Named.h"
 #include "KanjiInfoDialog.h"
 #include "DisplayCanvas.h"
 #include "RecordingPrompt.h"
@@ -30,11 +31,11 @@ private slots:
         QVERIFY(dialog.SetCode(0));
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-        QCOMPARE(dialog.OnReadingLabel()->text(), QStringLiteral("ジュウ"));
-        QCOMPARE(dialog.KunReadingLabel()->text(), QStringLiteral("N/A"));
-        QCOMPARE(dialog.MeaningLabel()->text(), QStringLiteral("ten"));
-        QVERIFY(CountNot(dialog.Display()->BackBuffer(), qRgb(255, 255, 255)) > 0);
-        QCOMPARE(dialog.Display()->width(), dialog.Display()->height());
+        QCOMPARE(Named<QLabel>(&dialog, "onReading")->text(), QStringLiteral("ジュウ"));
+        QCOMPARE(Named<QLabel>(&dialog, "kunReading")->text(), QStringLiteral("N/A"));
+        QCOMPARE(Named<QLabel>(&dialog, "meaning")->text(), QStringLiteral("ten"));
+        QVERIFY(CountNot(Named<DisplayCanvas>(&dialog, "displayCanvas")->BackBuffer(), qRgb(255, 255, 255)) > 0);
+        QCOMPARE(Named<DisplayCanvas>(&dialog, "displayCanvas")->width(), Named<DisplayCanvas>(&dialog, "displayCanvas")->height());
     }
 
     void clickingTwiceRestartsTheAnimation()
@@ -43,7 +44,7 @@ private slots:
         dialog.SetCode(0);
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-        DisplayCanvas* display = dialog.Display();
+        DisplayCanvas* display = Named<DisplayCanvas>(&dialog, "displayCanvas");
         QTest::mouseClick(display, Qt::LeftButton, Qt::NoModifier, display->rect().center());
         QVERIFY(display->IsAnimating());
         QTRY_VERIFY_WITH_TIMEOUT(CountNot(display->BackBuffer(), qRgb(255, 255, 255)) > 0, 5000);
@@ -59,13 +60,13 @@ private slots:
             dialog.SetCode(0);
             bool animatingWhenEnded = true;
             QTimer::singleShot(0, &dialog, [&] {
-                QTest::mouseClick(dialog.Display(), Qt::LeftButton, Qt::NoModifier, dialog.Display()->rect().center());
-                QVERIFY(dialog.Display()->IsAnimating());
+                QTest::mouseClick(Named<DisplayCanvas>(&dialog, "displayCanvas"), Qt::LeftButton, Qt::NoModifier, Named<DisplayCanvas>(&dialog, "displayCanvas")->rect().center());
+                QVERIFY(Named<DisplayCanvas>(&dialog, "displayCanvas")->IsAnimating());
                 if (escape)
                     QTest::keyClick(&dialog, Qt::Key_Escape);
                 else
-                    QTest::mouseClick(dialog.CloseButton(), Qt::LeftButton);
-                animatingWhenEnded = dialog.Display()->IsAnimating();
+                    QTest::mouseClick(Named<QPushButton>(&dialog, "closeButton"), Qt::LeftButton);
+                animatingWhenEnded = Named<DisplayCanvas>(&dialog, "displayCanvas")->IsAnimating();
             });
             const int result = dialog.exec();
             QCOMPARE(result, escape ? int(KanjiInfoDialog::Cancelled) : int(KanjiInfoDialog::Closed));

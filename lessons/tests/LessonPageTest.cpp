@@ -1,3 +1,4 @@
+#include "Named.h"
 #include "LessonPage.h"
 #include "DisplayCanvas.h"
 #include "InputCanvas.h"
@@ -39,22 +40,22 @@ private slots:
 
     void canvasesAreSquareWithTheirCursors()
     {
-        QCOMPARE(m_page->Input()->width(), m_page->Input()->height());
-        QCOMPARE(m_page->Display()->width(), m_page->Display()->height());
-        QVERIFY(m_page->Input()->cursor().shape() == Qt::BitmapCursor);
-        QCOMPARE(m_page->Display()->cursor().shape(), Qt::PointingHandCursor);
+        QCOMPARE(Named<InputCanvas>(m_page, "inputCanvas")->width(), Named<InputCanvas>(m_page, "inputCanvas")->height());
+        QCOMPARE(Named<DisplayCanvas>(m_page, "displayCanvas")->width(), Named<DisplayCanvas>(m_page, "displayCanvas")->height());
+        QVERIFY(Named<InputCanvas>(m_page, "inputCanvas")->cursor().shape() == Qt::BitmapCursor);
+        QCOMPARE(Named<DisplayCanvas>(m_page, "displayCanvas")->cursor().shape(), Qt::PointingHandCursor);
     }
 
     void emptyLessonLeavesOnlyAbort()
     {
         QSignalSpy events(m_page.get(), &LessonPage::pageEvent);
         m_page->StartLesson({});
-        QVERIFY(!m_page->Input()->isEnabled());
-        QVERIFY(!m_page->NextButton()->isEnabled());
-        QVERIFY(!m_page->HintButton()->isEnabled());
-        QVERIFY(m_page->AbortButton()->isEnabled());
-        QCOMPARE(m_page->DefaultButton(), m_page->AbortButton());
-        QTest::mouseClick(m_page->AbortButton(), Qt::LeftButton);
+        QVERIFY(!Named<InputCanvas>(m_page, "inputCanvas")->isEnabled());
+        QVERIFY(!Named<QPushButton>(m_page, "nextButton")->isEnabled());
+        QVERIFY(!Named<QPushButton>(m_page, "hintButton")->isEnabled());
+        QVERIFY(Named<QPushButton>(m_page, "abortButton")->isEnabled());
+        QCOMPARE(m_page->DefaultButton(), Named<QPushButton>(m_page, "abortButton"));
+        QTest::mouseClick(Named<QPushButton>(m_page, "abortButton"), Qt::LeftButton);
         QCOMPARE(events.count(), 1);
         QCOMPARE(events[0][0].toInt(), int(LessonPage::Aborted));
     }
@@ -62,85 +63,85 @@ private slots:
     void missingOnReadingShowsNotAvailableAndMustStillBeTicked()
     {
         m_page->StartLesson({0});
-        QCOMPARE(m_page->OnReadingBox()->text(), QStringLiteral("N/A"));
-        QCOMPARE(m_page->KunReadingBox()->text(), QStringLiteral("kun"));
-        QCOMPARE(m_page->MeaningBox()->text(), QStringLiteral("ten"));
+        QCOMPARE(Named<QCheckBox>(m_page, "onReading")->text(), QStringLiteral("N/A"));
+        QCOMPARE(Named<QCheckBox>(m_page, "kunReading")->text(), QStringLiteral("kun"));
+        QCOMPARE(Named<QCheckBox>(m_page, "meaning")->text(), QStringLiteral("ten"));
         DrawGlyph();
-        QVERIFY(!m_page->NextButton()->isEnabled());
-        Tick(m_page->KunReadingBox());
-        Tick(m_page->MeaningBox());
-        QVERIFY(!m_page->NextButton()->isEnabled());
-        Tick(m_page->OnReadingBox());
-        QVERIFY(m_page->NextButton()->isEnabled());
+        QVERIFY(!Named<QPushButton>(m_page, "nextButton")->isEnabled());
+        Tick(Named<QCheckBox>(m_page, "kunReading"));
+        Tick(Named<QCheckBox>(m_page, "meaning"));
+        QVERIFY(!Named<QPushButton>(m_page, "nextButton")->isEnabled());
+        Tick(Named<QCheckBox>(m_page, "onReading"));
+        QVERIFY(Named<QPushButton>(m_page, "nextButton")->isEnabled());
     }
 
     void tickingAndUntickingAfterCompletionTogglesNext()
     {
         m_page->StartLesson({1});
         TickAll();
-        QVERIFY(!m_page->NextButton()->isEnabled());
+        QVERIFY(!Named<QPushButton>(m_page, "nextButton")->isEnabled());
         DrawGlyph();
-        QVERIFY(m_page->NextButton()->isEnabled());
-        QCOMPARE(m_page->DefaultButton(), m_page->NextButton());
-        QVERIFY(!m_page->Input()->isEnabled());
+        QVERIFY(Named<QPushButton>(m_page, "nextButton")->isEnabled());
+        QCOMPARE(m_page->DefaultButton(), Named<QPushButton>(m_page, "nextButton"));
+        QVERIFY(!Named<InputCanvas>(m_page, "inputCanvas")->isEnabled());
         for (int i = 0; i < 2; ++i) {
-            Tick(m_page->MeaningBox());
-            QVERIFY(!m_page->NextButton()->isEnabled());
-            QCOMPARE(m_page->DefaultButton(), m_page->AbortButton());
-            Tick(m_page->MeaningBox());
-            QVERIFY(m_page->NextButton()->isEnabled());
+            Tick(Named<QCheckBox>(m_page, "meaning"));
+            QVERIFY(!Named<QPushButton>(m_page, "nextButton")->isEnabled());
+            QCOMPARE(m_page->DefaultButton(), Named<QPushButton>(m_page, "abortButton"));
+            Tick(Named<QCheckBox>(m_page, "meaning"));
+            QVERIFY(Named<QPushButton>(m_page, "nextButton")->isEnabled());
         }
     }
 
     void wrongFirstStrokeVanishes()
     {
         m_page->StartLesson({0});
-        const QImage blank = m_page->Input()->BackBuffer();
-        QSignalSpy kept(m_page->Input(), &InputCanvas::strokeKept);
+        const QImage blank = Named<InputCanvas>(m_page, "inputCanvas")->BackBuffer();
+        QSignalSpy kept(Named<InputCanvas>(m_page, "inputCanvas"), &InputCanvas::strokeKept);
         // The vertical stroke first: wrong order.
-        DrawInk(m_page->Input(), StrokeAsMouse(*m_page->Glyph(), 1, m_page->Input()->ClientRect().width()));
-        QCOMPARE(m_page->Input()->StrokeCount(), 0);
+        DrawInk(Named<InputCanvas>(m_page, "inputCanvas"), StrokeAsMouse(*m_page->Glyph(), 1, Named<InputCanvas>(m_page, "inputCanvas")->ClientRect().width()));
+        QCOMPARE(Named<InputCanvas>(m_page, "inputCanvas")->StrokeCount(), 0);
         QCOMPARE(kept.count(), 0);
-        QVERIFY(!m_page->ClearButton()->isEnabled());
-        QVERIFY(!m_page->UndoButton()->isEnabled());
-        QCOMPARE(m_page->Input()->BackBuffer(), blank);
+        QVERIFY(!Named<QPushButton>(m_page, "clearButton")->isEnabled());
+        QVERIFY(!Named<QPushButton>(m_page, "undoButton")->isEnabled());
+        QCOMPARE(Named<InputCanvas>(m_page, "inputCanvas")->BackBuffer(), blank);
         // Backwards is wrong too.
-        auto backwards = StrokeAsMouse(*m_page->Glyph(), 0, m_page->Input()->ClientRect().width());
+        auto backwards = StrokeAsMouse(*m_page->Glyph(), 0, Named<InputCanvas>(m_page, "inputCanvas")->ClientRect().width());
         std::reverse(backwards.begin(), backwards.end());
-        DrawInk(m_page->Input(), backwards);
-        QCOMPARE(m_page->Input()->StrokeCount(), 0);
+        DrawInk(Named<InputCanvas>(m_page, "inputCanvas"), backwards);
+        QCOMPARE(Named<InputCanvas>(m_page, "inputCanvas")->StrokeCount(), 0);
         // The right stroke counts.
-        DrawInk(m_page->Input(), StrokeAsMouse(*m_page->Glyph(), 0, m_page->Input()->ClientRect().width()));
-        QCOMPARE(m_page->Input()->StrokeCount(), 1);
-        QVERIFY(m_page->ClearButton()->isEnabled());
-        QVERIFY(m_page->UndoButton()->isEnabled());
+        DrawInk(Named<InputCanvas>(m_page, "inputCanvas"), StrokeAsMouse(*m_page->Glyph(), 0, Named<InputCanvas>(m_page, "inputCanvas")->ClientRect().width()));
+        QCOMPARE(Named<InputCanvas>(m_page, "inputCanvas")->StrokeCount(), 1);
+        QVERIFY(Named<QPushButton>(m_page, "clearButton")->isEnabled());
+        QVERIFY(Named<QPushButton>(m_page, "undoButton")->isEnabled());
     }
 
     void hintOncePerStrokeAndGoneWhenTheNextStrokeIsKept()
     {
         m_page->StartLesson({0});
-        QVERIFY(m_page->HintButton()->isEnabled());
-        QTest::mouseClick(m_page->HintButton(), Qt::LeftButton);
-        QVERIFY(!m_page->HintButton()->isEnabled());
-        const QImage withHint = m_page->Input()->BackBuffer();
+        QVERIFY(Named<QPushButton>(m_page, "hintButton")->isEnabled());
+        QTest::mouseClick(Named<QPushButton>(m_page, "hintButton"), Qt::LeftButton);
+        QVERIFY(!Named<QPushButton>(m_page, "hintButton")->isEnabled());
+        const QImage withHint = Named<InputCanvas>(m_page, "inputCanvas")->BackBuffer();
         QVERIFY(CountNot(withHint, qRgb(255, 255, 255)) > 0);
         DrawGlyphStroke(0);
-        QVERIFY(m_page->HintButton()->isEnabled());
+        QVERIFY(Named<QPushButton>(m_page, "hintButton")->isEnabled());
         // The marker sat at the first stroke's start, which the stroke now covers in black;
         // no marker-coloured pixel is left anywhere.
-        const QRgb marker = withHint.pixel(static_cast<int>(10 * m_page->Input()->ClientRect().width() / 109.0f),
-            static_cast<int>(30 * m_page->Input()->ClientRect().width() / 109.0f));
-        const QImage after = m_page->Input()->BackBuffer();
+        const QRgb marker = withHint.pixel(static_cast<int>(10 * Named<InputCanvas>(m_page, "inputCanvas")->ClientRect().width() / 109.0f),
+            static_cast<int>(30 * Named<InputCanvas>(m_page, "inputCanvas")->ClientRect().width() / 109.0f));
+        const QImage after = Named<InputCanvas>(m_page, "inputCanvas")->BackBuffer();
         int markerPixels = 0;
         for (int y = 0; y < after.height(); ++y)
             for (int x = 0; x < after.width(); ++x)
                 markerPixels += after.pixel(x, y) == marker;
         QCOMPARE(markerPixels, 0);
         // Undo after a hint also enables Hint again.
-        QTest::mouseClick(m_page->HintButton(), Qt::LeftButton);
-        QTest::mouseClick(m_page->UndoButton(), Qt::LeftButton);
-        QVERIFY(m_page->HintButton()->isEnabled());
-        QCOMPARE(m_page->Input()->StrokeCount(), 0);
+        QTest::mouseClick(Named<QPushButton>(m_page, "hintButton"), Qt::LeftButton);
+        QTest::mouseClick(Named<QPushButton>(m_page, "undoButton"), Qt::LeftButton);
+        QVERIFY(Named<QPushButton>(m_page, "hintButton")->isEnabled());
+        QCOMPARE(Named<InputCanvas>(m_page, "inputCanvas")->StrokeCount(), 0);
     }
 
     void oneCharacterLessonFinishesAtNext()
@@ -149,7 +150,7 @@ private slots:
         m_page->StartLesson({1});
         DrawGlyph();
         TickAll();
-        QTest::mouseClick(m_page->NextButton(), Qt::LeftButton);
+        QTest::mouseClick(Named<QPushButton>(m_page, "nextButton"), Qt::LeftButton);
         QCOMPARE(events.count(), 1);
         QCOMPARE(events[0][0].toInt(), int(LessonPage::Finished));
         QCOMPARE(m_page->DoneCodes(), std::vector<std::uint16_t>{1});
@@ -182,11 +183,11 @@ private slots:
     void clickingTheGlyphAnimatesIt()
     {
         m_page->StartLesson({1});
-        QVERIFY(CountNot(m_page->Display()->BackBuffer(), qRgb(255, 255, 255)) > 0);
-        QTest::mouseClick(m_page->Display(), Qt::LeftButton, Qt::NoModifier, m_page->Display()->rect().center());
-        QVERIFY(m_page->Display()->IsAnimating());
+        QVERIFY(CountNot(Named<DisplayCanvas>(m_page, "displayCanvas")->BackBuffer(), qRgb(255, 255, 255)) > 0);
+        QTest::mouseClick(Named<DisplayCanvas>(m_page, "displayCanvas"), Qt::LeftButton, Qt::NoModifier, Named<DisplayCanvas>(m_page, "displayCanvas")->rect().center());
+        QVERIFY(Named<DisplayCanvas>(m_page, "displayCanvas")->IsAnimating());
         m_page->hide();
-        QVERIFY(!m_page->Display()->IsAnimating());
+        QVERIFY(!Named<DisplayCanvas>(m_page, "displayCanvas")->IsAnimating());
     }
 
     void aLearnersLessonOnRealCharacters()
@@ -211,22 +212,22 @@ private slots:
         page.StartLesson(codes);
         for (std::size_t c = 0; c < codes.size(); ++c) {
             const Form& glyph = *page.Glyph();
-            const int side = page.Input()->ClientRect().width();
+            const int side = Named<InputCanvas>(&page, "inputCanvas")->ClientRect().width();
             for (std::uint16_t k = 0; k < glyph.StrokeCount(); ++k) {
-                QVERIFY(!page.NextButton()->isEnabled());
+                QVERIFY(!Named<QPushButton>(&page, "nextButton")->isEnabled());
                 // A wrong stroke first (the next stroke of the glyph, or this one backwards).
                 auto wrong = StrokeAsMouse(glyph, k, side);
                 std::reverse(wrong.begin(), wrong.end());
-                DrawInk(page.Input(), wrong);
-                QCOMPARE(page.Input()->StrokeCount(), int(k));
-                DrawInk(page.Input(), StrokeAsMouse(glyph, k, side));
-                QCOMPARE(page.Input()->StrokeCount(), int(k) + 1);
+                DrawInk(Named<InputCanvas>(&page, "inputCanvas"), wrong);
+                QCOMPARE(Named<InputCanvas>(&page, "inputCanvas")->StrokeCount(), int(k));
+                DrawInk(Named<InputCanvas>(&page, "inputCanvas"), StrokeAsMouse(glyph, k, side));
+                QCOMPARE(Named<InputCanvas>(&page, "inputCanvas")->StrokeCount(), int(k) + 1);
             }
-            QVERIFY(!page.NextButton()->isEnabled());
-            for (QCheckBox* box : {page.OnReadingBox(), page.KunReadingBox(), page.MeaningBox()})
+            QVERIFY(!Named<QPushButton>(&page, "nextButton")->isEnabled());
+            for (QCheckBox* box : {Named<QCheckBox>(&page, "onReading"), Named<QCheckBox>(&page, "kunReading"), Named<QCheckBox>(&page, "meaning")})
                 Tick(box);
-            QVERIFY(page.NextButton()->isEnabled());
-            QTest::mouseClick(page.NextButton(), Qt::LeftButton);
+            QVERIFY(Named<QPushButton>(&page, "nextButton")->isEnabled());
+            QTest::mouseClick(Named<QPushButton>(&page, "nextButton"), Qt::LeftButton);
         }
         QCOMPARE(events.count(), 1);
         QCOMPARE(events[0][0].toInt(), int(LessonPage::Finished));
@@ -241,18 +242,18 @@ private:
     }
     void DrawGlyphStroke(std::uint16_t k)
     {
-        DrawInk(m_page->Input(), StrokeAsMouse(*m_page->Glyph(), k, m_page->Input()->ClientRect().width()));
+        DrawInk(Named<InputCanvas>(m_page, "inputCanvas"), StrokeAsMouse(*m_page->Glyph(), k, Named<InputCanvas>(m_page, "inputCanvas")->ClientRect().width()));
     }
     void DrawGlyph()
     {
         for (std::uint16_t k = 0; k < m_page->Glyph()->StrokeCount(); ++k) {
             DrawGlyphStroke(k);
-            QCOMPARE(m_page->Input()->StrokeCount(), k + 1);
+            QCOMPARE(Named<InputCanvas>(m_page, "inputCanvas")->StrokeCount(), k + 1);
         }
     }
     void TickAll()
     {
-        for (QCheckBox* box : {m_page->OnReadingBox(), m_page->KunReadingBox(), m_page->MeaningBox()})
+        for (QCheckBox* box : {Named<QCheckBox>(m_page, "onReading"), Named<QCheckBox>(m_page, "kunReading"), Named<QCheckBox>(m_page, "meaning")})
             if (!box->isChecked())
                 Tick(box);
     }

@@ -1,3 +1,4 @@
+#include "Named.h"
 #include "DisplayCanvas.h"
 #include "DrawingTestPage.h"
 #include "InputCanvas.h"
@@ -35,7 +36,7 @@ int ChoiceIndex(const std::vector<std::string>& choices, const char* right, bool
 void DrawAll(DrawingTestPage& page)
 {
     for (std::uint16_t k = 0; k < page.Glyph()->StrokeCount(); ++k)
-        DrawInk(page.Input(), StrokeAsMouse(*page.Glyph(), k, page.Input()->ClientRect().width()));
+        DrawInk(Named<InputCanvas>(&page, "inputCanvas"), StrokeAsMouse(*page.Glyph(), k, Named<InputCanvas>(&page, "inputCanvas")->ClientRect().width()));
 }
 
 } // namespace
@@ -70,9 +71,9 @@ private slots:
         page.show();
         auto character = m_db->LoadCharacter(0);
         page.SetCharacter(character.get());
-        QCOMPARE(page.OnReadingLabel()->text(), QStringLiteral("?"));
-        QCOMPARE(page.KunReadingLabel()->text(), QStringLiteral("?"));
-        QCOMPARE(page.MeaningLabel()->text(), QStringLiteral("zero"));
+        QCOMPARE(Named<QLabel>(&page, "onReading")->text(), QStringLiteral("?"));
+        QCOMPARE(Named<QLabel>(&page, "kunReading")->text(), QStringLiteral("?"));
+        QCOMPARE(Named<QLabel>(&page, "meaning")->text(), QStringLiteral("zero"));
         const int right = ChoiceIndex(page.Choices().on, "", false);
         QVERIFY(right >= 0);
         QCOMPARE(page.OnButton(right)->text(), QStringLiteral("N/A"));
@@ -82,7 +83,7 @@ private slots:
             QVERIFY(page.KunButton(i)->isEnabled());
         }
         Pick(page.OnButton(right));
-        QCOMPARE(page.OnReadingLabel()->text(), QStringLiteral("N/A"));
+        QCOMPARE(Named<QLabel>(&page, "onReading")->text(), QStringLiteral("N/A"));
     }
 
     void rightAfterTwoWrongPicksIsAnAnswerWithMistakes()
@@ -97,12 +98,12 @@ private slots:
         const int right = ChoiceIndex(page.Choices().on, "ON5", false);
         Pick(page.OnButton(wrong1));
         QVERIFY(page.OnButton(wrong1)->isChecked());
-        QCOMPARE(page.OnReadingLabel()->text(), QStringLiteral("?"));
+        QCOMPARE(Named<QLabel>(&page, "onReading")->text(), QStringLiteral("?"));
         Pick(page.OnButton(wrong2));
         for (int i = 0; i < 5; ++i)
             QVERIFY(page.OnButton(i)->isEnabled());
         Pick(page.OnButton(right));
-        QCOMPARE(page.OnReadingLabel()->text(), QStringLiteral("ON5"));
+        QCOMPARE(Named<QLabel>(&page, "onReading")->text(), QStringLiteral("ON5"));
         for (int i = 0; i < 5; ++i)
             QCOMPARE(page.OnButton(i)->isEnabled(), i == right);
         QVERIFY(!page.Perfect());
@@ -124,7 +125,7 @@ private slots:
         auto character = m_db->LoadCharacter(4); // no KUN reading: its right choice is N/A
         page.SetCharacter(character.get());
         Pick(page.KunButton(ChoiceIndex(page.Choices().kun, nullptr, false)));
-        QCOMPARE(page.KunReadingLabel()->text(), QStringLiteral("N/A"));
+        QCOMPARE(Named<QLabel>(&page, "kunReading")->text(), QStringLiteral("N/A"));
         Pick(page.OnButton(ChoiceIndex(page.Choices().on, "ON4", false)));
         QCOMPARE(events.count(), 1);
         QCOMPARE(events[0][0].toInt(), int(QuestionPage::AnsweredCleanly));
@@ -132,7 +133,7 @@ private slots:
         page.SetCharacter(character.get());
         QVERIFY(!page.IsAnswered());
         QVERIFY(page.Perfect());
-        QCOMPARE(page.OnReadingLabel()->text(), QStringLiteral("?"));
+        QCOMPARE(Named<QLabel>(&page, "onReading")->text(), QStringLiteral("?"));
     }
 
     void drawingCompletedWithoutPeekingRevealsAndIsClean()
@@ -143,21 +144,21 @@ private slots:
         QSignalSpy events(&page, &QuestionPage::pageEvent);
         auto character = m_db->LoadCharacter(3);
         page.SetCharacter(character.get());
-        QCOMPARE(page.OnReadingLabel()->text(), QStringLiteral("ON3"));
-        QCOMPARE(CountNot(page.Display()->BackBuffer(), qRgb(255, 255, 255)), 0); // hidden glyph
+        QCOMPARE(Named<QLabel>(&page, "onReading")->text(), QStringLiteral("ON3"));
+        QCOMPARE(CountNot(Named<DisplayCanvas>(&page, "displayCanvas")->BackBuffer(), qRgb(255, 255, 255)), 0); // hidden glyph
         // Many rejected strokes cost nothing.
         for (int i = 0; i < 5; ++i)
-            DrawInk(page.Input(), {{5, 5}, {40, 200}});
-        QCOMPARE(page.Input()->StrokeCount(), 0);
+            DrawInk(Named<InputCanvas>(&page, "inputCanvas"), {{5, 5}, {40, 200}});
+        QCOMPARE(Named<InputCanvas>(&page, "inputCanvas")->StrokeCount(), 0);
         DrawAll(page);
         QCOMPARE(events.count(), 1);
         QCOMPARE(events[0][0].toInt(), int(QuestionPage::AnsweredCleanly));
         QVERIFY(page.Revealed());
-        QVERIFY(CountNot(page.Display()->BackBuffer(), qRgb(255, 255, 255)) > 0);
+        QVERIFY(CountNot(Named<DisplayCanvas>(&page, "displayCanvas")->BackBuffer(), qRgb(255, 255, 255)) > 0);
         // The input canvas stays enabled; an extra stroke is scored beyond the last stroke and wiped.
-        QVERIFY(page.Input()->isEnabled());
-        DrawInk(page.Input(), StrokeAsMouse(*page.Glyph(), 0, page.Input()->ClientRect().width()));
-        QCOMPARE(page.Input()->StrokeCount(), 2);
+        QVERIFY(Named<InputCanvas>(&page, "inputCanvas")->isEnabled());
+        DrawInk(Named<InputCanvas>(&page, "inputCanvas"), StrokeAsMouse(*page.Glyph(), 0, Named<InputCanvas>(&page, "inputCanvas")->ClientRect().width()));
+        QCOMPARE(Named<InputCanvas>(&page, "inputCanvas")->StrokeCount(), 2);
         QCOMPARE(events.count(), 1);
     }
 
@@ -169,16 +170,16 @@ private slots:
         QSignalSpy events(&page, &QuestionPage::pageEvent);
         auto character = m_db->LoadCharacter(2);
         page.SetCharacter(character.get());
-        DrawInk(page.Input(), StrokeAsMouse(*page.Glyph(), 0, page.Input()->ClientRect().width()));
-        QTest::mouseClick(page.Display(), Qt::LeftButton, Qt::NoModifier, page.Display()->rect().center());
+        DrawInk(Named<InputCanvas>(&page, "inputCanvas"), StrokeAsMouse(*page.Glyph(), 0, Named<InputCanvas>(&page, "inputCanvas")->ClientRect().width()));
+        QTest::mouseClick(Named<DisplayCanvas>(&page, "displayCanvas"), Qt::LeftButton, Qt::NoModifier, Named<DisplayCanvas>(&page, "displayCanvas")->rect().center());
         QVERIFY(page.Revealed());
         QVERIFY(page.Peeked());
-        QVERIFY(!page.Display()->IsAnimating());
-        QTest::mouseClick(page.Display(), Qt::LeftButton, Qt::NoModifier, page.Display()->rect().center());
-        QVERIFY(page.Display()->IsAnimating());
+        QVERIFY(!Named<DisplayCanvas>(&page, "displayCanvas")->IsAnimating());
+        QTest::mouseClick(Named<DisplayCanvas>(&page, "displayCanvas"), Qt::LeftButton, Qt::NoModifier, Named<DisplayCanvas>(&page, "displayCanvas")->rect().center());
+        QVERIFY(Named<DisplayCanvas>(&page, "displayCanvas")->IsAnimating());
         QVERIFY(page.Peeked());
         QCOMPARE(events.count(), 0);
-        DrawInk(page.Input(), StrokeAsMouse(*page.Glyph(), 1, page.Input()->ClientRect().width()));
+        DrawInk(Named<InputCanvas>(&page, "inputCanvas"), StrokeAsMouse(*page.Glyph(), 1, Named<InputCanvas>(&page, "inputCanvas")->ClientRect().width()));
         QCOMPARE(events.count(), 1);
         QCOMPARE(events[0][0].toInt(), int(QuestionPage::AnsweredWithMistakes));
     }
@@ -190,8 +191,8 @@ private slots:
         QSignalSpy events(&test, &TestContainer::pageEvent);
         test.StartTest({});
         QCOMPARE(test.ShownPage(), nullptr);
-        QVERIFY(!test.NextButton()->isEnabled());
-        QCOMPARE(test.DefaultButton(), test.AbortButton());
+        QVERIFY(!Named<QPushButton>(&test, "nextButton")->isEnabled());
+        QCOMPARE(test.DefaultButton(), Named<QPushButton>(&test, "abortButton"));
         QTest::keyClick(&test, Qt::Key_Escape);
         QCOMPARE(events.count(), 1);
         QCOMPARE(events[0][0].toInt(), int(TestContainer::Aborted));
@@ -226,9 +227,9 @@ private slots:
                 asked.emplace_back(code, 1);
                 DrawAll(*test.DrawingPage());
             }
-            QVERIFY(test.NextButton()->isEnabled());
-            QCOMPARE(test.DefaultButton(), test.NextButton());
-            QTest::mouseClick(test.NextButton(), Qt::LeftButton);
+            QVERIFY(Named<QPushButton>(&test, "nextButton")->isEnabled());
+            QCOMPARE(test.DefaultButton(), Named<QPushButton>(&test, "nextButton"));
+            QTest::mouseClick(Named<QPushButton>(&test, "nextButton"), Qt::LeftButton);
         }
         QCOMPARE(events.count(), 1);
         QCOMPARE(events[0][0].toInt(), int(TestContainer::Finished));

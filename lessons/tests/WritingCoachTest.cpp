@@ -2,6 +2,7 @@
 // events: what the learner reads and hears after a refused stroke, what the canvas shows, and
 // that with every aid off the pages are as they always were.
 
+#include "Named.h"
 #include "DrawingTestPage.h"
 #include "FeedbackLine.h"
 #include "InputCanvas.h"
@@ -111,19 +112,19 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(m_lesson.get()));
         m_lesson->StartLesson({0});
         g_events.clear();
-        g_watched = m_lesson->Feedback();
+        g_watched = Named<FeedbackLine>(m_lesson, "strokeFeedback");
     }
     void cleanup() { m_lesson.reset(); }
 
     void aRefusedStrokeIsExplainedAndAnnounced()
     {
-        FeedbackLine* line = m_lesson->Feedback();
+        FeedbackLine* line = Named<FeedbackLine>(m_lesson, "strokeFeedback");
         QSignalSpy announced(line, &FeedbackLine::announced);
         QCOMPARE(line->accessibleName(), QStringLiteral("Stroke feedback"));
         QVERIFY(line->isVisible());
         // The second stroke first.
-        DrawInk(m_lesson->Input(), Stroke(1));
-        QCOMPARE(m_lesson->Input()->StrokeCount(), 0);
+        DrawInk(Named<InputCanvas>(m_lesson, "inputCanvas"), Stroke(1));
+        QCOMPARE(Named<InputCanvas>(m_lesson, "inputCanvas")->StrokeCount(), 0);
         QCOMPARE(line->text(), QStringLiteral("Wrong order: that is stroke 2. Write stroke 1 first."));
         // What a screen reader reads: the name, and the message as the description.
         QAccessibleInterface* face = QAccessible::queryAccessibleInterface(line);
@@ -138,26 +139,26 @@ private slots:
             QVERIFY(g_events.contains(QAccessible::Alert));
         }
         // It never covers the canvas.
-        QVERIFY(!line->geometry().intersects(m_lesson->Input()->geometry()));
+        QVERIFY(!line->geometry().intersects(Named<InputCanvas>(m_lesson, "inputCanvas")->geometry()));
         // The next stroke starting empties it; the right stroke is kept.
-        DrawInk(m_lesson->Input(), Stroke(0));
+        DrawInk(Named<InputCanvas>(m_lesson, "inputCanvas"), Stroke(0));
         QCOMPARE(line->text(), QString());
         QCOMPARE(line->accessibleDescription(), QString());
-        QCOMPARE(m_lesson->Input()->StrokeCount(), 1);
+        QCOMPARE(Named<InputCanvas>(m_lesson, "inputCanvas")->StrokeCount(), 1);
         // Backwards.
         std::vector<Point> reversed = Stroke(1);
         std::reverse(reversed.begin(), reversed.end());
-        DrawInk(m_lesson->Input(), reversed);
+        DrawInk(Named<InputCanvas>(m_lesson, "inputCanvas"), reversed);
         QCOMPARE(line->text(), QStringLiteral("Wrong direction: start this stroke from the other end."));
     }
 
     void aMisplacedStrokeShowsTheWayThenFades()
     {
-        InputCanvas* canvas = m_lesson->Input();
+        InputCanvas* canvas = Named<InputCanvas>(m_lesson, "inputCanvas");
         const QColor mark = canvas->palette().color(QPalette::Highlight);
         QCOMPARE(CountNear(canvas->grab().toImage(), mark, 30), 0);
         DrawInk(canvas, Shifted(Stroke(0), 0, 80));
-        QCOMPARE(m_lesson->Feedback()->text(), QStringLiteral("Wrong place: this stroke belongs further up."));
+        QCOMPARE(Named<FeedbackLine>(m_lesson, "strokeFeedback")->text(), QStringLiteral("Wrong place: this stroke belongs further up."));
         QVERIFY(canvas->RefusalShown());
         QVERIFY(canvas->isEnabled()); // the next stroke may start at once
         QVERIFY(CountNear(canvas->grab().toImage(), mark, 30) > 40); // the arrow
@@ -167,7 +168,7 @@ private slots:
 
     void guideLinesNeverReachTheInkOrTheChecker()
     {
-        InputCanvas* canvas = m_lesson->Input();
+        InputCanvas* canvas = Named<InputCanvas>(m_lesson, "inputCanvas");
         QVERIFY(canvas->GuideLines());
         const QColor paper = canvas->BackBuffer().pixelColor(0, 0);
         QCOMPARE(CountNot(canvas->BackBuffer(), paper.rgb()), 0); // not in the buffer
@@ -190,17 +191,17 @@ private slots:
 
     void threeMissesShowTheStartInALesson()
     {
-        QVERIFY(m_lesson->HintButton()->isEnabled());
+        QVERIFY(Named<QPushButton>(m_lesson, "hintButton")->isEnabled());
         for (int miss = 0; miss < 2; ++miss)
-            DrawInk(m_lesson->Input(), Shifted(Stroke(0), 0, 80));
-        QVERIFY(m_lesson->HintButton()->isEnabled());
-        const QImage before = m_lesson->Input()->BackBuffer();
-        DrawInk(m_lesson->Input(), Shifted(Stroke(0), 0, 80));
-        QVERIFY(!m_lesson->HintButton()->isEnabled()); // as if Hint had been pressed
-        QVERIFY(m_lesson->Input()->BackBuffer() != before); // the start mark
+            DrawInk(Named<InputCanvas>(m_lesson, "inputCanvas"), Shifted(Stroke(0), 0, 80));
+        QVERIFY(Named<QPushButton>(m_lesson, "hintButton")->isEnabled());
+        const QImage before = Named<InputCanvas>(m_lesson, "inputCanvas")->BackBuffer();
+        DrawInk(Named<InputCanvas>(m_lesson, "inputCanvas"), Shifted(Stroke(0), 0, 80));
+        QVERIFY(!Named<QPushButton>(m_lesson, "hintButton")->isEnabled()); // as if Hint had been pressed
+        QVERIFY(Named<InputCanvas>(m_lesson, "inputCanvas")->BackBuffer() != before); // the start mark
         // Kept, the hint is spent and the count starts again for the next stroke.
-        DrawInk(m_lesson->Input(), Stroke(0));
-        QVERIFY(m_lesson->HintButton()->isEnabled());
+        DrawInk(Named<InputCanvas>(m_lesson, "inputCanvas"), Stroke(0));
+        QVERIFY(Named<QPushButton>(m_lesson, "hintButton")->isEnabled());
     }
 
     void theDrawingTestGivesNothingAway()
@@ -210,29 +211,29 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(&test));
         const auto character = m_db->LoadCharacter(0);
         test.SetCharacter(character.get());
-        const QColor mark = test.Input()->palette().color(QPalette::Highlight);
+        const QColor mark = Named<InputCanvas>(&test, "inputCanvas")->palette().color(QPalette::Highlight);
         for (int miss = 0; miss < 3; ++miss)
-            DrawInk(test.Input(), Shifted(Stroke(0), 0, 80));
-        QCOMPARE(test.Feedback()->text(), QStringLiteral("Wrong place."));
-        QCOMPARE(CountNear(test.Input()->grab().toImage(), mark, 30), 0); // no arrow
-        QCOMPARE(CountNot(test.Input()->BackBuffer(), test.Input()->BackBuffer().pixel(0, 0)), 0); // no start mark
+            DrawInk(Named<InputCanvas>(&test, "inputCanvas"), Shifted(Stroke(0), 0, 80));
+        QCOMPARE(Named<FeedbackLine>(&test, "strokeFeedback")->text(), QStringLiteral("Wrong place."));
+        QCOMPARE(CountNear(Named<InputCanvas>(&test, "inputCanvas")->grab().toImage(), mark, 30), 0); // no arrow
+        QCOMPARE(CountNot(Named<InputCanvas>(&test, "inputCanvas")->BackBuffer(), Named<InputCanvas>(&test, "inputCanvas")->BackBuffer().pixel(0, 0)), 0); // no start mark
         QVERIFY(!test.Revealed());
-        DrawInk(test.Input(), Stroke(1));
-        QCOMPARE(test.Feedback()->text(), QStringLiteral("Wrong order: that is stroke 2. Write stroke 1 first."));
+        DrawInk(Named<InputCanvas>(&test, "inputCanvas"), Stroke(1));
+        QCOMPARE(Named<FeedbackLine>(&test, "strokeFeedback")->text(), QStringLiteral("Wrong order: that is stroke 2. Write stroke 1 first."));
     }
 
     void withEveryAidOffTheLessonIsAsItWas()
     {
         m_lesson->SetCoaching(CoachingPreferences::AllOff());
-        QVERIFY(!m_lesson->Feedback()->isVisible());
-        QVERIFY(!m_lesson->Input()->GuideLines());
+        QVERIFY(!Named<FeedbackLine>(m_lesson, "strokeFeedback")->isVisible());
+        QVERIFY(!Named<InputCanvas>(m_lesson, "inputCanvas")->GuideLines());
         for (int miss = 0; miss < 4; ++miss)
-            DrawInk(m_lesson->Input(), Shifted(Stroke(0), 0, 80));
-        QVERIFY(!m_lesson->Input()->RefusalShown()); // the refused stroke simply vanishes
-        QVERIFY(m_lesson->HintButton()->isEnabled()); // no hint after misses
-        QCOMPARE(m_lesson->Feedback()->text(), QString());
-        const QColor paper = m_lesson->Input()->BackBuffer().pixelColor(0, 0);
-        const QImage shown = m_lesson->Input()->grab().toImage().copy(m_lesson->Input()->contentsRect());
+            DrawInk(Named<InputCanvas>(m_lesson, "inputCanvas"), Shifted(Stroke(0), 0, 80));
+        QVERIFY(!Named<InputCanvas>(m_lesson, "inputCanvas")->RefusalShown()); // the refused stroke simply vanishes
+        QVERIFY(Named<QPushButton>(m_lesson, "hintButton")->isEnabled()); // no hint after misses
+        QCOMPARE(Named<FeedbackLine>(m_lesson, "strokeFeedback")->text(), QString());
+        const QColor paper = Named<InputCanvas>(m_lesson, "inputCanvas")->BackBuffer().pixelColor(0, 0);
+        const QImage shown = Named<InputCanvas>(m_lesson, "inputCanvas")->grab().toImage().copy(Named<InputCanvas>(m_lesson, "inputCanvas")->contentsRect());
         QCOMPARE(CountNot(shown, paper.rgb()), 0);
     }
 
@@ -241,7 +242,7 @@ private slots:
         QPointingDevice stylus(QStringLiteral("test stylus"), 42, QInputDevice::DeviceType::Stylus,
             QPointingDevice::PointerType::Pen, QInputDevice::Capability::Position | QInputDevice::Capability::Pressure,
             1, 3);
-        InputCanvas* canvas = m_lesson->Input();
+        InputCanvas* canvas = Named<InputCanvas>(m_lesson, "inputCanvas");
         QSignalSpy ended(canvas, &InputCanvas::strokeEnded);
         auto pen = [&](QEvent::Type type, const Point& p, qreal pressure) {
             const QPointF at = QPointF(p.x, p.y) + canvas->contentsRect().topLeft();
@@ -275,7 +276,7 @@ private slots:
     {
         const std::unique_ptr<QPointingDevice> device(QTest::createTouchDevice()); // ours to delete
         QPointingDevice* screen = device.get();
-        InputCanvas* canvas = m_lesson->Input();
+        InputCanvas* canvas = Named<InputCanvas>(m_lesson, "inputCanvas");
         QSignalSpy ended(canvas, &InputCanvas::strokeEnded);
         auto at = [&](const Point& p) {
             return QPoint(static_cast<int>(p.x), static_cast<int>(p.y)) + canvas->contentsRect().topLeft();
@@ -289,13 +290,13 @@ private slots:
         }
         QCOMPARE(ended.count(), 2); // one stroke each, never doubled by mouse events made of the touches
         QCOMPARE(canvas->StrokeCount(), 2);
-        QVERIFY(m_lesson->Feedback()->text().isEmpty());
+        QVERIFY(Named<FeedbackLine>(m_lesson, "strokeFeedback")->text().isEmpty());
     }
 
 private:
     std::vector<Point> Stroke(std::uint16_t k) const
     {
-        return StrokeAsMouse(*m_lesson->Glyph(), k, m_lesson->Input()->ClientRect().width());
+        return StrokeAsMouse(*m_lesson->Glyph(), k, Named<InputCanvas>(m_lesson, "inputCanvas")->ClientRect().width());
     }
 
     SmallDatabase m_small;

@@ -7,6 +7,7 @@
 // render_all.sh beside this file renders every page at ratios 1 and 2, light and dark; with
 // LANGUAGE=fr (or another language) set, in that language.
 
+#include "Named.h"
 #include "AboutDialog.h"
 #include "CategoryPage.h"
 #include "DrawingTestPage.h"
@@ -143,8 +144,8 @@ int main(int argc, char** argv)
     LessonPage lesson(db, prompt);
     lesson.StartLesson({grade1[0]});
     ok &= Save(lesson, out, QStringLiteral("lesson-empty"));
-    Write(lesson.Input(), *lesson.Glyph(), 0, 0);
-    Write(lesson.Input(), *lesson.Glyph(), 1, 45);
+    Write(Named<InputCanvas>(&lesson, "inputCanvas"), *lesson.Glyph(), 0, 0);
+    Write(Named<InputCanvas>(&lesson, "inputCanvas"), *lesson.Glyph(), 1, 45);
     ok &= Save(lesson, out, QStringLiteral("lesson-refused"));
 
     // The texts that test the pages' room: the longest KUN reading (the right answer is among the
@@ -166,7 +167,7 @@ int main(int argc, char** argv)
     DrawingTestPage drawing(db, prompt);
     const auto character = db.LoadCharacter(longestMeaning);
     drawing.SetCharacter(character.get());
-    Write(drawing.Input(), *drawing.Glyph(), 0, 45);
+    Write(Named<InputCanvas>(&drawing, "inputCanvas"), *drawing.Glyph(), 0, 45);
     ok &= Save(drawing, out, QStringLiteral("drawing-test"));
 
     KanjiInfoDialog info(db, prompt);

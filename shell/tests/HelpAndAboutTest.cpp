@@ -1,3 +1,4 @@
+#include "Named.h"
 #include "AboutDialog.h"
 #include "HelpActions.h"
 #include "HyperlinkLabel.h"
@@ -113,7 +114,7 @@ private slots:
         AboutDialog another(m_urls.Opener(), &owner);
         QVERIFY(!another.SiteLink()->Visited());
         QCOMPARE(another.SiteLink()->CurrentColour(), QColor(0, 0, 255));
-        QTest::mouseClick(about.OkButton(), Qt::LeftButton);
+        QTest::mouseClick(Named<QPushButton>(&about, "okButton"), Qt::LeftButton);
         QCOMPARE(about.result(), 1);
     }
 

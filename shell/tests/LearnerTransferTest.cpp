@@ -1,6 +1,7 @@
 // Export and import of one learner: the file written and read back, the questions asked when
 // the imported name is taken, and the refusals that change nothing.
 
+#include "Named.h"
 #include "AddUserDialog.h"
 #include "LearnerTransfer.h"
 #include "ModalAnswerer.h"
@@ -92,9 +93,9 @@ private slots:
         QStringList offered;
         int round = 0;
         ModalAnswerer<AddUserDialog> rename([&](AddUserDialog& dialog) {
-            offered << dialog.NameEdit()->text();
-            dialog.NameEdit()->setText(round++ == 0 ? QStringLiteral("Ben") : QStringLiteral("Anna 2"));
-            QTest::mouseClick(dialog.OkButton(), Qt::LeftButton);
+            offered << Named<QLineEdit>(&dialog, "nameEdit")->text();
+            Named<QLineEdit>(&dialog, "nameEdit")->setText(round++ == 0 ? QStringLiteral("Ben") : QStringLiteral("Anna 2"));
+            QTest::mouseClick(Named<QPushButton>(&dialog, "okButton"), Qt::LeftButton);
         });
         QVERIFY(transfer.Import(Exported(), "Ben").imported);
         QCOMPARE(offered, (QStringList{QStringLiteral("Anna"), QStringLiteral("Ben")}));

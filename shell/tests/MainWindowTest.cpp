@@ -1,3 +1,4 @@
+#include "Named.h"
 #include "MainWindow.h"
 #include "AddUserDialog.h"
 #include "CategoryPage.h"
@@ -88,20 +89,20 @@ void AnswerTestRight(MainWindow& window)
                     ClickRadio(page->KunButton(i));
             }
         } else {
-            WriteAll(test->DrawingPage()->Input(), *test->DrawingPage()->Glyph());
+            WriteAll(Named<InputCanvas>(test->DrawingPage(), "inputCanvas"), *test->DrawingPage()->Glyph());
         }
-        QVERIFY(test->NextButton()->isEnabled());
-        QTest::mouseClick(test->NextButton(), Qt::LeftButton);
+        QVERIFY(Named<QPushButton>(test, "nextButton")->isEnabled());
+        QTest::mouseClick(Named<QPushButton>(test, "nextButton"), Qt::LeftButton);
     }
 }
 
 void OpenCategory(MainWindow& window, int row)
 {
     HomePage* home = ChildOf<HomePage>(window);
-    QTreeWidget* list = home->CategoryList();
+    QTreeWidget* list = Named<QTreeWidget>(home, "categoryList");
     const QRect r = list->visualItemRect(list->topLevelItem(row));
     QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, r.center());
-    QTest::mouseClick(home->OpenButton(), Qt::LeftButton);
+    QTest::mouseClick(Named<QPushButton>(home, "openButton"), Qt::LeftButton);
 }
 
 /// Sorted, for comparing lists whose order is another's.
@@ -140,12 +141,12 @@ private slots:
         {
             // An empty learner file: the User Manager opens; add Anna and open her.
             ModalAnswerer<AddUserDialog> add([](AddUserDialog& dialog) {
-                dialog.NameEdit()->setText(QStringLiteral("Anna"));
-                QTest::mouseClick(dialog.OkButton(), Qt::LeftButton);
+                Named<QLineEdit>(&dialog, "nameEdit")->setText(QStringLiteral("Anna"));
+                QTest::mouseClick(Named<QPushButton>(&dialog, "okButton"), Qt::LeftButton);
             });
             ModalAnswerer<UserManagerDialog> manager([](UserManagerDialog& dialog) {
-                QTest::mouseClick(dialog.AddButton(), Qt::LeftButton);
-                QTest::mouseClick(dialog.OpenButton(), Qt::LeftButton);
+                QTest::mouseClick(Named<QPushButton>(&dialog, "addButton"), Qt::LeftButton);
+                QTest::mouseClick(Named<QPushButton>(&dialog, "openButton"), Qt::LeftButton);
             });
             QVERIFY(f.Start());
             QCOMPARE(manager.Shown(), 1);
@@ -157,7 +158,7 @@ private slots:
         CategoryPage* category = ChildOf<CategoryPage>(window);
         LessonPage* lesson = ChildOf<LessonPage>(window);
         QCOMPARE(ShownPage(window), home);
-        QCOMPARE(home->UserNameLabel()->text(), QStringLiteral("Anna"));
+        QCOMPARE(Named<QLabel>(home, "userName")->text(), QStringLiteral("Anna"));
         // The window is the page plus the menu bar.
         QCOMPARE(window.width(), home->width());
         QCOMPARE(window.height(), home->height() + window.menuBar()->sizeHint().height());
@@ -165,29 +166,29 @@ private slots:
         OpenCategory(window, 0);
         QCOMPARE(ShownPage(window), category);
         // A lesson: every stroke of each character, the three boxes, Next.
-        QTest::mouseClick(category->LessonButton(), Qt::LeftButton);
+        QTest::mouseClick(Named<QPushButton>(category, "lessonButton"), Qt::LeftButton);
         QCOMPARE(ShownPage(window), lesson);
         for (int c = 0; c < 5; ++c) {
-            WriteAll(lesson->Input(), *lesson->Glyph());
-            for (QCheckBox* box : {lesson->OnReadingBox(), lesson->KunReadingBox(), lesson->MeaningBox()})
+            WriteAll(Named<InputCanvas>(lesson, "inputCanvas"), *lesson->Glyph());
+            for (QCheckBox* box : {Named<QCheckBox>(lesson, "onReading"), Named<QCheckBox>(lesson, "kunReading"), Named<QCheckBox>(lesson, "meaning")})
                 Tick(box);
-            QVERIFY(lesson->NextButton()->isEnabled());
-            QTest::mouseClick(lesson->NextButton(), Qt::LeftButton);
+            QVERIFY(Named<QPushButton>(lesson, "nextButton")->isEnabled());
+            QTest::mouseClick(Named<QPushButton>(lesson, "nextButton"), Qt::LeftButton);
         }
         QCOMPARE(ShownPage(window), category);
         // The first five of Grade 1, now in the strip of untested characters.
         const Codes grade1 = StandardDatabase().LoadCategory(0)->Characters();
         taught = Codes(grade1.begin(), grade1.begin() + 5);
-        QCOMPARE(category->Strip()->Groups()[0].codes, taught);
+        QCOMPARE(Named<CharacterGrid>(category, "untestedStrip")->Groups()[0].codes, taught);
 
         // A test answered right throughout: the five are learned, the strip is empty.
-        QTest::mouseClick(category->TestButton(), Qt::LeftButton);
+        QTest::mouseClick(Named<QPushButton>(category, "testButton"), Qt::LeftButton);
         QCOMPARE(ShownPage(window), ChildOf<TestContainer>(window));
         AnswerTestRight(window);
         QCOMPARE(ShownPage(window), category);
-        QCOMPARE(Sorted(category->Grid()->Groups()[0].codes), Sorted(taught));
-        QVERIFY(category->Strip()->Groups()[0].codes.empty());
-        QTest::mouseClick(category->BackButton(), Qt::LeftButton);
+        QCOMPARE(Sorted(Named<CharacterGrid>(category, "characterGrid")->Groups()[0].codes), Sorted(taught));
+        QVERIFY(Named<CharacterGrid>(category, "untestedStrip")->Groups()[0].codes.empty());
+        QTest::mouseClick(Named<QPushButton>(category, "backButton"), Qt::LeftButton);
         QCOMPARE(ShownPage(window), home);
         f.Close();
 
@@ -226,10 +227,10 @@ private slots:
         // Started again: Anna opens directly and the home page shows her progress.
         f.Restart();
         ModalAnswerer<UserManagerDialog> manager(
-            [](UserManagerDialog& dialog) { QTest::mouseClick(dialog.CloseButton(), Qt::LeftButton); });
+            [](UserManagerDialog& dialog) { QTest::mouseClick(Named<QPushButton>(&dialog, "closeButton"), Qt::LeftButton); });
         QVERIFY(f.Start());
         QCOMPARE(manager.Shown(), 0);
-        QCOMPARE(ChildOf<HomePage>(f.Window())->CategoryList()->topLevelItem(0)->text(0),
+        QCOMPARE(Named<QTreeWidget>(ChildOf<HomePage>(f.Window()), "categoryList")->topLevelItem(0)->text(0),
             QStringLiteral("Grade 1 (5 of %1)").arg(grade1Size));
         // Tools > Progress…: five characters learned today.
         QAction* progressAction = ActionOf(f.Window(), "progressAction");
@@ -250,14 +251,14 @@ private slots:
     {
         WindowFixture f(R"(<Z><Users><User name="Solo"/></Users></Z>)");
         QVERIFY(f.Start());
-        QCOMPARE(ChildOf<HomePage>(f.Window())->UserNameLabel()->text(), QStringLiteral("Solo"));
+        QCOMPARE(Named<QLabel>(ChildOf<HomePage>(f.Window()), "userName")->text(), QStringLiteral("Solo"));
     }
 
     void cancellingTheManagerAtStartEndsTheProgram()
     {
         WindowFixture f(R"(<Z><Users><User name="A"/><User name="B"/></Users></Z>)");
         ModalAnswerer<UserManagerDialog> manager(
-            [](UserManagerDialog& dialog) { QTest::mouseClick(dialog.CloseButton(), Qt::LeftButton); });
+            [](UserManagerDialog& dialog) { QTest::mouseClick(Named<QPushButton>(&dialog, "closeButton"), Qt::LeftButton); });
         QVERIFY(!f.Window().ChooseLearnerAtStart());
         QCOMPARE(manager.Shown(), 1);
         QVERIFY(!f.Window().isVisible());
@@ -283,15 +284,15 @@ private slots:
         auto* test = ChildOf<TestContainer>(f.Window());
         if (untested == 0) {
             // Nothing to test: the button is off, and the page stays.
-            QVERIFY(!category->TestButton()->isEnabled());
-            QTest::mouseClick(category->TestButton(), Qt::LeftButton);
+            QVERIFY(!Named<QPushButton>(category, "testButton")->isEnabled());
+            QTest::mouseClick(Named<QPushButton>(category, "testButton"), Qt::LeftButton);
             QCOMPARE(ShownPage(f.Window()), category);
             return;
         }
-        QTest::mouseClick(category->TestButton(), Qt::LeftButton);
+        QTest::mouseClick(Named<QPushButton>(category, "testButton"), Qt::LeftButton);
         QCOMPARE(ShownPage(f.Window()), test);
         QCOMPARE(test->Schedule().Codes(), Codes(grade1.begin(), grade1.begin() + tested));
-        QTest::mouseClick(test->AbortButton(), Qt::LeftButton);
+        QTest::mouseClick(Named<QPushButton>(test, "abortButton"), Qt::LeftButton);
         QCOMPARE(ShownPage(f.Window()), category);
     }
 
@@ -304,16 +305,16 @@ private slots:
         auto* category = ChildOf<CategoryPage>(f.Window());
         auto* lesson = ChildOf<LessonPage>(f.Window());
         // Learn from the grid's context menu on a character to be learned.
-        CharacterGrid* grid = category->Grid();
+        CharacterGrid* grid = Named<CharacterGrid>(category, "characterGrid");
         QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, grid->CellRect(20).center());
         QCOMPARE(grid->SelectedCodes(), Codes{grade1[20]});
-        category->UnlearnedMenu()->actions().value(1)->trigger(); // Info, Learn
+        Named<QMenu>(category, "unlearnedMenu")->actions().value(1)->trigger(); // Info, Learn
         QCOMPARE(ShownPage(f.Window()), lesson);
         QCOMPARE(lesson->Glyph()->StrokeCount(), StandardDatabase().LoadElement(
             StandardDatabase().LoadCharacter(grade1[20])->ElementId())->GetForm(0).StrokeCount());
-        QTest::mouseClick(lesson->AbortButton(), Qt::LeftButton);
+        QTest::mouseClick(Named<QPushButton>(lesson, "abortButton"), Qt::LeftButton);
         QCOMPARE(ShownPage(f.Window()), category);
-        QCOMPARE(category->Strip()->Groups()[0].codes, (Codes{grade1[0], grade1[1]}));
+        QCOMPARE(Named<CharacterGrid>(category, "untestedStrip")->Groups()[0].codes, (Codes{grade1[0], grade1[1]}));
         f.Close();
         const auto saved = f.Saved("A");
         QCOMPARE(saved->GetProgress(0).Untested(), (Codes{grade1[0], grade1[1]}));
@@ -328,7 +329,7 @@ private slots:
         QVERIFY(f.Start());
         MainWindow& window = f.Window();
         OpenCategory(window, 0);
-        QTest::mouseClick(ChildOf<CategoryPage>(window)->TestButton(), Qt::LeftButton);
+        QTest::mouseClick(Named<QPushButton>(ChildOf<CategoryPage>(window), "testButton"), Qt::LeftButton);
         // Two wrong ON picks on the reading question fail the character.
         TestContainer* test = ChildOf<TestContainer>(window);
         QCOMPARE(test->ShownPage(), static_cast<QuestionPage*>(test->ReadingPage()));
@@ -348,16 +349,16 @@ private slots:
                     == (character->KunReading() ? character->KunReading() : ""))
                     ClickRadio(page->KunButton(i));
             }
-            QTest::mouseClick(test->NextButton(), Qt::LeftButton);
+            QTest::mouseClick(Named<QPushButton>(test, "nextButton"), Qt::LeftButton);
         };
         answerWithMistake();
         // Drawing next, answered right; then the reading again, missed again.
-        WriteAll(test->DrawingPage()->Input(), *test->DrawingPage()->Glyph());
-        QTest::mouseClick(test->NextButton(), Qt::LeftButton);
+        WriteAll(Named<InputCanvas>(test->DrawingPage(), "inputCanvas"), *test->DrawingPage()->Glyph());
+        QTest::mouseClick(Named<QPushButton>(test, "nextButton"), Qt::LeftButton);
         answerWithMistake();
         QCOMPARE(test->FailedCodes(), Codes{}); // the drawing is still open
         // The drawing answered right a second time decides it; Next is not pressed.
-        WriteAll(test->DrawingPage()->Input(), *test->DrawingPage()->Glyph());
+        WriteAll(Named<InputCanvas>(test->DrawingPage(), "inputCanvas"), *test->DrawingPage()->Glyph());
         QCOMPARE(test->FailedCodes(), Codes{grade1[0]});
         QCOMPARE(ShownPage(window), test);
         f.Close(); // in the middle of the test
@@ -378,18 +379,18 @@ private slots:
         bool hiddenDuring = false, progressOffDuring = false;
         ModalAnswerer<UserManagerDialog> managerAnswer([&](UserManagerDialog& manager) {
             QCOMPARE(manager.SelectedUserName(), std::string("A"));
-            QTest::mouseClick(manager.DeleteButton(), Qt::LeftButton);
+            QTest::mouseClick(Named<QPushButton>(&manager, "deleteButton"), Qt::LeftButton);
             hiddenDuring = !window.isVisible();
             progressOffDuring = !progress->isEnabled();
-            QCOMPARE(ChildOf<HomePage>(window)->UserNameLabel()->text(), QStringLiteral("N/A"));
+            QCOMPARE(Named<QLabel>(ChildOf<HomePage>(window), "userName")->text(), QStringLiteral("N/A"));
             QCOMPARE(manager.SelectedUserName(), std::string("B"));
-            QTest::mouseClick(manager.OpenButton(), Qt::LeftButton);
+            QTest::mouseClick(Named<QPushButton>(&manager, "openButton"), Qt::LeftButton);
         });
         ActionOf(window, "usersAction")->trigger();
         QVERIFY(hiddenDuring);
         QVERIFY(progressOffDuring); // nothing that needs a learner while there is none
         QVERIFY(window.isVisible());
-        QCOMPARE(ChildOf<HomePage>(window)->UserNameLabel()->text(), QStringLiteral("B"));
+        QCOMPARE(Named<QLabel>(ChildOf<HomePage>(window), "userName")->text(), QStringLiteral("B"));
         QCOMPARE(ShownPage(window), ChildOf<HomePage>(window));
         QVERIFY(progress->isEnabled());
     }
@@ -500,13 +501,13 @@ private slots:
         QWhatsThis::leaveWhatsThisMode();
         // The ignored keys never reach a page: Ctrl+Z does not undo a stroke.
         OpenCategory(window, 0);
-        QTest::mouseClick(ChildOf<CategoryPage>(window)->LessonButton(), Qt::LeftButton);
+        QTest::mouseClick(Named<QPushButton>(ChildOf<CategoryPage>(window), "lessonButton"), Qt::LeftButton);
         LessonPage* lesson = ChildOf<LessonPage>(window);
-        DrawInk(lesson->Input(), StrokeAsMouse(*lesson->Glyph(), 0, lesson->Input()->ClientRect().width()));
-        QCOMPARE(lesson->Input()->StrokeCount(), 1);
+        DrawInk(Named<InputCanvas>(lesson, "inputCanvas"), StrokeAsMouse(*lesson->Glyph(), 0, Named<InputCanvas>(lesson, "inputCanvas")->ClientRect().width()));
+        QCOMPARE(Named<InputCanvas>(lesson, "inputCanvas")->StrokeCount(), 1);
         QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
         QTest::keyClick(&window, Qt::Key_F6);
-        QCOMPARE(lesson->Input()->StrokeCount(), 1);
+        QCOMPARE(Named<InputCanvas>(lesson, "inputCanvas")->StrokeCount(), 1);
         QCOMPARE(ShownPage(window), lesson);
         // Exit closes and saves.
         ActionOf(window, "exitAction")->trigger();
@@ -523,8 +524,8 @@ private slots:
         QVERIFY(preferences->isEnabled());
         QCOMPARE(preferences->text(), QStringLiteral("Preferences…"));
         // All on at first: the guide lines and the feedback line are there.
-        QVERIFY(lesson->Input()->GuideLines());
-        QVERIFY(lesson->Feedback()->isVisibleTo(lesson));
+        QVERIFY(Named<InputCanvas>(lesson, "inputCanvas")->GuideLines());
+        QVERIFY(Named<FeedbackLine>(lesson, "strokeFeedback")->isVisibleTo(lesson));
         const QSize withLine = lesson->size();
         {
             ModalAnswerer<PreferencesDialog> untick([](PreferencesDialog& dialog) {
@@ -544,15 +545,15 @@ private slots:
             preferences->trigger();
             QCOMPARE(untick.Shown(), 1);
         }
-        QVERIFY(!lesson->Input()->GuideLines());
-        QVERIFY(!ChildOf<TestContainer>(window)->DrawingPage()->Input()->GuideLines());
+        QVERIFY(!Named<InputCanvas>(lesson, "inputCanvas")->GuideLines());
+        QVERIFY(!Named<InputCanvas>(ChildOf<TestContainer>(window)->DrawingPage(), "inputCanvas")->GuideLines());
         // The feedback line is gone, and the page takes no room for it.
-        QVERIFY(!lesson->Feedback()->isVisibleTo(lesson));
+        QVERIFY(!Named<FeedbackLine>(lesson, "strokeFeedback")->isVisibleTo(lesson));
         QVERIFY(lesson->height() <= withLine.height());
         // Kept for the next start, and shown as kept.
         f.Restart();
-        QVERIFY(!ChildOf<LessonPage>(f.Window())->Feedback()->isVisibleTo(ChildOf<LessonPage>(f.Window())));
-        QVERIFY(!ChildOf<LessonPage>(f.Window())->Input()->GuideLines());
+        QVERIFY(!Named<FeedbackLine>(ChildOf<LessonPage>(f.Window()), "strokeFeedback")->isVisibleTo(ChildOf<LessonPage>(f.Window())));
+        QVERIFY(!Named<InputCanvas>(ChildOf<LessonPage>(f.Window()), "inputCanvas")->GuideLines());
         ModalAnswerer<PreferencesDialog> look([](PreferencesDialog& dialog) {
             for (QCheckBox* box : dialog.findChildren<QCheckBox*>())
                 QVERIFY(!box->isChecked());
@@ -628,7 +629,7 @@ private slots:
         QCOMPARE(open.Shown(), 1);
         QVERIFY(f.Prompt().messages.value(0).startsWith(QStringLiteral("Import learner: A learner named \"Anna\"")));
         // The open learner is now the imported record: the home page counts one learned.
-        QVERIFY(ChildOf<HomePage>(f.Window())->CategoryList()->topLevelItem(0)->text(0).startsWith(
+        QVERIFY(Named<QTreeWidget>(ChildOf<HomePage>(f.Window()), "categoryList")->topLevelItem(0)->text(0).startsWith(
             QStringLiteral("Grade 1 (1 of ")));
         f.Close(); // saving at close keeps the imported record
         QCOMPARE(f.Saved("Anna")->GetProgress(0).Learned(), Codes{7});

@@ -3,6 +3,7 @@
 // at the ratio, nothing around the canvases is left unpainted, and the writing is judged in
 // logical pixels.
 
+#include "Named.h"
 #include "AboutDialog.h"
 #include "CategoryPage.h"
 #include "CharacterDatabase.h"
@@ -182,29 +183,29 @@ private slots:
             const QString outside = ChildrenOutside(lesson) + ClippedLabels(lesson);
             QVERIFY2(outside.isEmpty(), qPrintable(QStringLiteral("character %1: ").arg(code) + outside));
             if (!input) {
-                input = PlaceInWindow(lesson->Input());
-                display = PlaceInWindow(lesson->Display());
-                next = PlaceInWindow(lesson->NextButton());
+                input = PlaceInWindow(Named<InputCanvas>(lesson, "inputCanvas"));
+                display = PlaceInWindow(Named<DisplayCanvas>(lesson, "displayCanvas"));
+                next = PlaceInWindow(Named<QPushButton>(lesson, "nextButton"));
             }
-            QCOMPARE(PlaceInWindow(lesson->Input()), *input);
-            QCOMPARE(PlaceInWindow(lesson->Display()), *display);
-            QCOMPARE(PlaceInWindow(lesson->NextButton()), *next);
+            QCOMPARE(PlaceInWindow(Named<InputCanvas>(lesson, "inputCanvas")), *input);
+            QCOMPARE(PlaceInWindow(Named<DisplayCanvas>(lesson, "displayCanvas")), *display);
+            QCOMPARE(PlaceInWindow(Named<QPushButton>(lesson, "nextButton")), *next);
             QCOMPARE(m_window->size(), windowSize);
             // The longest explanation of a refused stroke moves nothing either (it wraps).
-            lesson->Feedback()->Say(
+            Named<FeedbackLine>(lesson, "strokeFeedback")->Say(
                 QStringLiteral("Falsche Stelle: dieser Strich gehört weiter nach unten rechts, weiter als man denkt."));
             QApplication::processEvents();
-            QCOMPARE(PlaceInWindow(lesson->Input()), *input);
-            QCOMPARE(PlaceInWindow(lesson->NextButton()), *next);
+            QCOMPARE(PlaceInWindow(Named<InputCanvas>(lesson, "inputCanvas")), *input);
+            QCOMPARE(PlaceInWindow(Named<QPushButton>(lesson, "nextButton")), *next);
             QCOMPARE(m_window->size(), windowSize);
             const QString inside = ChildrenOutside(lesson) + ClippedLabels(lesson);
             QVERIFY2(inside.isEmpty(), qPrintable(inside));
-            lesson->Feedback()->Clear();
+            Named<FeedbackLine>(lesson, "strokeFeedback")->Clear();
             // The caption shows the meaning in full, or as much as fits with the rest in its tooltip.
             const auto character = StandardDatabase().LoadCharacter(code);
-            QCOMPARE(FullText(lesson->MeaningBox()), QString::fromUtf8(character->Meaning()));
-            QCOMPARE(lesson->MeaningBox()->toolTip(), QString::fromUtf8(character->Meaning()));
-            QCOMPARE(lesson->MeaningBox()->accessibleName(), QString::fromUtf8(character->Meaning()));
+            QCOMPARE(FullText(Named<QCheckBox>(lesson, "meaning")), QString::fromUtf8(character->Meaning()));
+            QCOMPARE(Named<QCheckBox>(lesson, "meaning")->toolTip(), QString::fromUtf8(character->Meaning()));
+            QCOMPARE(Named<QCheckBox>(lesson, "meaning")->accessibleName(), QString::fromUtf8(character->Meaning()));
         }
     }
 
@@ -225,13 +226,13 @@ private slots:
             QString outside = ChildrenOutside(test) + ClippedLabels(test);
             QVERIFY2(outside.isEmpty(), qPrintable(QStringLiteral("reading %1: ").arg(code) + outside));
             if (!readingDisplay) {
-                readingDisplay = PlaceInWindow(reading->Display());
+                readingDisplay = PlaceInWindow(Named<DisplayCanvas>(reading, "displayCanvas"));
                 kunGroup = PlaceInWindow(reading->KunButton(4)->parentWidget());
-                next = PlaceInWindow(test->NextButton());
+                next = PlaceInWindow(Named<QPushButton>(test, "nextButton"));
             }
-            QCOMPARE(PlaceInWindow(reading->Display()), *readingDisplay);
+            QCOMPARE(PlaceInWindow(Named<DisplayCanvas>(reading, "displayCanvas")), *readingDisplay);
             QCOMPARE(PlaceInWindow(reading->KunButton(4)->parentWidget()), *kunGroup);
-            QCOMPARE(PlaceInWindow(test->NextButton()), *next);
+            QCOMPARE(PlaceInWindow(Named<QPushButton>(test, "nextButton")), *next);
 
             DrawingTestPage* drawing = test->DrawingPage();
             drawing->SetCharacter(character.get());
@@ -240,12 +241,12 @@ private slots:
             outside = ChildrenOutside(test) + ClippedLabels(test);
             QVERIFY2(outside.isEmpty(), qPrintable(QStringLiteral("drawing %1: ").arg(code) + outside));
             if (!drawingInput) {
-                drawingInput = PlaceInWindow(drawing->Input());
-                drawingDisplay = PlaceInWindow(drawing->Display());
+                drawingInput = PlaceInWindow(Named<InputCanvas>(drawing, "inputCanvas"));
+                drawingDisplay = PlaceInWindow(Named<DisplayCanvas>(drawing, "displayCanvas"));
             }
-            QCOMPARE(PlaceInWindow(drawing->Input()), *drawingInput);
-            QCOMPARE(PlaceInWindow(drawing->Display()), *drawingDisplay);
-            QCOMPARE(PlaceInWindow(test->NextButton()), *next);
+            QCOMPARE(PlaceInWindow(Named<InputCanvas>(drawing, "inputCanvas")), *drawingInput);
+            QCOMPARE(PlaceInWindow(Named<DisplayCanvas>(drawing, "displayCanvas")), *drawingDisplay);
+            QCOMPARE(PlaceInWindow(Named<QPushButton>(test, "nextButton")), *next);
             QCOMPARE(m_window->size(), windowSize);
         }
     }
@@ -301,11 +302,11 @@ private slots:
             const QString outside = ChildrenOutside(category) + ClippedLabels(category);
             QVERIFY2(outside.isEmpty(), qPrintable(outside));
             if (!grid) {
-                grid = PlaceInWindow(category->Grid());
-                strip = PlaceInWindow(category->Strip());
+                grid = PlaceInWindow(Named<CharacterGrid>(category, "characterGrid"));
+                strip = PlaceInWindow(Named<CharacterGrid>(category, "untestedStrip"));
             }
-            QCOMPARE(PlaceInWindow(category->Grid()), *grid);
-            QCOMPARE(PlaceInWindow(category->Strip()), *strip);
+            QCOMPARE(PlaceInWindow(Named<CharacterGrid>(category, "characterGrid")), *grid);
+            QCOMPARE(PlaceInWindow(Named<CharacterGrid>(category, "untestedStrip")), *strip);
         }
     }
 
@@ -322,10 +323,10 @@ private slots:
             QVERIFY2(outside.isEmpty(), qPrintable(outside));
             if (!size) {
                 size = info.size();
-                display = PlaceInWindow(info.Display());
+                display = PlaceInWindow(Named<DisplayCanvas>(&info, "displayCanvas"));
             }
             QCOMPARE(info.size(), *size);
-            QCOMPARE(PlaceInWindow(info.Display()), *display);
+            QCOMPARE(PlaceInWindow(Named<DisplayCanvas>(&info, "displayCanvas")), *display);
         }
         UserManagerDialog manager(m_fixture->Store(), m_fixture->Prompt());
         manager.show();
@@ -344,7 +345,7 @@ private slots:
         Show(lesson);
         lesson->StartLesson({StandardDatabase().LoadCategory(0)->Characters()[0]});
         QApplication::processEvents();
-        for (CanvasBase* canvas : {static_cast<CanvasBase*>(lesson->Input()), static_cast<CanvasBase*>(lesson->Display())}) {
+        for (CanvasBase* canvas : {static_cast<CanvasBase*>(Named<InputCanvas>(lesson, "inputCanvas")), static_cast<CanvasBase*>(Named<DisplayCanvas>(lesson, "displayCanvas"))}) {
             QCOMPARE(canvas->BackBuffer().devicePixelRatio(), m_ratio);
             QCOMPARE(canvas->BackBuffer().size(), (QSizeF(canvas->ClientRect().size()) * m_ratio).toSize());
         }
@@ -361,7 +362,7 @@ private slots:
         LessonPage* lesson = ChildOf<LessonPage>(*m_window);
         Show(lesson);
         lesson->StartLesson({StandardDatabase().LoadCategory(0)->Characters()[0]});
-        InputCanvas* input = lesson->Input();
+        InputCanvas* input = Named<InputCanvas>(lesson, "inputCanvas");
         QVERIFY(input->GuideLines());
         const QImage grabbed = input->grab().toImage();
         QCOMPARE(grabbed.devicePixelRatio(), 2.0);
@@ -387,11 +388,11 @@ private slots:
         Show(lesson);
         const auto grade1 = StandardDatabase().LoadCategory(0)->Characters();
         lesson->StartLesson({grade1[0]});
-        lesson->Input()->SetGuideLines(false);
+        Named<InputCanvas>(lesson, "inputCanvas")->SetGuideLines(false);
         QApplication::processEvents();
         const QImage page = lesson->grab().toImage();
         const QColor window = lesson->palette().color(QPalette::Window);
-        for (CanvasBase* canvas : {static_cast<CanvasBase*>(lesson->Input()), static_cast<CanvasBase*>(lesson->Display())}) {
+        for (CanvasBase* canvas : {static_cast<CanvasBase*>(Named<InputCanvas>(lesson, "inputCanvas")), static_cast<CanvasBase*>(Named<DisplayCanvas>(lesson, "displayCanvas"))}) {
             const QRect client(canvas->mapTo(lesson, canvas->contentsRect().topLeft()), canvas->contentsRect().size());
             const QRect device(
                 (QPointF(client.topLeft()) * m_ratio).toPoint(), (QSizeF(client.size()) * m_ratio).toSize());
@@ -412,7 +413,7 @@ private slots:
         const std::uint16_t code = StandardDatabase().LoadCategory(0)->Characters()[0]; // 日
         lesson->StartLesson({code});
         QApplication::processEvents();
-        InputCanvas* input = lesson->Input();
+        InputCanvas* input = Named<InputCanvas>(lesson, "inputCanvas");
         const int side = input->ClientRect().width();
         const Form& glyph = *lesson->Glyph();
         // The first stroke, drawn where it belongs, in logical pixels: kept, and recorded as drawn.
@@ -441,7 +442,7 @@ private slots:
         CategoryPage* category = ChildOf<CategoryPage>(*m_window);
         Show(category);
         QApplication::processEvents();
-        CharacterGrid* grid = category->Grid();
+        CharacterGrid* grid = Named<CharacterGrid>(category, "characterGrid");
         const QImage shot = grid->viewport()->grab().toImage();
         const QColor paper = DarkPalette().color(QPalette::Base);
         // The first cell of the grid, inside its border: paper and ink of the palette.
@@ -476,24 +477,24 @@ private:
             return;
         auto* category = ChildOf<CategoryPage>(w);
         if (ShownPage(w) == ChildOf<LessonPage>(w))
-            QTest::mouseClick(ChildOf<LessonPage>(w)->AbortButton(), Qt::LeftButton);
+            QTest::mouseClick(Named<QPushButton>(ChildOf<LessonPage>(w), "abortButton"), Qt::LeftButton);
         if (ShownPage(w) == ChildOf<TestContainer>(w))
-            QTest::mouseClick(ChildOf<TestContainer>(w)->AbortButton(), Qt::LeftButton);
+            QTest::mouseClick(Named<QPushButton>(ChildOf<TestContainer>(w), "abortButton"), Qt::LeftButton);
         if (ShownPage(w) == page)
             return;
         if (ShownPage(w) == category)
-            QTest::mouseClick(category->BackButton(), Qt::LeftButton);
+            QTest::mouseClick(Named<QPushButton>(category, "backButton"), Qt::LeftButton);
         if (page == ChildOf<HomePage>(w))
             return;
         HomePage* home = ChildOf<HomePage>(w);
-        QTreeWidget* list = home->CategoryList();
+        QTreeWidget* list = Named<QTreeWidget>(home, "categoryList");
         QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
             list->visualItemRect(list->topLevelItem(0)).center());
-        QTest::mouseClick(home->OpenButton(), Qt::LeftButton);
+        QTest::mouseClick(Named<QPushButton>(home, "openButton"), Qt::LeftButton);
         if (page == ChildOf<LessonPage>(w))
-            QTest::mouseClick(category->LessonButton(), Qt::LeftButton);
+            QTest::mouseClick(Named<QPushButton>(category, "lessonButton"), Qt::LeftButton);
         if (page == ChildOf<TestContainer>(w))
-            QTest::mouseClick(category->TestButton(), Qt::LeftButton);
+            QTest::mouseClick(Named<QPushButton>(category, "testButton"), Qt::LeftButton);
         QCOMPARE(ShownPage(w), page);
     }
 

@@ -1,6 +1,7 @@
 // The program in the learner's language. Started with LANGUAGE=fr (see CMakeLists.txt), as a
 // French learner's desktop starts it.
 
+#include "Named.h"
 #include "AddUserDialog.h"
 #include "CharacterDatabase.h"
 #include "ConfigStore.h"
@@ -40,10 +41,10 @@ private slots:
         QCOMPARE(ActionOf(window, "usersAction")->text(), QStringLiteral("Utilisateurs"));
         QCOMPARE(ActionOf(window, "exitAction")->text(), QStringLiteral("Quitter"));
         QCOMPARE(ActionOf(window, "progressAction")->text(), QStringLiteral("Progrès…"));
-        QCOMPARE(ChildOf<HomePage>(window)->OpenButton()->text(), QStringLiteral("&Ouvrir"));
+        QCOMPARE(Named<QPushButton>(ChildOf<HomePage>(window), "openButton")->text(), QStringLiteral("&Ouvrir"));
         AddUserDialog add;
-        QCOMPARE(add.OkButton()->text(), QStringLiteral("&OK"));
-        QCOMPARE(add.CancelButton()->text(), QStringLiteral("A&nnuler"));
+        QCOMPARE(Named<QPushButton>(&add, "okButton")->text(), QStringLiteral("&OK"));
+        QCOMPARE(Named<QPushButton>(&add, "cancelButton")->text(), QStringLiteral("A&nnuler"));
         // Qt's own buttons speak French too.
         QMessageBox box(QMessageBox::Question, QStringLiteral("t"), QStringLiteral("q"), QMessageBox::Yes | QMessageBox::No);
         QCOMPARE(box.button(QMessageBox::Yes)->text(), QStringLiteral("&Oui"));
