@@ -75,6 +75,7 @@ ProgressWindow::ProgressWindow(
     m_stats = std::make_unique<LearnerStatistics>(learner, sizes, today >= 0 ? today : EventDay(LocalTimeNow()));
 
     m_tabs = new QTabWidget(this);
+    m_tabs->setObjectName(QStringLiteral("progressTabs"));
     m_tabs->setAccessibleName(tr("Progress"));
     m_tabs->addTab(BuildLearnedTab(), tr("&Learned"));
     m_tabs->addTab(BuildTestsTab(), tr("&Tests"));
@@ -92,6 +93,7 @@ QWidget* ProgressWindow::BuildLearnedTab()
     auto* tab = new QWidget;
     auto* layout = new QVBoxLayout(tab);
     m_picker = new QComboBox(tab);
+    m_picker->setObjectName(QStringLiteral("categoryPicker"));
     m_picker->setAccessibleName(tr("Category shown"));
     m_picker->addItem(tr("All categories"));
     for (const QString& name : m_categoryNames)
@@ -105,6 +107,7 @@ QWidget* ProgressWindow::BuildLearnedTab()
     chart->setTitle(tr("Characters learned"));
     chart->legend()->hide();
     m_learned = new QLineSeries(chart);
+    m_learned->setObjectName(QStringLiteral("learnedSeries"));
     m_learned->setName(tr("Characters learned"));
     chart->addSeries(m_learned);
     auto* days = new QDateTimeAxis(chart);
@@ -118,6 +121,7 @@ QWidget* ProgressWindow::BuildLearnedTab()
     m_learned->attachAxis(days);
     m_learned->attachAxis(count);
     m_learnedView = MakeChartView(chart, tr("Characters learned over time"), tab);
+    m_learnedView->setObjectName(QStringLiteral("learnedChart"));
     layout->addWidget(m_learnedView);
     connect(m_picker, &QComboBox::currentIndexChanged, this, &ProgressWindow::ShowLearned);
     ShowLearned(0);
@@ -163,7 +167,9 @@ QWidget* ProgressWindow::BuildTestsTab()
     chart->setTitle(tr("Tests per week"));
     auto* series = new QBarSeries(chart);
     m_passed = new QBarSet(tr("Passed"), series);
+    m_passed->setObjectName(QStringLiteral("passedBars"));
     m_failed = new QBarSet(tr("Failed"), series);
+    m_failed->setObjectName(QStringLiteral("failedBars"));
     QStringList weeks;
     int most = 0;
     const auto allWeeks = m_stats->TestsPerWeek();
@@ -202,6 +208,7 @@ QWidget* ProgressWindow::BuildTestsTab()
     chart->addAxis(count, Qt::AlignLeft);
     series->attachAxis(count);
     m_testsView = MakeChartView(chart, tr("Tests passed and failed per week"), nullptr);
+    m_testsView->setObjectName(QStringLiteral("testsChart"));
     return m_testsView;
 }
 
@@ -209,6 +216,7 @@ QWidget* ProgressWindow::BuildCategoriesTab()
 {
     const auto rows = m_stats->Categories();
     m_table = new QTableWidget(static_cast<int>(rows.size()), 5);
+    m_table->setObjectName(QStringLiteral("categoryTable"));
     m_table->setAccessibleName(tr("Progress in each category"));
     m_table->setHorizontalHeaderLabels({tr("Category"), tr("Learned"), tr("Untested"), tr("Total"), tr("Done")});
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -238,6 +246,7 @@ QWidget* ProgressWindow::BuildCategoriesTab()
 QWidget* ProgressWindow::BuildTroubleTab()
 {
     m_trouble = new QListWidget;
+    m_trouble->setObjectName(QStringLiteral("troubleList"));
     m_trouble->setAccessibleName(tr("Trouble characters, the most troubled first"));
     m_trouble->setViewMode(QListView::IconMode);
     m_trouble->setResizeMode(QListView::Adjust);

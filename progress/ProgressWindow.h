@@ -29,15 +29,6 @@ public:
         QWidget* parent = nullptr);
     ~ProgressWindow() override;
 
-    QTabWidget* Tabs() const { return m_tabs; }
-    QComboBox* CategoryPicker() const { return m_picker; }
-    QLineSeries* LearnedSeries() const { return m_learned; }
-    QChartView* LearnedChart() const { return m_learnedView; }
-    QChartView* TestsChart() const { return m_testsView; }
-    QBarSet* PassedBars() const { return m_passed; }
-    QBarSet* FailedBars() const { return m_failed; }
-    QTableWidget* CategoryTable() const { return m_table; }
-    QListWidget* TroubleList() const { return m_trouble; }
 
 protected:
     void changeEvent(QEvent* event) override;

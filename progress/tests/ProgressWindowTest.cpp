@@ -1,3 +1,4 @@
+#include "Named.h"
 #include "ProgressViewFactory.h"
 #include "ProgressWindow.h"
 
@@ -79,23 +80,23 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         QCOMPARE(window.windowTitle(), QStringLiteral("Progress of Anna"));
         // 2025-11-22 to 2026-11-22: 366 days.
-        QCOMPARE(window.LearnedSeries()->count(), 366);
+        QCOMPARE(Named<QLineSeries>(Named<QChartView>(&window, "learnedChart")->chart(), "learnedSeries")->count(), 366);
         std::size_t learned = 0;
         for (const CategoryProgress& p : m_learner.Progress())
             learned += p.Learned().size();
-        QCOMPARE(window.LearnedSeries()->at(365).y(), static_cast<qreal>(learned));
-        QVERIFY(window.LearnedSeries()->at(0).y() <= 1);
+        QCOMPARE(Named<QLineSeries>(Named<QChartView>(&window, "learnedChart")->chart(), "learnedSeries")->at(365).y(), static_cast<qreal>(learned));
+        QVERIFY(Named<QLineSeries>(Named<QChartView>(&window, "learnedChart")->chart(), "learnedSeries")->at(0).y() <= 1);
         // One category: its own count.
-        window.CategoryPicker()->setCurrentIndex(2); // grade 2
-        QCOMPARE(window.LearnedSeries()->count(), 366);
-        QCOMPARE(window.LearnedSeries()->at(365).y(), static_cast<qreal>(m_learner.GetProgress(1).Learned().size()));
-        QCOMPARE(window.CategoryPicker()->count(), m_db->CategoryCount() + 1);
+        Named<QComboBox>(&window, "categoryPicker")->setCurrentIndex(2); // grade 2
+        QCOMPARE(Named<QLineSeries>(Named<QChartView>(&window, "learnedChart")->chart(), "learnedSeries")->count(), 366);
+        QCOMPARE(Named<QLineSeries>(Named<QChartView>(&window, "learnedChart")->chart(), "learnedSeries")->at(365).y(), static_cast<qreal>(m_learner.GetProgress(1).Learned().size()));
+        QCOMPARE(Named<QComboBox>(&window, "categoryPicker")->count(), m_db->CategoryCount() + 1);
         // Weeks from Monday 2025-11-17 to Monday 2026-11-16.
-        QCOMPARE(window.PassedBars()->count(), 53);
-        QCOMPARE(window.FailedBars()->count(), 53);
+        QCOMPARE(Named<QBarSet>(Named<QChartView>(&window, "testsChart")->chart(), "passedBars")->count(), 53);
+        QCOMPARE(Named<QBarSet>(Named<QChartView>(&window, "testsChart")->chart(), "failedBars")->count(), 53);
         qreal passed = 0, failed = 0;
         for (int i = 0; i < 53; ++i)
-            passed += window.PassedBars()->at(i), failed += window.FailedBars()->at(i);
+            passed += Named<QBarSet>(Named<QChartView>(&window, "testsChart")->chart(), "passedBars")->at(i), failed += Named<QBarSet>(Named<QChartView>(&window, "testsChart")->chart(), "failedBars")->at(i);
         int wantPassed = 0, wantFailed = 0;
         for (const LearnerEvent& e : m_learner.History())
             wantPassed += e.kind == LearnerEvent::Passed, wantFailed += e.kind == LearnerEvent::Failed;
@@ -106,7 +107,7 @@ private slots:
     void theCategoryTableCountsEveryCategory()
     {
         ProgressWindow window(*m_db, m_prompt, m_learner, Now);
-        QTableWidget* table = window.CategoryTable();
+        QTableWidget* table = Named<QTableWidget>(&window, "categoryTable");
         QCOMPARE(table->rowCount(), static_cast<int>(m_db->CategoryCount()));
         QCOMPARE(table->item(0, 0)->text(), QStringLiteral("Grade 1"));
         QCOMPARE(table->item(0, 1)->text().toInt(), static_cast<int>(m_learner.GetProgress(0).Learned().size()));
@@ -121,8 +122,8 @@ private slots:
         ProgressWindow window(*m_db, m_prompt, m_learner, Now);
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
-        window.Tabs()->setCurrentIndex(3);
-        QListWidget* list = window.TroubleList();
+        Named<QTabWidget>(&window, "progressTabs")->setCurrentIndex(3);
+        QListWidget* list = Named<QListWidget>(&window, "troubleList");
         QVERIFY(list->count() > 3);
         // Counted here from the history: mistakes and failures of each character.
         std::map<std::uint16_t, int> trouble;
@@ -156,16 +157,16 @@ private slots:
     void partsHaveAccessibleNamesAndFollowTheDarkPalette()
     {
         ProgressWindow window(*m_db, m_prompt, m_learner, Now);
-        for (QWidget* part : {static_cast<QWidget*>(window.Tabs()), static_cast<QWidget*>(window.CategoryPicker()),
-                 static_cast<QWidget*>(window.LearnedChart()), static_cast<QWidget*>(window.TestsChart()),
-                 static_cast<QWidget*>(window.CategoryTable()), static_cast<QWidget*>(window.TroubleList())})
+        for (QWidget* part : {static_cast<QWidget*>(Named<QTabWidget>(&window, "progressTabs")), static_cast<QWidget*>(Named<QComboBox>(&window, "categoryPicker")),
+                 static_cast<QWidget*>(Named<QChartView>(&window, "learnedChart")), static_cast<QWidget*>(Named<QChartView>(&window, "testsChart")),
+                 static_cast<QWidget*>(Named<QTableWidget>(&window, "categoryTable")), static_cast<QWidget*>(Named<QListWidget>(&window, "troubleList"))})
             QVERIFY2(!part->accessibleName().isEmpty(), part->metaObject()->className());
-        QCOMPARE(window.LearnedChart()->chart()->backgroundBrush().color(), window.palette().color(QPalette::Base));
+        QCOMPARE(Named<QChartView>(&window, "learnedChart")->chart()->backgroundBrush().color(), window.palette().color(QPalette::Base));
         window.setPalette(DarkPalette());
         const QColor paper = DarkPalette().color(QPalette::Base);
-        QCOMPARE(window.LearnedChart()->chart()->backgroundBrush().color(), paper);
-        QVERIFY(Contrast(window.LearnedChart()->chart()->titleBrush().color(), paper) >= 7.0);
-        QVERIFY(Contrast(window.LearnedSeries()->pen().color(), paper) >= 3.0);
+        QCOMPARE(Named<QChartView>(&window, "learnedChart")->chart()->backgroundBrush().color(), paper);
+        QVERIFY(Contrast(Named<QChartView>(&window, "learnedChart")->chart()->titleBrush().color(), paper) >= 7.0);
+        QVERIFY(Contrast(Named<QLineSeries>(Named<QChartView>(&window, "learnedChart")->chart(), "learnedSeries")->pen().color(), paper) >= 3.0);
     }
 
     void theModuleMakesTheWindow()

@@ -200,7 +200,7 @@ int main(int argc, char** argv)
     progress.resize(720, 520);
     const char* const tabs[] = {"progress-learned", "progress-tests", "progress-categories", "progress-trouble"};
     for (int i = 0; i < 4; ++i) {
-        progress.Tabs()->setCurrentIndex(i);
+        Named<QTabWidget>(&progress, "progressTabs")->setCurrentIndex(i);
         ok &= Save(progress, out, QString::fromLatin1(tabs[i]));
     }
     return ok ? 0 : 1;

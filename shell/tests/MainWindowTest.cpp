@@ -25,6 +25,7 @@
 #include "UserRecordXml.h"
 #include "XmlConfigStore.h"
 
+#include <QChartView>
 #include <QBarSet>
 #include <QCheckBox>
 #include <QFileDialog>
@@ -239,9 +240,9 @@ private slots:
         auto* progress = ChildOf<ProgressWindow>(f.Window());
         QVERIFY(progress);
         QVERIFY(progress->isVisible());
-        QCOMPARE(progress->LearnedSeries()->count(), 1); // the history began today
-        QCOMPARE(progress->LearnedSeries()->at(0).y(), 5.0);
-        QCOMPARE(progress->PassedBars()->at(0), 5.0);
+        QCOMPARE(Named<QLineSeries>(Named<QChartView>(progress, "learnedChart")->chart(), "learnedSeries")->count(), 1); // the history began today
+        QCOMPARE(Named<QLineSeries>(Named<QChartView>(progress, "learnedChart")->chart(), "learnedSeries")->at(0).y(), 5.0);
+        QCOMPARE(Named<QBarSet>(Named<QChartView>(progress, "testsChart")->chart(), "passedBars")->at(0), 5.0);
         QPointer<ProgressWindow> watched(progress);
         f.Window().close();
         QVERIFY(!watched); // it goes with the window
