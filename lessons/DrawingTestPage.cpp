@@ -24,15 +24,15 @@ DrawingTestPage::DrawingTestPage(CharacterDatabase& database, Prompt& prompt, QW
 {
     m_ui->setupUi(this);
     // The texts have boxes of a fixed size: the canvases never move with their length.
-    MakeTextBox(OnReadingLabel(), ReadingLines, HorizontalUnits(this, TextColumnUnits));
-    MakeTextBox(KunReadingLabel(), ReadingLines, HorizontalUnits(this, TextColumnUnits));
-    MakeTextBox(MeaningLabel(), MeaningLines, HorizontalUnits(this, TextColumnUnits));
-    Display()->MakeSquare();
-    m_panel = new WritingPanel(Input(), WritingCoach::Mode::Test, this);
+    MakeTextBox(m_ui->onReading, ReadingLines, HorizontalUnits(this, TextColumnUnits));
+    MakeTextBox(m_ui->kunReading, ReadingLines, HorizontalUnits(this, TextColumnUnits));
+    MakeTextBox(m_ui->meaning, MeaningLines, HorizontalUnits(this, TextColumnUnits));
+    m_ui->displayCanvas->MakeSquare();
+    m_panel = new WritingPanel(m_ui->inputCanvas, WritingCoach::Mode::Test, this);
     // Right under the writing canvas, in the grid's free row.
     m_ui->grid->addWidget(m_panel->Line(), 1, 1);
     connect(m_panel, &WritingPanel::strokeKept, this, &DrawingTestPage::OnStrokeKept);
-    connect(Display(), &DisplayCanvas::clicked, this, &DrawingTestPage::OnDisplayClicked);
+    connect(m_ui->displayCanvas, &DisplayCanvas::clicked, this, &DrawingTestPage::OnDisplayClicked);
 }
 
 DrawingTestPage::~DrawingTestPage() = default;
@@ -42,41 +42,15 @@ const WritingQuiz& DrawingTestPage::Quiz() const
     return m_panel->Quiz();
 }
 
-FeedbackLine* DrawingTestPage::Feedback() const
-{
-    return m_panel->Line();
-}
-
-DisplayCanvas* DrawingTestPage::Display() const
-{
-    return m_ui->displayCanvas;
-}
-InputCanvas* DrawingTestPage::Input() const
-{
-    return m_ui->inputCanvas;
-}
-QLabel* DrawingTestPage::OnReadingLabel() const
-{
-    return m_ui->onReading;
-}
-QLabel* DrawingTestPage::KunReadingLabel() const
-{
-    return m_ui->kunReading;
-}
-QLabel* DrawingTestPage::MeaningLabel() const
-{
-    return m_ui->meaning;
-}
-
 void DrawingTestPage::SetCharacter(const Character* character)
 {
     m_character = character;
     m_panel->Start(character ? LoadGlyphOrReport(m_database, character->ElementId(), m_prompt, this) : nullptr);
-    ShowFitted(OnReadingLabel(), TextOrNotAvailable(character ? character->OnReading() : nullptr), ReadingLines);
-    ShowFitted(KunReadingLabel(), TextOrNotAvailable(character ? character->KunReading() : nullptr), ReadingLines);
-    ShowFitted(MeaningLabel(), TextOrNotAvailable(character ? character->Meaning() : nullptr), MeaningLines);
-    Display()->StopAnimation();
-    Display()->Wipe();
+    ShowFitted(m_ui->onReading, TextOrNotAvailable(character ? character->OnReading() : nullptr), ReadingLines);
+    ShowFitted(m_ui->kunReading, TextOrNotAvailable(character ? character->KunReading() : nullptr), ReadingLines);
+    ShowFitted(m_ui->meaning, TextOrNotAvailable(character ? character->Meaning() : nullptr), MeaningLines);
+    m_ui->displayCanvas->StopAnimation();
+    m_ui->displayCanvas->Wipe();
     // Both canvases stay enabled throughout, even once the drawing is complete.
 }
 
@@ -105,7 +79,7 @@ void DrawingTestPage::OnStrokeKept()
 void DrawingTestPage::Reveal()
 {
     if (const Form* glyph = Quiz().Glyph()) {
-        Display()->ShowGlyph(*glyph);
+        m_ui->displayCanvas->ShowGlyph(*glyph);
         m_panel->Quiz().Reveal();
     }
 }
@@ -118,5 +92,5 @@ void DrawingTestPage::OnDisplayClicked()
     if (!Quiz().Revealed())
         Reveal();
     else
-        Display()->StartAnimation(*glyph);
+        m_ui->displayCanvas->StartAnimation(*glyph);
 }

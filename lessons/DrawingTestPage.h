@@ -8,10 +8,6 @@
 
 class CharacterDatabase;
 class Prompt;
-class DisplayCanvas;
-class FeedbackLine;
-class InputCanvas;
-class QLabel;
 namespace Ui {
 class DrawingTestPage;
 }
@@ -35,13 +31,6 @@ public:
     void SetCoaching(const CoachingPreferences& preferences);
 
 private:
-    /// The line under the writing canvas that says why a stroke was refused.
-    FeedbackLine* Feedback() const;
-    DisplayCanvas* Display() const;
-    InputCanvas* Input() const;
-    QLabel* OnReadingLabel() const;
-    QLabel* KunReadingLabel() const;
-    QLabel* MeaningLabel() const;
     const WritingQuiz& Quiz() const;
     void OnStrokeKept();
     void OnDisplayClicked();

@@ -30,7 +30,8 @@ public:
     void StopAnimation();
     /// Whether an animation runs.
     bool IsAnimating() const { return m_animation != nullptr; }
-    /// One timer step (the timer calls this; tests may too).
+    /// One step of the writing: the next point, or a tick of pause (the timer calls this; the
+    /// benchmark times it).
     void Tick();
     /// Whether new animations keep the glyph's aspect ratio (centred) instead of filling.
     void SetKeepAspect(bool keep) { m_keepAspect = keep; }

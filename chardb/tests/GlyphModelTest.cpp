@@ -10,6 +10,15 @@ using namespace testdb;
 
 namespace {
 
+/// A stroke from `start`: a Bezier through (1, 2), (3, 4) to (5, 6), then a line to (7, 8).
+Stroke CurveThenLine(Point start)
+{
+    Stroke stroke(start);
+    stroke.AppendSegment(Segment(SegmentType::Bezier, {1, 2}, {3, 4}, {5, 6}));
+    stroke.AppendSegment(Segment(SegmentType::Line, {7, 8}));
+    return stroke;
+}
+
 /// Reads a database made of the given element records.
 class ElementFixture : public ::testing::Test {
 protected:
@@ -209,28 +218,6 @@ TEST(GlyphModel, BezierFormulaInSinglePrecision)
     EXPECT_EQ(p.y, 0.0f * s * s * s + 3.0f * s * t * (1.0f * s + 1.0f * t) + 0.0f * t * t * t);
 }
 
-TEST(GlyphModel, EncodedStrokeFormReadsBack)
-{
-    Form form(109, 109);
-    Stroke stroke(Point{1.5f, 2.5f});
-    stroke.AppendSegment(Segment(SegmentType::Bezier, {1, 2}, {3, 4}, {5, 6}));
-    stroke.AppendSegment(Segment(SegmentType::Line, {7, 8}));
-    form.AppendStroke(stroke);
-    std::vector<std::uint8_t> bytes{1};
-    EncodeStrokeForm(form, bytes);
-    ByteReader reader(bytes.data(), bytes.size(), "Unable to load element");
-    Element element(0);
-    LoadBudget budget;
-    const Element none(0);
-    ParseElementRecord(
-        reader, element, [&](std::uint16_t) -> const Element& { return none; }, budget);
-    EXPECT_EQ(budget.spent, 3u); // one stroke, two segments
-    ASSERT_EQ(element.FormCount(), 1);
-    EXPECT_EQ(element.GetForm(0).GetStroke(0).GetSegment(0).P3(), (Point{5, 6}));
-    EXPECT_EQ(element.GetForm(0).GetStroke(0).GetSegment(1).P1(), (Point{7, 8}));
-    EXPECT_EQ(reader.Position(), bytes.size());
-}
-
 namespace {
 
 /// What one reading of a record came to: an error message, or the strokes and segments read
@@ -239,6 +226,8 @@ struct Outcome {
     std::string error;
     std::size_t items = 0;
     bool plain = true;
+    Element element{0}; ///< what was read
+    std::size_t position = 0; ///< where the reading stopped
 };
 
 Outcome Parse(const std::vector<std::uint8_t>& bytes)
@@ -246,12 +235,12 @@ Outcome Parse(const std::vector<std::uint8_t>& bytes)
     Outcome o;
     try {
         ByteReader reader(bytes.data(), bytes.size(), "Unable to load element");
-        Element element(0);
         LoadBudget budget;
         const Element none(0);
         ParseElementRecord(
-            reader, element, [&](std::uint16_t) -> const Element& { return none; }, budget);
+            reader, o.element, [&](std::uint16_t) -> const Element& { return none; }, budget);
         o.items = budget.spent;
+        o.position = reader.Position();
     } catch (const ZavorenCommon::DatabaseLoadException& e) {
         o.error = e.what();
     } catch (const std::out_of_range&) {
@@ -277,16 +266,28 @@ Outcome Check(const std::vector<std::uint8_t>& bytes)
 
 } // namespace
 
+TEST(GlyphModel, EncodedStrokeFormReadsBack)
+{
+    Form form(109, 109);
+    form.AppendStroke(CurveThenLine(Point{1.5f, 2.5f}));
+    std::vector<std::uint8_t> bytes{1};
+    EncodeStrokeForm(form, bytes);
+    const Outcome read = Parse(bytes);
+    ASSERT_EQ(read.error, "");
+    EXPECT_EQ(read.items, 3u); // one stroke, two segments
+    ASSERT_EQ(read.element.FormCount(), 1);
+    EXPECT_EQ(read.element.GetForm(0).GetStroke(0).GetSegment(0).P3(), (Point{5, 6}));
+    EXPECT_EQ(read.element.GetForm(0).GetStroke(0).GetSegment(1).P1(), (Point{7, 8}));
+    EXPECT_EQ(read.position, bytes.size());
+}
+
 TEST(GlyphModel, CheckingPlainRecordsAgreesWithParsingThem)
 {
     // A record of two stroke forms, mutated at random thousands of times: the check without
     // building and the full parse succeed together, fail with the same message, and count the
     // same strokes and segments.
     Form first(109, 109);
-    Stroke a(Point{1, 2});
-    a.AppendSegment(Segment(SegmentType::Bezier, {1, 2}, {3, 4}, {5, 6}));
-    a.AppendSegment(Segment(SegmentType::Line, {7, 8}));
-    first.AppendStroke(a);
+    first.AppendStroke(CurveThenLine(Point{1, 2}));
     first.AppendStroke(Stroke(Point{3, 3}));
     Form second(50, 60);
     Stroke b(Point{9, 9});

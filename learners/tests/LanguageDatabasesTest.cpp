@@ -1,6 +1,7 @@
 // A learner's progress stays valid whichever language's database is linked.
 
 #include "FileCharacterDatabase.h"
+#include "LanguageDatabaseList.h"
 #include "XmlConfigStore.h"
 
 #include <gtest/gtest.h>
@@ -12,15 +13,6 @@
 namespace fs = std::filesystem;
 
 namespace {
-
-std::vector<std::string> LanguageDatabases()
-{
-    std::vector<std::string> paths;
-    std::stringstream list(ZAVOREN_LANGUAGE_DATABASES);
-    for (std::string path; std::getline(list, path, '|');)
-        paths.push_back(path);
-    return paths;
-}
 
 TEST(LanguageDatabases, ALearnersProgressOpensWithEveryDatabase)
 {

@@ -155,19 +155,15 @@ Stroke ParseSvgPath(std::string_view data)
                 stroke.AppendSegment(Segment(SegmentType::Line, current));
                 break;
             }
-            case 'C': {
-                const Point p1 = point();
-                const Point p2 = point();
-                const Point p3 = point();
-                stroke.AppendSegment(Segment(SegmentType::Bezier, p1, p2, p3));
-                lastControl = p2;
-                current = p3;
-                curve = true;
-                break;
-            }
+            case 'C':
             case 'S': {
-                const Point p1
-                    = lastWasCurve ? Point{2 * current.x - lastControl.x, 2 * current.y - lastControl.y} : current;
+                // S takes its first control point as the reflection of the previous curve's
+                // second one (the current point after anything else).
+                Point p1 = current;
+                if (upper == 'C')
+                    p1 = point();
+                else if (lastWasCurve)
+                    p1 = Point{2 * current.x - lastControl.x, 2 * current.y - lastControl.y};
                 const Point p2 = point();
                 const Point p3 = point();
                 stroke.AppendSegment(Segment(SegmentType::Bezier, p1, p2, p3));

@@ -3,21 +3,13 @@
 // whichever is linked.
 
 #include "FileCharacterDatabase.h"
+#include "LanguageDatabaseList.h"
 
 #include <gtest/gtest.h>
 
 #include <sstream>
 
 namespace {
-
-std::vector<std::string> LanguageDatabases()
-{
-    std::vector<std::string> paths;
-    std::stringstream list(ZAVOREN_LANGUAGE_DATABASES);
-    for (std::string path; std::getline(list, path, '|');)
-        paths.push_back(path);
-    return paths;
-}
 
 std::string Text(const char* text)
 {
