@@ -82,6 +82,9 @@ void CanvasBase::paintEvent(QPaintEvent* event)
         Redraw();
     }
     QPainter painter(this);
+    // The canvas declares that it paints every pixel of its rectangle: the frame first, then
+    // the buffer over the client area.
+    PaintFrame(painter);
     const QRect client = contentsRect();
     const QRect dirty = event->rect().intersected(client);
     if (!m_buffer.isNull() && !dirty.isEmpty()) {
@@ -94,5 +97,15 @@ void CanvasBase::paintEvent(QPaintEvent* event)
     painter.setClipRect(QRect(QPoint(0, 0), client.size()));
     PaintOverlay(painter);
     painter.restore();
-    drawFrame(&painter);
+}
+
+void CanvasBase::PaintFrame(QPainter& painter) const
+{
+    // An edit box's frame: a line in the palette's mid colour round a band of paper. Both are
+    // fills that reach a pixel past their edges, so that at a fractional ratio the device pixels
+    // a logical edge cuts through are painted too (the painter clips to the widget): no pixel of
+    // the rectangle keeps what was on the screen before, and the line is whole on every side.
+    const QRect all = rect();
+    painter.fillRect(all.adjusted(-1, -1, 1, 1), palette().color(QPalette::Mid));
+    painter.fillRect(all.adjusted(1, 1, -1, -1), m_background);
 }

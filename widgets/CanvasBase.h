@@ -43,6 +43,8 @@ protected:
     /// Makes sure the back buffer has the client size at the widget's device pixel ratio
     /// (contents kept while the ratio stays); false when there is none.
     bool EnsureBuffer();
+    /// Paints the frame and the paper under the client area, every pixel of the rectangle.
+    void PaintFrame(QPainter& painter) const;
     /// Widget position to client coordinates.
     QPointF ToClient(const QPointF& widgetPosition) const { return widgetPosition - contentsRect().topLeft(); }
     QImage m_buffer;

@@ -2,10 +2,12 @@
 // at: home, category (with learned and untested characters), lesson (mid-character, after a
 // refused stroke), reading test, drawing test, Kanji Info, User Manager, About, the four
 // parts of the progress window, and the start-up window as it shows and half-way through loading.
-//   render_pages DATABASE OUTPUT_FOLDER [--dark]
+//   render_pages DATABASE OUTPUT_FOLDER [--dark] [--screen]
 // Run with QT_QPA_PLATFORM=offscreen, and QT_SCALE_FACTOR=2 for a device pixel ratio of 2;
 // render_all.sh beside this file renders every page at ratios 1 and 2, light and dark; with
-// LANGUAGE=fr (or another language) set, in that language.
+// LANGUAGE=fr (or another language) set, in that language. With --screen each picture is read
+// back from the display (what a real X server shows, not the page painted again);
+// render_x11.sh takes them from Xvfb at ratios 1.5 and 2.
 
 #include "Named.h"
 #include "AboutDialog.h"
@@ -31,6 +33,7 @@
 #include <QDir>
 #include <QMouseEvent>
 #include <QPalette>
+#include <QScreen>
 #include <QStyleFactory>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -63,6 +66,9 @@ QPalette DarkPalette()
     return p;
 }
 
+/// Whether pictures are read back from the display rather than painted again.
+bool g_fromScreen = false;
+
 bool Save(QWidget& widget, const QString& folder, const QString& name)
 {
     widget.show();
@@ -70,7 +76,13 @@ bool Save(QWidget& widget, const QString& folder, const QString& name)
         return false;
     QApplication::processEvents();
     const QString path = QDir(folder).filePath(name + QStringLiteral(".png"));
-    const bool saved = widget.grab().save(path);
+    bool saved = false;
+    if (g_fromScreen) {
+        QTest::qWait(100); // the server has drawn what it was sent
+        saved = widget.screen()->grabWindow(widget.winId()).save(path);
+    } else {
+        saved = widget.grab().save(path);
+    }
     std::printf("%s %s (%dx%d logical, ratio %.2f)\n", saved ? "wrote" : "FAILED", qPrintable(path), widget.width(),
         widget.height(), widget.devicePixelRatioF());
     return saved;
@@ -101,12 +113,17 @@ int main(int argc, char** argv)
     // In the language of the environment, as the program starts: LANGUAGE=fr renders in French.
     InstallTranslations(app, QLocale::system());
     if (argc < 3) {
-        std::fprintf(stderr, "usage: render_pages DATABASE OUTPUT_FOLDER [--dark]\n");
+        std::fprintf(stderr, "usage: render_pages DATABASE OUTPUT_FOLDER [--dark] [--screen]\n");
         return 2;
     }
-    if (argc > 3 && QString::fromLocal8Bit(argv[3]) == QLatin1String("--dark")) {
-        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-        QApplication::setPalette(DarkPalette());
+    for (int i = 3; i < argc; ++i) {
+        const QString option = QString::fromLocal8Bit(argv[i]);
+        if (option == QLatin1String("--dark")) {
+            QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+            QApplication::setPalette(DarkPalette());
+        } else if (option == QLatin1String("--screen")) {
+            g_fromScreen = true;
+        }
     }
     const QString out = QString::fromLocal8Bit(argv[2]);
     QDir().mkpath(out);
