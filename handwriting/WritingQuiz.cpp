@@ -3,6 +3,8 @@
 void WritingQuiz::Start(std::unique_ptr<Element> glyph, CanvasRect canvas)
 {
     m_checker.reset();
+    m_accepted.clear();
+    m_canvas = canvas;
     m_glyph = std::move(glyph);
     if (m_glyph)
         m_checker = std::make_unique<StrokeChecker>(m_glyph->GetForm(0), canvas, StrokeChecker::PageSampleCount);
@@ -11,9 +13,36 @@ void WritingQuiz::Start(std::unique_ptr<Element> glyph, CanvasRect canvas)
     m_hintShown = m_revealed = m_peeked = false;
 }
 
+namespace {
+
+/// The centre of a box, canvas pixels.
+Point CentreOf(CanvasRect box)
+{
+    return {box.x + box.width * 0.5f, box.y + box.height * 0.5f};
+}
+
+} // namespace
+
+OwnFrame WritingQuiz::FrameFor(const StrokePath& ink) const
+{
+    if (!m_ownFrame || !m_checker || m_kept >= m_checker->StrokeCount())
+        return OwnFrame();
+    if (!m_accepted.empty())
+        return OwnFrame::Fit(m_accepted, m_canvas);
+    const StrokeChecker::Ink drawn = m_checker->Prepare(ink);
+    if (!drawn.hasLength)
+        return OwnFrame();
+    return OwnFrame::ForFirstStroke(
+        {CentreOf(m_checker->StrokeBounds(m_kept)), Point{drawn.centreX, drawn.centreY}}, m_canvas);
+}
+
 bool WritingQuiz::Accepts(const StrokePath& ink) const
 {
-    return m_checker && m_checker->Accepts(ink, m_kept);
+    if (!m_checker)
+        return false;
+    if (!m_ownFrame)
+        return m_checker->Accepts(ink, m_kept);
+    return m_checker->Accepts(FrameFor(ink).ToModel(ink), m_kept);
 }
 
 StrokeVerdict WritingQuiz::Judge(const StrokePath& ink) const
@@ -23,11 +52,30 @@ StrokeVerdict WritingQuiz::Judge(const StrokePath& ink) const
         none.kind = StrokeVerdict::Kind::CharacterComplete;
         return none;
     }
-    return JudgeStroke(*m_checker, ink, m_kept);
+    if (!m_ownFrame)
+        return JudgeStroke(*m_checker, ink, m_kept);
+    const OwnFrame frame = FrameFor(ink);
+    StrokeVerdict verdict = JudgeStroke(*m_checker, frame.ToModel(ink), m_kept);
+    if (verdict.kind == StrokeVerdict::Kind::WrongPlace) {
+        // The way to go, told in the learner's own character: from where the ink is to where
+        // the stroke belongs in it.
+        const Point from = frame.ToLearner({verdict.fromX, verdict.fromY});
+        verdict.fromX = from.x;
+        verdict.fromY = from.y;
+        verdict.dx *= frame.Scale();
+        verdict.dy *= frame.Scale();
+    }
+    return verdict;
 }
 
-void WritingQuiz::StrokeKept()
+void WritingQuiz::StrokeKept(const StrokePath& ink)
 {
+    if (m_checker && m_kept < m_checker->StrokeCount()) {
+        const StrokeChecker::Ink drawn = m_checker->Prepare(ink);
+        if (drawn.hasLength)
+            m_accepted.push_back(
+                {CentreOf(m_checker->StrokeBounds(m_kept)), Point{drawn.centreX, drawn.centreY}});
+    }
     ++m_kept;
     m_misses = 0;
     m_hintShown = false;
@@ -37,6 +85,8 @@ void WritingQuiz::StrokeUndone()
 {
     if (m_kept > 0)
         --m_kept;
+    if (m_accepted.size() > m_kept)
+        m_accepted.resize(m_kept);
     m_misses = 0;
     m_hintShown = false;
 }
@@ -44,6 +94,7 @@ void WritingQuiz::StrokeUndone()
 void WritingQuiz::Restart()
 {
     m_kept = 0;
+    m_accepted.clear();
     m_misses = 0;
     m_hintShown = false;
 }

@@ -2,12 +2,14 @@
 
 #include "CanvasRect.h"
 #include "Element.h"
+#include "OwnFrame.h"
 #include "StrokeChecker.h"
 #include "StrokePath.h"
 #include "StrokeVerdict.h"
 
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 /// Writing one character stroke by stroke, as the lesson and the drawing test share it: which
 /// stroke comes next, whether a drawn stroke is accepted, whether the start of the next stroke
@@ -28,10 +30,21 @@ public:
     /// Every stroke has been written.
     bool IsComplete() const { return m_glyph && m_kept >= StrokeCount(); }
 
+    /// Judges each stroke's place (and size) in the learner's own character, fitted to the
+    /// strokes accepted so far (OwnFrame), instead of on the model's place on the canvas. Off,
+    /// every stroke is judged exactly as the checker judges it.
+    void SetOwnFrame(bool on) { m_ownFrame = on; }
+    bool OwnFrameOn() const { return m_ownFrame; }
+    /// The frame the next stroke is judged in: the model's place without the own frame; with
+    /// it, the fit of the accepted strokes, or for a first stroke its room toward the model.
+    OwnFrame FrameFor(const StrokePath& ink) const;
+
     /// Whether a drawn stroke is accepted as the stroke expected next: only a score of exactly
-    /// 1.0 is. A stroke after the last one is scored at that index too, which refuses it.
+    /// 1.0 is (of the ink mapped through the frame). A stroke after the last one is scored at
+    /// that index too, which refuses it.
     bool Accepts(const StrokePath& ink) const;
-    /// Why a drawn stroke is refused (or that it is accepted, exactly when Accepts says so).
+    /// Why a drawn stroke is refused (or that it is accepted, exactly when Accepts says so). A
+    /// misplaced stroke is told the way to where it belongs in the learner's own character.
     StrokeVerdict Judge(const StrokePath& ink) const;
     /// A drawn stroke was refused: one more miss of the stroke expected next.
     void StrokeRefused() { ++m_misses; }
@@ -42,8 +55,9 @@ public:
     /// The stroke expected next has been missed often enough to show its start, which is not
     /// shown yet.
     bool NeedsHelp() const { return m_misses >= MissesBeforeHelp && !m_hintShown && !IsComplete(); }
-    /// An accepted stroke was kept; the hint, if any, is spent.
-    void StrokeKept();
+    /// An accepted stroke, `ink`, was kept: it joins the learner's character; the hint, if any,
+    /// is spent.
+    void StrokeKept(const StrokePath& ink);
     /// The last kept stroke was taken back.
     void StrokeUndone();
     /// Every stroke was wiped: the character starts again.
@@ -61,6 +75,9 @@ public:
 private:
     std::unique_ptr<Element> m_glyph;
     std::unique_ptr<StrokeChecker> m_checker;
+    CanvasRect m_canvas;
+    std::vector<OwnFrame::Pair> m_accepted; ///< the kept strokes' places, in order
+    bool m_ownFrame = false;
     std::uint16_t m_kept = 0;
     int m_misses = 0;
     bool m_hintShown = false;

@@ -7,6 +7,7 @@
 WritingPanel::WritingPanel(InputCanvas* canvas, WritingCoach::Mode mode, QWidget* page)
     : QObject(page), m_canvas(canvas), m_line(new FeedbackLine(page)), m_coach(canvas, m_line, mode)
 {
+    m_quiz.SetOwnFrame(m_coach.Preferences().ownFrame);
     m_canvas->MakeSquare();
     m_canvas->setCursor(WritingCursor());
     connect(m_canvas, &InputCanvas::strokeStarted, this, [this] { m_coach.Quiet(); });
@@ -14,7 +15,7 @@ WritingPanel::WritingPanel(InputCanvas* canvas, WritingCoach::Mode mode, QWidget
     connect(
         m_canvas, &InputCanvas::strokeKept, this,
         [this] {
-            m_quiz.StrokeKept();
+            m_quiz.StrokeKept(m_acceptedInk);
             emit strokeKept();
         },
         Qt::DirectConnection);
@@ -38,8 +39,10 @@ void WritingPanel::OnStrokeEnded()
     // One judgement: accepted exactly when the checker accepts the stroke, which the canvas
     // then keeps (and reports as kept).
     const StrokeVerdict verdict = m_quiz.Judge(ink);
-    if (verdict.kind == StrokeVerdict::Kind::Accepted)
+    if (verdict.kind == StrokeVerdict::Kind::Accepted) {
+        m_acceptedInk = ink; // joins the learner's character once the canvas keeps it
         return;
+    }
     m_canvas->Undo();
     m_quiz.StrokeRefused();
     m_coach.Refused(verdict, ink, m_quiz.Glyph());

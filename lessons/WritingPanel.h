@@ -35,7 +35,11 @@ public:
     /// are cleared.
     void Start(std::unique_ptr<Element> glyph);
     /// Switches the writing aids.
-    void SetCoaching(const CoachingPreferences& preferences) { m_coach.SetPreferences(preferences); }
+    void SetCoaching(const CoachingPreferences& preferences)
+    {
+        m_coach.SetPreferences(preferences);
+        m_quiz.SetOwnFrame(preferences.ownFrame);
+    }
     const CoachingPreferences& Coaching() const { return m_coach.Preferences(); }
 
 signals:
@@ -51,4 +55,5 @@ private:
     FeedbackLine* m_line;
     WritingCoach m_coach;
     WritingQuiz m_quiz;
+    StrokePath m_acceptedInk; ///< the stroke just accepted, until the canvas keeps it
 };

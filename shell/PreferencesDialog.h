@@ -20,4 +20,5 @@ private:
     QCheckBox* m_grid = nullptr;
     QCheckBox* m_hint = nullptr;
     QCheckBox* m_onScreen = nullptr;
+    QCheckBox* m_ownFrame = nullptr;
 };

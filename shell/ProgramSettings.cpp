@@ -15,6 +15,7 @@ const char* const ExplainKey = "Preferences/ExplainRefusedStrokes";
 const char* const GridKey = "Preferences/PracticeGrid";
 const char* const HintKey = "Preferences/HintAfterThreeMisses";
 const char* const OnScreenKey = "Preferences/KeepWindowOnScreen";
+const char* const OwnFrameKey = "Preferences/JudgePlaceByOwnCharacter";
 
 constexpr int PlacementFields = 4;
 constexpr int PlacementBytes = 4 * PlacementFields;
@@ -68,6 +69,7 @@ CoachingPreferences ProgramSettings::Coaching() const
     p.practiceGrid = settings.value(QLatin1String(GridKey), p.practiceGrid).toBool();
     p.hintAfterMisses = settings.value(QLatin1String(HintKey), p.hintAfterMisses).toBool();
     p.keepOnScreen = settings.value(QLatin1String(OnScreenKey), p.keepOnScreen).toBool();
+    p.ownFrame = settings.value(QLatin1String(OwnFrameKey), p.ownFrame).toBool();
     return p;
 }
 
@@ -78,4 +80,5 @@ void ProgramSettings::StoreCoaching(const CoachingPreferences& preferences)
     settings.setValue(QLatin1String(GridKey), preferences.practiceGrid);
     settings.setValue(QLatin1String(HintKey), preferences.hintAfterMisses);
     settings.setValue(QLatin1String(OnScreenKey), preferences.keepOnScreen);
+    settings.setValue(QLatin1String(OwnFrameKey), preferences.ownFrame);
 }

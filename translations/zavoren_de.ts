@@ -506,6 +506,14 @@ Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</transl
         <source>Bring the window onto the screen at start</source>
         <translation>Fenster beim Start auf den Bildschirm holen</translation>
     </message>
+    <message>
+        <source>Judge place by my own character</source>
+        <translation>Lage an meinem eigenen Zeichen messen</translation>
+    </message>
+    <message>
+        <source>A character written a little off-centre, smaller or larger is fine: each stroke is placed against the strokes you have already written</source>
+        <translation>Ein etwas außermittig, kleiner oder größer geschriebenes Zeichen ist in Ordnung: Jeder Strich wird an den schon geschriebenen Strichen gemessen</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>

@@ -506,6 +506,14 @@ Sí lo sustituye; No importa al alumno con otro nombre.</translation>
         <source>Bring the window onto the screen at start</source>
         <translation>Traer la ventana a la pantalla al iniciar</translation>
     </message>
+    <message>
+        <source>Judge place by my own character</source>
+        <translation>Juzgar la posición según mi propio carácter</translation>
+    </message>
+    <message>
+        <source>A character written a little off-centre, smaller or larger is fine: each stroke is placed against the strokes you have already written</source>
+        <translation>Un carácter escrito un poco descentrado, más pequeño o más grande está bien: cada trazo se sitúa respecto a los trazos que ya has escrito</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>

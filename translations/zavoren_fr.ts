@@ -506,6 +506,14 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
         <source>Bring the window onto the screen at start</source>
         <translation>Ramener la fenêtre sur l’écran au démarrage</translation>
     </message>
+    <message>
+        <source>Judge place by my own character</source>
+        <translation>Juger la place d&apos;après mon propre caractère</translation>
+    </message>
+    <message>
+        <source>A character written a little off-centre, smaller or larger is fine: each stroke is placed against the strokes you have already written</source>
+        <translation>Un caractère écrit un peu décentré, plus petit ou plus grand convient : chaque trait est placé par rapport aux traits déjà écrits</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>

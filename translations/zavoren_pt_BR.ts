@@ -506,6 +506,14 @@ Sim substitui; Não importa o aluno com outro nome.</translation>
         <source>Bring the window onto the screen at start</source>
         <translation>Trazer a janela para a tela ao iniciar</translation>
     </message>
+    <message>
+        <source>Judge place by my own character</source>
+        <translation>Julgar a posição pelo meu próprio caractere</translation>
+    </message>
+    <message>
+        <source>A character written a little off-centre, smaller or larger is fine: each stroke is placed against the strokes you have already written</source>
+        <translation>Um caractere escrito um pouco fora do centro, menor ou maior está certo: cada traço é situado em relação aos traços que você já escreveu</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>

@@ -506,6 +506,14 @@ Yes replaces it; No imports the learner under another name.</source>
         <source>Bring the window onto the screen at start</source>
         <translation>Возвращать окно на экран при запуске</translation>
     </message>
+    <message>
+        <source>Judge place by my own character</source>
+        <translation>Оценивать положение по моему собственному знаку</translation>
+    </message>
+    <message>
+        <source>A character written a little off-centre, smaller or larger is fine: each stroke is placed against the strokes you have already written</source>
+        <translation>Знак, написанный чуть не по центру, меньше или больше, — не ошибка: каждая черта оценивается относительно уже написанных черт</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>

@@ -13,7 +13,10 @@ struct CoachingPreferences {
     /// At start, a window whose stored place is off every screen, or whose top-left corner is
     /// off its screen, is brought onto the screen.
     bool keepOnScreen = true;
+    /// Judge each stroke's place and size in the learner's own character (fitted to the strokes
+    /// already accepted), not only against the model's place on the canvas.
+    bool ownFrame = true;
 
-    static CoachingPreferences AllOff() { return {false, false, false, false}; }
+    static CoachingPreferences AllOff() { return {false, false, false, false, false}; }
     bool operator==(const CoachingPreferences&) const = default;
 };

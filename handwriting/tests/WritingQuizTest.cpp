@@ -51,11 +51,11 @@ TEST(WritingQuiz, AcceptsTheStrokesInOrderOnly)
     EXPECT_TRUE(quiz.Accepts(Ink(quiz, 0)));
     EXPECT_FALSE(quiz.Accepts(Ink(quiz, 1))); // the second stroke first
     EXPECT_FALSE(quiz.Accepts(Ink(quiz, 0, 60))); // in the wrong place
-    quiz.StrokeKept();
+    quiz.StrokeKept(Ink(quiz, quiz.Kept()));
     EXPECT_EQ(quiz.Kept(), 1);
     EXPECT_TRUE(quiz.Accepts(Ink(quiz, 1)));
     EXPECT_FALSE(quiz.Accepts(Ink(quiz, 0)));
-    quiz.StrokeKept();
+    quiz.StrokeKept(Ink(quiz, quiz.Kept()));
     EXPECT_TRUE(quiz.IsComplete());
     // Past the last stroke nothing more is accepted.
     EXPECT_FALSE(quiz.Accepts(Ink(quiz, 1)));
@@ -67,7 +67,7 @@ TEST(WritingQuiz, AHintLastsUntilTheStrokeIsKeptOrTakenBack)
     quiz.Start(TwoStrokes(), Canvas);
     quiz.ShowHint();
     EXPECT_TRUE(quiz.HintShown());
-    quiz.StrokeKept();
+    quiz.StrokeKept(Ink(quiz, quiz.Kept()));
     EXPECT_FALSE(quiz.HintShown());
     quiz.ShowHint();
     quiz.StrokeUndone();
@@ -75,7 +75,7 @@ TEST(WritingQuiz, AHintLastsUntilTheStrokeIsKeptOrTakenBack)
     EXPECT_EQ(quiz.Kept(), 0);
     quiz.StrokeUndone(); // nothing left to take back
     EXPECT_EQ(quiz.Kept(), 0);
-    quiz.StrokeKept();
+    quiz.StrokeKept(Ink(quiz, quiz.Kept()));
     quiz.ShowHint();
     quiz.Restart();
     EXPECT_EQ(quiz.Kept(), 0);
@@ -86,7 +86,7 @@ TEST(WritingQuiz, RevealingBeforeTheEndIsPeeking)
 {
     WritingQuiz quiz;
     quiz.Start(TwoStrokes(), Canvas);
-    quiz.StrokeKept();
+    quiz.StrokeKept(Ink(quiz, quiz.Kept()));
     quiz.Reveal();
     EXPECT_TRUE(quiz.Revealed());
     EXPECT_TRUE(quiz.Peeked());
@@ -94,8 +94,8 @@ TEST(WritingQuiz, RevealingBeforeTheEndIsPeeking)
     quiz.Start(TwoStrokes(), Canvas);
     EXPECT_FALSE(quiz.Revealed());
     EXPECT_FALSE(quiz.Peeked());
-    quiz.StrokeKept();
-    quiz.StrokeKept();
+    quiz.StrokeKept(Ink(quiz, quiz.Kept()));
+    quiz.StrokeKept(Ink(quiz, quiz.Kept()));
     quiz.Reveal();
     EXPECT_TRUE(quiz.Revealed());
     EXPECT_FALSE(quiz.Peeked());
@@ -105,7 +105,7 @@ TEST(WritingQuiz, StartingAgainForgetsTheLastCharacter)
 {
     WritingQuiz quiz;
     quiz.Start(TwoStrokes(), Canvas);
-    quiz.StrokeKept();
+    quiz.StrokeKept(Ink(quiz, quiz.Kept()));
     quiz.ShowHint();
     quiz.Start(nullptr, Canvas);
     EXPECT_EQ(quiz.Glyph(), nullptr);
@@ -129,13 +129,13 @@ TEST(WritingQuiz, MissesCountRefusalsOfTheStrokeExpectedNext)
     EXPECT_FALSE(quiz.NeedsHelp()); // shown already
     quiz.StrokeUndone();
     quiz.StrokeRefused();
-    quiz.StrokeKept();
+    quiz.StrokeKept(Ink(quiz, quiz.Kept()));
     EXPECT_EQ(quiz.Misses(), 0); // a new stroke is expected
     quiz.StrokeRefused();
     quiz.Restart();
     EXPECT_EQ(quiz.Misses(), 0);
-    quiz.StrokeKept();
-    quiz.StrokeKept();
+    quiz.StrokeKept(Ink(quiz, quiz.Kept()));
+    quiz.StrokeKept(Ink(quiz, quiz.Kept()));
     EXPECT_EQ(quiz.Judge(Ink(quiz, 1)).kind, StrokeVerdict::Kind::CharacterComplete);
     quiz.Start(nullptr, Canvas);
     EXPECT_EQ(
