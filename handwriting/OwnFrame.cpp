@@ -34,8 +34,10 @@ OwnFrame OwnFrame::Fit(const std::vector<Pair>& accepted, CanvasRect canvas)
         spread += ax * ax + ay * ay;
         follow += ax * bx + ay * by;
     }
+    // The hold on 1 is whole while the strokes spread up to four times the prior, then fades
+    // out by eight times: a whole character's strokes decide its scale alone.
     const double prior = std::pow(ScalePriorShare * canvas.width, 2.0);
-    const double hold = std::max(0.0, prior - spread); // fades out as the strokes spread
+    const double hold = prior * std::clamp((8 * prior - spread) / (4 * prior), 0.0, 1.0);
     double scale = (follow + hold) / (spread + hold);
     scale = std::clamp(scale, double(MinScale), double(MaxScale));
     double ox = dx - scale * mx, oy = dy - scale * my;

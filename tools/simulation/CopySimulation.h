@@ -1,0 +1,58 @@
+#pragma once
+
+#include "CharacterDatabase.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+/// A simulated learner copying characters freehand onto the 298 px writing canvas, stroke by
+/// stroke through WritingQuiz as the lesson page does (a refused stroke is tried again, with a
+/// fresh hand, up to five times), with the own-frame aid on or off. What it measures is what the
+/// learner meets: strokes accepted at the first try, characters with a refusal for place.
+namespace copysimulation {
+
+/// How the learner's hand departs from the model.
+struct Hand {
+    float characterOffset = 12; ///< the whole character's offset, σ per axis, px
+    float characterScale = 0.07f; ///< its size, σ of the scale about the canvas's centre
+    float strokeOffset = 5; ///< each stroke's own further offset, σ per axis, px
+    float wobble = 3; ///< a smooth sideways waver along each stroke, amplitude px
+    float pointNoise = 0; ///< independent noise on each point, σ px (a hand tracing)
+};
+
+/// What is done on purpose, on top of the hand.
+enum class Mistake {
+    None,
+    OneStrokeMoved, ///< one stroke (at random) moved by 15 % of the width, any direction that
+                    ///< keeps it on the canvas
+    CharacterMoved, ///< the whole character moved by 30 % of the width, any direction
+    HalfSizeInACorner, ///< the whole character at half size, shrunk into a corner
+};
+
+struct Figures {
+    int characters = 0;
+    int strokes = 0; ///< strokes expected
+    int firstTry = 0; ///< strokes accepted at their first try
+    int cleanCharacters = 0; ///< characters with no refusal for place
+    int placeRefusals = 0;
+    int shapeRefusals = 0;
+    int otherRefusals = 0;
+    int mistakesCaught = 0; ///< Mistake cases refused for place where it should be
+    int mistakesRefused = 0; ///< Mistake cases refused there at all (for place, or as a later stroke)
+    int mistakes = 0; ///< Mistake cases tried
+
+    double FirstTryShare() const { return strokes ? double(firstTry) / strokes : 0; }
+    double CleanShare() const { return characters ? double(cleanCharacters) / characters : 0; }
+    double CaughtShare() const { return mistakes ? double(mistakesCaught) / mistakes : 0; }
+    double RefusedShare() const { return mistakes ? double(mistakesRefused) / mistakes : 0; }
+};
+
+/// Copies every character of `categories` once per seed.
+Figures Run(CharacterDatabase& database, const std::vector<std::uint16_t>& categories, const Hand& hand,
+    Mistake mistake, bool ownFrame, const std::vector<std::uint32_t>& seeds);
+
+/// The figures on one line, for reports.
+std::string Describe(const Figures& figures, Mistake mistake);
+
+} // namespace copysimulation
