@@ -1,4 +1,5 @@
 #include "WritingQuiz.h"
+#include "FileCharacterDatabase.h"
 #include "LearnerInk.h"
 
 #include <gtest/gtest.h>
@@ -140,4 +141,90 @@ TEST(WritingQuiz, MissesCountRefusalsOfTheStrokeExpectedNext)
     quiz.Start(nullptr, Canvas);
     EXPECT_EQ(
         quiz.Judge(StrokePath(std::vector<Point>{{1, 1}, {50, 50}})).kind, StrokeVerdict::Kind::CharacterComplete);
+}
+
+namespace {
+
+/// A Grade 1 or 2 character of the standard database, found by the start of its meaning.
+std::unique_ptr<Element> StandardGlyph(FileCharacterDatabase& db, const char* meaningStart)
+{
+    for (std::uint16_t grade : {0, 1}) {
+        const auto category = db.LoadCategory(grade);
+        for (std::uint16_t id : category->Characters()) {
+            const auto character = db.LoadCharacter(id);
+            if (character->Meaning() && std::string(character->Meaning()).rfind(meaningStart, 0) == 0)
+                return db.LoadElement(character->ElementId());
+        }
+    }
+    return nullptr;
+}
+
+/// Stroke `k` written as a hand copies beside the model: `right` px right and `scale` times the
+/// size (about the canvas's centre); 12 px and 0.92 by default, a careful hand.
+StrokePath OffAndSmall(const WritingQuiz& quiz, std::uint16_t k, float right = 12, float scale = 0.92f)
+{
+    StrokePath ink = LearnerInk(quiz.Glyph()->GetStroke(k), *quiz.Glyph(), 300);
+    ink.ScaleAndOffset(scale, scale, 150 - scale * 150 + right, 150 - scale * 150);
+    return ink;
+}
+
+} // namespace
+
+TEST(WritingQuiz, ACharacterWrittenOffCentreAndSmallIsJudgedAgainstItself)
+{
+    FileCharacterDatabase db(ZAVOREN_STANDARD_DATABASE);
+    // 国 (country, Grade 2): its outer strokes lie far from the centre, where size tells most.
+    // 12 px right and 8 % small, a careful hand: accepted stroke by stroke with the own frame.
+    // 20 px right and 14 % small: the checker alone refuses strokes for place, the own frame
+    // none.
+    const struct {
+        float right, scale;
+        bool refusedWithout;
+    } hands[] = {{12, 0.92f, false}, {20, 0.86f, true}};
+    for (const auto& hand : hands) {
+        for (bool own : {false, true}) {
+            WritingQuiz quiz;
+            quiz.SetOwnFrame(own);
+            quiz.Start(StandardGlyph(db, "country"), Canvas);
+            ASSERT_GT(quiz.StrokeCount(), 6);
+            int placeRefusals = 0;
+            for (std::uint16_t k = 0; k < quiz.StrokeCount(); ++k) {
+                const StrokePath ink = OffAndSmall(quiz, k, hand.right, hand.scale);
+                const StrokeVerdict verdict = quiz.Judge(ink);
+                EXPECT_EQ(verdict.kind == StrokeVerdict::Kind::Accepted, quiz.Accepts(ink)) << k;
+                placeRefusals += verdict.kind == StrokeVerdict::Kind::WrongPlace ? 1 : 0;
+                if (own) {
+                    EXPECT_EQ(verdict.kind, StrokeVerdict::Kind::Accepted) << hand.right << " px, stroke " << k + 1;
+                }
+                quiz.StrokeKept(ink); // as if it had been accepted, to go on
+            }
+            if (!own && hand.refusedWithout) {
+                EXPECT_GT(placeRefusals, 0); // the checker alone refuses some of it for place
+            }
+        }
+    }
+}
+
+TEST(WritingQuiz, AStrokeOutOfPlaceInTheLearnersCharacterIsToldTheWayThere)
+{
+    FileCharacterDatabase db(ZAVOREN_STANDARD_DATABASE);
+    WritingQuiz quiz;
+    quiz.SetOwnFrame(true);
+    quiz.Start(StandardGlyph(db, "country"), Canvas);
+    for (std::uint16_t k = 0; k < 3; ++k)
+        quiz.StrokeKept(OffAndSmall(quiz, k));
+    // The fourth stroke, 45 px too high in the learner's character: refused, and the way goes
+    // down to where it belongs there (12 px right of the model's place, 8 % nearer the centre).
+    StrokePath high = OffAndSmall(quiz, 3);
+    high.ScaleAndOffset(1, 1, 0, -45);
+    const StrokeVerdict verdict = quiz.Judge(high);
+    ASSERT_EQ(verdict.kind, StrokeVerdict::Kind::WrongPlace);
+    EXPECT_EQ(verdict.Direction(), PlaceDirection::Down);
+    const OwnFrame frame = quiz.FrameFor(high);
+    const StrokePath placed = OffAndSmall(quiz, 3);
+    const auto bounds = placed.Bounds();
+    // The arrow ends at the learner's own place of the stroke, within a few pixels.
+    EXPECT_NEAR(verdict.fromX + verdict.dx, bounds.x + bounds.width * 0.5f, 4.0f);
+    EXPECT_NEAR(verdict.fromY + verdict.dy, bounds.y + bounds.height * 0.5f, 4.0f);
+    EXPECT_LT(frame.Scale(), 1.0f);
 }
