@@ -5,6 +5,7 @@
 #include "GlyphRendering.h"
 #include "StrokeChecker.h"
 #include "StrokeVerdict.h"
+#include "WritingQuiz.h"
 
 #include <benchmark/benchmark.h>
 
@@ -79,6 +80,40 @@ void BM_VerdictForARefusedStroke(benchmark::State& state)
     state.SetLabel(std::to_string(glyph->StrokeCount()) + " strokes");
 }
 BENCHMARK(BM_VerdictForARefusedStroke)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
+
+void BM_JudgeInTheOwnFrame(benchmark::State& state)
+{
+    // The lesson's judgement with the own frame: the glyph with the most strokes, all but the
+    // last accepted (the frame fitted to them all), the last drawn 10 % small and 12 px right.
+    // arg 0: accepted; arg 1: the last stroke 0.15 x width too low, refused (every later
+    // stroke, the reversed stroke, then the place are tried).
+    const Form* glyph = &AverageGlyph();
+    for (const Form& f : Glyphs())
+        if (f.StrokeCount() > glyph->StrokeCount())
+            glyph = &f;
+    constexpr float Side = 298;
+    auto drawn = [&](std::uint16_t k, float down) {
+        StrokePath ink(FlattenStroke(glyph->GetStroke(k)));
+        ink.ScaleAndOffset(0.9f * Side / glyph->Width(), 0.9f * Side / glyph->Height(), 0.05f * Side + 12,
+            0.05f * Side + down);
+        ink.ResampleInPlace(static_cast<std::uint32_t>(std::lround(ink.Length() / 3)) + 2);
+        return ink;
+    };
+    WritingQuiz quiz;
+    quiz.SetOwnFrame(true);
+    auto element = std::make_unique<Element>(0);
+    element->AppendForm(*glyph);
+    quiz.Start(std::move(element), CanvasRect{0, 0, 298, 298});
+    const auto last = static_cast<std::uint16_t>(glyph->StrokeCount() - 1);
+    for (std::uint16_t k = 0; k < last; ++k)
+        quiz.StrokeKept(drawn(k, 0));
+    const StrokePath ink = drawn(last, state.range(0) == 1 ? 0.15f * Side : 0);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(quiz.Judge(ink));
+    state.SetLabel(std::to_string(glyph->StrokeCount()) + " strokes, "
+        + (quiz.Judge(ink).kind == StrokeVerdict::Kind::Accepted ? "accepted" : "refused"));
+}
+BENCHMARK(BM_JudgeInTheOwnFrame)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 void BM_ScoreOneStroke(benchmark::State& state)
 {

@@ -5,6 +5,7 @@
 #include "DatabaseLoadException.h"
 #include "FileCharacterDatabase.h"
 #include "InkFile.h"
+#include "WritingQuiz.h"
 #include "StrokeChecker.h"
 #include "StrokeVerdict.h"
 
@@ -28,7 +29,10 @@ const char* const Usage
       "  zavoren-db dump [--json] PATH\n"
       "  zavoren-db info PATH\n"
       "  zavoren-db score --db PATH --char ID --canvas X,Y,W,H --stroke K --ink FILE\n"
-      "      prints the checker's score, then its verdict (\"accepted\" or why it was refused)\n";
+      "      prints the checker's score, then its verdict (\"accepted\" or why it was refused)\n"
+      "  zavoren-db write --db PATH --char ID --canvas X,Y,W,H --ink FILE [--own-frame]\n"
+      "      judges a JSON array of strokes one after another as a lesson does, one line each;\n"
+      "      with --own-frame each stroke's place is judged in the learner's own character\n";
 
 int Fail(const std::string& message)
 {
@@ -196,62 +200,125 @@ bool ParseNumber(const std::string& text, long min, long max, long& value)
     return errno == 0 && *end == '\0' && value >= min && value <= max;
 }
 
-int Score(const std::vector<std::string>& args)
+/// What `score` and `write` both take: a character of a database laid out on a canvas.
+struct CharacterOnCanvas {
+    std::string db;
+    std::uint16_t id = 0;
+    CanvasRect canvas;
+    std::string ink;
+    long stroke = 0;
+};
+
+/// Reads the options `names` of `command` (all required except `flags`), --db, --char and
+/// --canvas among them; false after saying what is wrong.
+bool ReadCharacterOptions(const char* command, const std::vector<std::string>& args,
+    const std::vector<std::string>& names, const std::vector<std::string>& flags, CharacterOnCanvas& out,
+    std::map<std::string, std::string>& o)
 {
-    std::map<std::string, std::string> o;
     std::vector<std::string> positional;
     std::string error;
-    const std::vector<std::string> names{"--db", "--char", "--canvas", "--stroke", "--ink"};
     if (!ParseOptions(args, names, o, positional, error))
-        return Fail(error);
+        return Fail(error), false;
     for (const auto& [name, value] : o)
-        if (std::find(names.begin(), names.end(), name) == names.end())
-            return Fail("score: unknown option " + name);
+        if (std::find(names.begin(), names.end(), name) == names.end()
+            && std::find(flags.begin(), flags.end(), name) == flags.end())
+            return Fail(std::string(command) + ": unknown option " + name), false;
     for (const std::string& name : names)
         if (!o.count(name))
-            return Fail("score needs " + name + "\n" + Usage);
-    long id = 0, stroke = 0;
+            return Fail(std::string(command) + " needs " + name + "\n" + Usage), false;
+    long id = 0;
     if (!ParseNumber(o["--char"], 0, 0xFFFF, id))
-        return Fail("--char must be a character id from 0 to 65535");
-    if (!ParseNumber(o["--stroke"], 0, 0xFFFF, stroke))
-        return Fail("--stroke must be a stroke index from 0 to 65535");
+        return Fail("--char must be a character id from 0 to 65535"), false;
+    if (o.count("--stroke") && !ParseNumber(o["--stroke"], 0, 0xFFFF, out.stroke))
+        return Fail("--stroke must be a stroke index from 0 to 65535"), false;
     long rect[4];
-    {
-        std::stringstream parts(o["--canvas"]);
-        std::string part;
-        int n = 0;
-        while (std::getline(parts, part, ',')) {
-            if (n == 4 || !ParseNumber(part, 0, 0xFFFF, rect[n]))
-                return Fail("--canvas must be X,Y,W,H in pixels (0 to 65535)");
-            ++n;
-        }
-        if (n != 4 || rect[2] == 0 || rect[3] == 0)
-            return Fail("--canvas must be X,Y,W,H in pixels with a width and height above 0");
+    std::stringstream parts(o["--canvas"]);
+    std::string part;
+    int n = 0;
+    while (std::getline(parts, part, ',')) {
+        if (n == 4 || !ParseNumber(part, 0, 0xFFFF, rect[n]))
+            return Fail("--canvas must be X,Y,W,H in pixels (0 to 65535)"), false;
+        ++n;
     }
+    if (n != 4 || rect[2] == 0 || rect[3] == 0)
+        return Fail("--canvas must be X,Y,W,H in pixels with a width and height above 0"), false;
+    out.db = o["--db"];
+    out.id = static_cast<std::uint16_t>(id);
+    out.canvas = CanvasRect{static_cast<std::uint16_t>(rect[0]), static_cast<std::uint16_t>(rect[1]),
+        static_cast<std::uint16_t>(rect[2]), static_cast<std::uint16_t>(rect[3])};
+    out.ink = o["--ink"];
+    return true;
+}
+
+/// The verdict as `score` and `write` print it: "accepted", or why the stroke was refused.
+std::string VerdictLine(const StrokeVerdict& verdict)
+{
+    return verdict.kind == StrokeVerdict::Kind::Accepted ? std::string("accepted") : VerdictText(verdict);
+}
+
+int Score(const std::vector<std::string>& args)
+{
+    CharacterOnCanvas c;
+    std::map<std::string, std::string> o;
+    if (!ReadCharacterOptions("score", args, {"--db", "--char", "--canvas", "--stroke", "--ink"}, {}, c, o))
+        return 1;
     StrokePath ink;
     try {
-        ink = ReadInkFile(o["--ink"]);
+        ink = ReadInkFile(c.ink);
     } catch (const InkFileError& e) {
         return Fail(e.what());
     }
     try {
-        FileCharacterDatabase database(o["--db"]);
+        FileCharacterDatabase database(c.db);
         database.Preload(nullptr);
-        const auto character = database.LoadCharacter(static_cast<std::uint16_t>(id));
+        const auto character = database.LoadCharacter(c.id);
         const auto element = database.LoadElement(character->ElementId());
-        const CanvasRect canvas{static_cast<std::uint16_t>(rect[0]), static_cast<std::uint16_t>(rect[1]),
-            static_cast<std::uint16_t>(rect[2]), static_cast<std::uint16_t>(rect[3])};
-        const StrokeChecker checker(element->GetForm(0), canvas, StrokeChecker::PageSampleCount);
-        const auto index = static_cast<std::uint16_t>(stroke);
+        const StrokeChecker checker(element->GetForm(0), c.canvas, StrokeChecker::PageSampleCount);
+        const auto index = static_cast<std::uint16_t>(c.stroke);
         std::cout << checker.Score(ink, index) << '\n';
         // The verdict a learner would read, on a line of its own ("accepted" when it is).
-        const StrokeVerdict verdict = JudgeStroke(checker, ink, index);
-        std::cout << (verdict.kind == StrokeVerdict::Kind::Accepted ? std::string("accepted") : VerdictText(verdict))
-                  << '\n';
+        std::cout << VerdictLine(JudgeStroke(checker, ink, index)) << '\n';
     } catch (const ZavorenCommon::DatabaseLoadException& e) {
-        return Fail(o["--db"] + ": " + e.what());
+        return Fail(c.db + ": " + e.what());
     } catch (const std::out_of_range&) {
-        return Fail(o["--db"] + ": the character's glyph has no form");
+        return Fail(c.db + ": the character's glyph has no form");
+    }
+    return 0;
+}
+
+int Write(const std::vector<std::string>& args)
+{
+    CharacterOnCanvas c;
+    std::map<std::string, std::string> o;
+    if (!ReadCharacterOptions("write", args, {"--db", "--char", "--canvas", "--ink"}, {"--own-frame"}, c, o))
+        return 1;
+    std::vector<StrokePath> strokes;
+    try {
+        strokes = ReadInkStrokesFile(c.ink);
+    } catch (const InkFileError& e) {
+        return Fail(e.what());
+    }
+    try {
+        FileCharacterDatabase database(c.db);
+        database.Preload(nullptr);
+        const auto character = database.LoadCharacter(c.id);
+        // One stroke after another, as the lesson page judges them: a kept stroke joins the
+        // learner's character and the next stroke is expected; a refused one is wiped.
+        WritingQuiz quiz;
+        quiz.SetOwnFrame(o.count("--own-frame") > 0);
+        quiz.Start(database.LoadElement(character->ElementId()), c.canvas);
+        for (const StrokePath& ink : strokes) {
+            const StrokeVerdict verdict = quiz.Judge(ink);
+            std::cout << VerdictLine(verdict) << '\n';
+            if (verdict.kind == StrokeVerdict::Kind::Accepted)
+                quiz.StrokeKept(ink);
+            else
+                quiz.StrokeRefused();
+        }
+    } catch (const ZavorenCommon::DatabaseLoadException& e) {
+        return Fail(c.db + ": " + e.what());
+    } catch (const std::out_of_range&) {
+        return Fail(c.db + ": the character's glyph has no form");
     }
     return 0;
 }
@@ -274,6 +341,8 @@ int main(int argc, char** argv)
         return Info(args);
     if (command == "score")
         return Score(args);
+    if (command == "write")
+        return Write(args);
     if (command == "--help" || command == "-h" || command == "help") {
         std::cout << Usage;
         return 0;

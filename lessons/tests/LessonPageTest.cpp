@@ -1,4 +1,6 @@
 #include "Named.h"
+#include "CoachingPreferences.h"
+#include "FeedbackLine.h"
 #include "LessonPage.h"
 #include "DisplayCanvas.h"
 #include "InputCanvas.h"
@@ -234,7 +236,115 @@ private slots:
         QCOMPARE(page.DoneCodes(), codes);
     }
 
+    void theOwnFrameJudgesACharacterWrittenBesideTheModel()
+    {
+        // 国 (Grade 2), written as a hand copies beside the model, whole strokes at a time: 12 px
+        // right and 8 % small is accepted stroke by stroke with the aid on; 20 px right and 14 %
+        // small too, where the checker alone (the aid off) refuses strokes for place.
+        const std::uint16_t code = CodeMeaning("country");
+        const struct {
+            float right, scale;
+        } hands[] = {{12, 0.92f}, {20, 0.86f}};
+        for (const auto& hand : hands) {
+            for (bool own : {true, false}) {
+                LessonPage page(*m_standard, m_prompt);
+                CoachingPreferences aids;
+                aids.ownFrame = own;
+                page.SetCoaching(aids);
+                page.show();
+                QVERIFY(QTest::qWaitForWindowExposed(&page));
+                page.StartLesson({code});
+                InputCanvas* input = Named<InputCanvas>(&page, "inputCanvas");
+                const Form& glyph = *page.Glyph();
+                int refusals = 0;
+                for (std::uint16_t k = 0; k < glyph.StrokeCount(); ++k) {
+                    const int before = input->StrokeCount();
+                    DrawInk(input, Beside(StrokeAsMouse(glyph, k, input->ClientRect().width()), input, hand.right, hand.scale));
+                    if (input->StrokeCount() == before) {
+                        ++refusals;
+                        QVERIFY(Named<FeedbackLine>(&page, "strokeFeedback")->text().startsWith(QStringLiteral("Wrong place")));
+                        DrawInk(input, StrokeAsMouse(glyph, k, input->ClientRect().width())); // at the model's place
+                    }
+                    QCOMPARE(input->StrokeCount(), before + 1);
+                }
+                if (own)
+                    QCOMPARE(refusals, 0);
+                else if (hand.right == 20)
+                    QVERIFY(refusals > 0);
+            }
+        }
+    }
+
+    void theArrowPointsToThePlaceInTheLearnersCharacter()
+    {
+        const std::uint16_t code = CodeMeaning("country");
+        LessonPage page(*m_standard, m_prompt);
+        page.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&page));
+        page.StartLesson({code});
+        InputCanvas* input = Named<InputCanvas>(&page, "inputCanvas");
+        const Form& glyph = *page.Glyph();
+        const int side = input->ClientRect().width();
+        for (std::uint16_t k = 0; k < 3; ++k)
+            DrawInk(input, Beside(StrokeAsMouse(glyph, k, side), input, 20, 0.86f));
+        QCOMPARE(input->StrokeCount(), 3);
+        // The fourth stroke 60 px above its place in the learner's character.
+        std::vector<Point> high = Beside(StrokeAsMouse(glyph, 3, side), input, 20, 0.86f);
+        const std::vector<Point> placed = high;
+        for (Point& p : high)
+            p.y -= 60;
+        DrawInk(input, high);
+        QCOMPARE(input->StrokeCount(), 3);
+        QCOMPARE(Named<FeedbackLine>(&page, "strokeFeedback")->text(), QStringLiteral("Wrong place: this stroke belongs further down."));
+        // The arrow's head is at the learner's place of the stroke (the centre of its box), not
+        // at the model's, 20 px away.
+        auto centre = [](const std::vector<Point>& points) {
+            float left = points[0].x, right = left, top = points[0].y, bottom = top;
+            for (Point p : points) {
+                left = std::min(left, p.x);
+                right = std::max(right, p.x);
+                top = std::min(top, p.y);
+                bottom = std::max(bottom, p.y);
+            }
+            return QPoint(int((left + right) / 2), int((top + bottom) / 2));
+        };
+        const QPoint learnerPlace = centre(placed) + input->contentsRect().topLeft();
+        const QPoint modelPlace = centre(StrokeAsMouse(glyph, 3, side)) + input->contentsRect().topLeft();
+        QVERIFY2((learnerPlace - modelPlace).manhattanLength() >= 18, qPrintable(QStringLiteral("%1,%2 %3,%4").arg(learnerPlace.x()).arg(learnerPlace.y()).arg(modelPlace.x()).arg(modelPlace.y())));
+        const QImage shown = input->grab().toImage();
+        const QColor mark = input->palette().color(QPalette::Highlight);
+        auto markedNear = [&](QPoint at) {
+            return CountNear(shown.copy(QRect(at - QPoint(6, 6), QSize(13, 13))), mark, 30);
+        };
+        QVERIFY(markedNear(learnerPlace) > 5);
+        QCOMPARE(markedNear(modelPlace), 0);
+    }
+
 private:
+    /// A character of the standard database (Grade 1 or 2) by the start of its meaning.
+    std::uint16_t CodeMeaning(const char* start) const
+    {
+        for (std::uint16_t grade : {0, 1}) {
+            const auto category = m_standard->LoadCategory(grade);
+            for (std::uint16_t id : category->Characters()) {
+                const auto character = m_standard->LoadCharacter(id);
+                if (character->Meaning() && std::string(character->Meaning()).rfind(start, 0) == 0)
+                    return id;
+            }
+        }
+        return 0;
+    }
+    /// Mouse points of a stroke as written beside the model: `scale` times the size about the
+    /// canvas's centre, then `right` px right.
+    static std::vector<Point> Beside(std::vector<Point> points, InputCanvas* input, float right, float scale)
+    {
+        const float middle = input->ClientRect().width() / 2.0f;
+        for (Point& p : points) {
+            p.x = middle + scale * (p.x - middle) + right;
+            p.y = middle + scale * (p.y - middle);
+        }
+        return points;
+    }
     /// Clicks the box's indicator, as a learner ticks it.
     static void Tick(QCheckBox* box)
     {

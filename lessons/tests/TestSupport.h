@@ -68,6 +68,19 @@ private:
     QTemporaryDir m_dir;
 };
 
+/// Number of pixels of the image within `tolerance` of the colour in each channel.
+inline int CountNear(const QImage& image, const QColor& colour, int tolerance)
+{
+    int n = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor c = image.pixelColor(x, y);
+            n += std::abs(c.red() - colour.red()) <= tolerance && std::abs(c.green() - colour.green()) <= tolerance
+                && std::abs(c.blue() - colour.blue()) <= tolerance;
+        }
+    return n;
+}
+
 /// Number of pixels of the image that are not the given colour.
 inline int CountNot(const QImage& image, QRgb colour)
 {

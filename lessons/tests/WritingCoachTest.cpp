@@ -38,17 +38,6 @@ std::vector<Point> Shifted(std::vector<Point> points, float dx, float dy)
 }
 
 /// Pixels of the image within `tolerance` of `colour` in each channel.
-int CountNear(const QImage& image, const QColor& colour, int tolerance)
-{
-    int n = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x) {
-            const QColor c = image.pixelColor(x, y);
-            n += std::abs(c.red() - colour.red()) <= tolerance && std::abs(c.green() - colour.green()) <= tolerance
-                && std::abs(c.blue() - colour.blue()) <= tolerance;
-        }
-    return n;
-}
 
 } // namespace
 

@@ -54,11 +54,9 @@ private:
     std::size_t m_pos = 0;
 };
 
-} // namespace
-
-StrokePath ParseInkJson(const std::string& text)
+/// One stroke: an array of [x, y] pairs.
+StrokePath ReadStroke(JsonCursor& cursor)
 {
-    JsonCursor cursor(text);
     StrokePath ink;
     cursor.Expect('[');
     if (!cursor.Peek(']')) {
@@ -72,20 +70,60 @@ StrokePath ParseInkJson(const std::string& text)
         } while (cursor.Peek(',') && (cursor.Expect(','), true));
     }
     cursor.Expect(']');
-    cursor.End();
     return ink;
 }
 
-StrokePath ReadInkFile(const std::string& path)
+std::string ReadText(const std::string& path)
 {
     std::ifstream file(path);
     if (!file)
         throw InkFileError(path + ": cannot read the ink file");
     std::stringstream text;
     text << file.rdbuf();
+    return text.str();
+}
+
+} // namespace
+
+StrokePath ParseInkJson(const std::string& text)
+{
+    JsonCursor cursor(text);
+    StrokePath ink = ReadStroke(cursor);
+    cursor.End();
+    return ink;
+}
+
+StrokePath ReadInkFile(const std::string& path)
+{
+    const std::string text = ReadText(path);
     try {
-        return ParseInkJson(text.str());
+        return ParseInkJson(text);
     } catch (const InkFileError& e) {
         throw InkFileError(path + ": not a JSON array of [x, y] pairs: " + e.what());
+    }
+}
+
+std::vector<StrokePath> ParseInkStrokesJson(const std::string& text)
+{
+    JsonCursor cursor(text);
+    std::vector<StrokePath> strokes;
+    cursor.Expect('[');
+    if (!cursor.Peek(']')) {
+        do {
+            strokes.push_back(ReadStroke(cursor));
+        } while (cursor.Peek(',') && (cursor.Expect(','), true));
+    }
+    cursor.Expect(']');
+    cursor.End();
+    return strokes;
+}
+
+std::vector<StrokePath> ReadInkStrokesFile(const std::string& path)
+{
+    const std::string text = ReadText(path);
+    try {
+        return ParseInkStrokesJson(text);
+    } catch (const InkFileError& e) {
+        throw InkFileError(path + ": not a JSON array of strokes of [x, y] pairs: " + e.what());
     }
 }

@@ -157,3 +157,35 @@ TEST(ZavorenDb, ScorePrintsTheCheckersScore)
     EXPECT_NE(r.output.find("Character id out of range"), std::string::npos);
     std::filesystem::remove_all(dir);
 }
+
+TEST(ZavorenDb, WriteJudgesStrokesOneAfterAnotherAsALessonDoes)
+{
+    // country-beside.json: 国 (character 80 of the standard database) written beside the model,
+    // 20 px right and 14 % small on a 298 px canvas, its eight strokes in order.
+    const std::string ink = std::string(ZAVOREN_TOOLS_TEST_DATA) + "/country-beside.json";
+    const std::string args = "write --db " + Standard + " --char 80 --canvas 0,0,298,298 --ink " + ink;
+    // The checker alone refuses the first stroke for its place; the rest then come too early.
+    Result r = RunTool(args);
+    EXPECT_EQ(r.exitCode, 0);
+    EXPECT_EQ(r.output,
+        "Wrong place: this stroke belongs further left.\n"
+        "Wrong order: that is stroke 2. Write stroke 1 first.\n"
+        "Wrong order: that is stroke 3. Write stroke 1 first.\n"
+        "Wrong order: that is stroke 4. Write stroke 1 first.\n"
+        "Wrong order: that is stroke 5. Write stroke 1 first.\n"
+        "Wrong order: that is stroke 6. Write stroke 1 first.\n"
+        "Wrong order: that is stroke 7. Write stroke 1 first.\n"
+        "Wrong order: that is stroke 8. Write stroke 1 first.\n");
+    // In the learner's own character every stroke is accepted.
+    r = RunTool(args + " --own-frame");
+    EXPECT_EQ(r.exitCode, 0);
+    EXPECT_EQ(r.output, "accepted\naccepted\naccepted\naccepted\naccepted\naccepted\naccepted\naccepted\n");
+    // A file that is not an array of strokes is refused with where it went wrong.
+    r = RunTool("write --db " + Standard + " --char 80 --canvas 0,0,298,298 --ink " + std::string(ZAVOREN_TOOLS_TEST_DATA)
+        + "/kanjidic2-sample.xml");
+    EXPECT_NE(r.exitCode, 0);
+    EXPECT_NE(r.output.find("not a JSON array of strokes"), std::string::npos) << r.output;
+    r = RunTool("write --db " + Standard + " --char 80 --canvas 0,0,298,298 --ink " + ink + " --frame");
+    EXPECT_NE(r.exitCode, 0);
+    EXPECT_NE(r.output.find("write: unknown option --frame"), std::string::npos) << r.output;
+}
