@@ -508,7 +508,7 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
     </message>
     <message>
         <source>Judge place by my own character</source>
-        <translation>Juger la place d&apos;après mon propre caractère</translation>
+        <translation>Juger la place d’après mon propre caractère</translation>
     </message>
     <message>
         <source>A character written a little off-centre, smaller or larger is fine: each stroke is placed against the strokes you have already written</source>

@@ -1,6 +1,6 @@
 // Renders the program's pages offscreen into PNG files, so that a change to a page can be looked
 // at: home, category (with learned and untested characters), lesson (mid-character, after a
-// refused stroke), reading test, drawing test, Kanji Info, User Manager, About, the four
+// refused stroke), reading test, drawing test, Kanji Info, User Manager, About, Preferences, the four
 // parts of the progress window, and the start-up window as it shows and half-way through loading.
 //   render_pages DATABASE OUTPUT_FOLDER [--dark] [--screen]
 // Run with QT_QPA_PLATFORM=offscreen, and QT_SCALE_FACTOR=2 for a device pixel ratio of 2;
@@ -20,6 +20,7 @@
 #include "KanjiInfoDialog.h"
 #include "LessonPage.h"
 #include "MessageBoxPrompt.h"
+#include "PreferencesDialog.h"
 #include "ProgressWindow.h"
 #include "ReadingTestPage.h"
 #include "SplashWindow.h"
@@ -201,6 +202,8 @@ int main(int argc, char** argv)
 
     AboutDialog about([](const QUrl&) { return false; });
     ok &= Save(about, out, QStringLiteral("about"));
+    PreferencesDialog preferences(CoachingPreferences{});
+    ok &= Save(preferences, out, QStringLiteral("preferences"));
 
     // A year of work: a lesson every other day and its test, some failed with mistakes.
     const int today = EventDay("2026-11-22T20:00:00+01:00");
