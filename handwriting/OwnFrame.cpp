@@ -9,6 +9,26 @@ OwnFrame::OwnFrame(float scale, float offsetX, float offsetY, CanvasRect canvas)
 {
 }
 
+namespace {
+
+/// The scale the strokes' sizes say: the geometric mean of their length ratios, within the
+/// sizes' limits; 1 when none is known.
+double SizeScale(const std::vector<OwnFrame::Pair>& pairs)
+{
+    double sum = 0;
+    int known = 0;
+    for (const OwnFrame::Pair& p : pairs)
+        if (p.lengthRatio > 0) {
+            sum += std::log(double(p.lengthRatio));
+            ++known;
+        }
+    if (known == 0)
+        return 1.0;
+    return std::clamp(std::exp(sum / known), double(OwnFrame::MinSizeScale), double(OwnFrame::MaxSizeScale));
+}
+
+} // namespace
+
 OwnFrame OwnFrame::Fit(const std::vector<Pair>& accepted, CanvasRect canvas)
 {
     if (accepted.empty())
@@ -38,7 +58,7 @@ OwnFrame OwnFrame::Fit(const std::vector<Pair>& accepted, CanvasRect canvas)
     // out by eight times: a whole character's strokes decide its scale alone.
     const double prior = std::pow(ScalePriorShare * canvas.width, 2.0);
     const double hold = prior * std::clamp((8 * prior - spread) / (4 * prior), 0.0, 1.0);
-    double scale = (follow + hold) / (spread + hold);
+    double scale = (follow + hold * SizeScale(accepted)) / (spread + hold);
     scale = std::clamp(scale, double(MinScale), double(MaxScale));
     double ox = dx - scale * mx, oy = dy - scale * my;
     const double length = std::hypot(ox, oy), limit = MaxOffsetShare * canvas.width;
@@ -51,13 +71,18 @@ OwnFrame OwnFrame::Fit(const std::vector<Pair>& accepted, CanvasRect canvas)
 
 OwnFrame OwnFrame::ForFirstStroke(Pair stroke, CanvasRect canvas)
 {
-    double ox = stroke.drawn.x - stroke.model.x, oy = stroke.drawn.y - stroke.model.y;
+    // One stroke's length says little of the character's size: it may move the scale by 8 % at
+    // most.
+    const double scale = std::clamp(SizeScale({stroke}), double(FirstStrokeMinScale), double(FirstStrokeMaxScale));
+    const double cx = canvas.x + canvas.width * 0.5, cy = canvas.y + canvas.height * 0.5;
+    double ox = stroke.drawn.x - (cx + scale * (stroke.model.x - cx));
+    double oy = stroke.drawn.y - (cy + scale * (stroke.model.y - cy));
     const double length = std::hypot(ox, oy), limit = FirstStrokeRoomShare * canvas.width;
     if (length > limit) {
         ox *= limit / length;
         oy *= limit / length;
     }
-    return OwnFrame(1.0f, static_cast<float>(ox), static_cast<float>(oy), canvas);
+    return OwnFrame(static_cast<float>(scale), static_cast<float>(ox), static_cast<float>(oy), canvas);
 }
 
 Point OwnFrame::ToModel(Point learner) const

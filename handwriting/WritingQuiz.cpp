@@ -23,6 +23,13 @@ Point CentreOf(CanvasRect box)
 
 } // namespace
 
+OwnFrame::Pair WritingQuiz::PairOf(const StrokeChecker::Ink& drawn, std::uint16_t index) const
+{
+    const float expected = m_checker->Template(index).Length();
+    return {CentreOf(m_checker->StrokeBounds(index)), Point{drawn.centreX, drawn.centreY},
+        expected > 0 ? drawn.length / expected : 0.0f};
+}
+
 OwnFrame WritingQuiz::FrameFor(const StrokePath& ink) const
 {
     if (!m_ownFrame || !m_checker || m_kept >= m_checker->StrokeCount())
@@ -32,8 +39,7 @@ OwnFrame WritingQuiz::FrameFor(const StrokePath& ink) const
     const StrokeChecker::Ink drawn = m_checker->Prepare(ink);
     if (!drawn.hasLength)
         return OwnFrame();
-    return OwnFrame::ForFirstStroke(
-        {CentreOf(m_checker->StrokeBounds(m_kept)), Point{drawn.centreX, drawn.centreY}}, m_canvas);
+    return OwnFrame::ForFirstStroke(PairOf(drawn, m_kept), m_canvas);
 }
 
 bool WritingQuiz::Accepts(const StrokePath& ink) const
@@ -73,8 +79,7 @@ void WritingQuiz::StrokeKept(const StrokePath& ink)
     if (m_checker && m_kept < m_checker->StrokeCount()) {
         const StrokeChecker::Ink drawn = m_checker->Prepare(ink);
         if (drawn.hasLength)
-            m_accepted.push_back(
-                {CentreOf(m_checker->StrokeBounds(m_kept)), Point{drawn.centreX, drawn.centreY}});
+            m_accepted.push_back(PairOf(drawn, m_kept));
     }
     ++m_kept;
     m_misses = 0;

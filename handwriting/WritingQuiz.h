@@ -73,6 +73,9 @@ public:
     bool Peeked() const { return m_peeked; }
 
 private:
+    /// Where drawn ink lies and how long it is, against expected stroke `index`.
+    OwnFrame::Pair PairOf(const StrokeChecker::Ink& drawn, std::uint16_t index) const;
+
     std::unique_ptr<Element> m_glyph;
     std::unique_ptr<StrokeChecker> m_checker;
     CanvasRect m_canvas;

@@ -82,3 +82,17 @@ TEST(OwnFrame, TheFirstStrokeHasAtMostItsRoom)
     EXPECT_FLOAT_EQ(far.OffsetX(), 0.0f);
     EXPECT_NEAR(far.OffsetY(), -0.04f * 298, 1e-4f);
 }
+
+TEST(OwnFrame, TheStrokesSizesHoldTheScaleWhileTheirPlacesCannot)
+{
+    // Two strokes 30 px apart, each drawn at 86 % of the model's length and where the model has
+    // it: the places, spread 2 x 15^2 = 450 px^2, say 1; the sizes say 0.86, held with the
+    // weight of (0.25 x 298)^2 = 5550 px^2: (450 + 5550 x 0.86) / (450 + 5550) = 0.8705.
+    const OwnFrame held = OwnFrame::Fit({{{140, 100}, {140, 100}, 0.86f}, {{170, 100}, {170, 100}, 0.86f}}, Canvas);
+    EXPECT_NEAR(held.Scale(), 0.8705f, 0.0005f);
+    // Sizes alone never take the scale past their limits; a first stroke's alone, past 8 %.
+    const OwnFrame small = OwnFrame::Fit({{{140, 100}, {140, 100}, 0.5f}}, Canvas);
+    EXPECT_FLOAT_EQ(small.Scale(), OwnFrame::MinSizeScale);
+    const OwnFrame first = OwnFrame::ForFirstStroke({{100, 100}, {100, 100}, 0.7f}, Canvas);
+    EXPECT_FLOAT_EQ(first.Scale(), OwnFrame::FirstStrokeMinScale);
+}
