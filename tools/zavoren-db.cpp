@@ -5,9 +5,9 @@
 #include "DatabaseLoadException.h"
 #include "FileCharacterDatabase.h"
 #include "InkFile.h"
-#include "WritingQuiz.h"
 #include "StrokeChecker.h"
 #include "StrokeVerdict.h"
+#include "WritingQuiz.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -15,6 +15,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iostream>
 #include <map>
 #include <sstream>
@@ -256,6 +257,22 @@ std::string VerdictLine(const StrokeVerdict& verdict)
     return verdict.kind == StrokeVerdict::Kind::Accepted ? std::string("accepted") : VerdictText(verdict);
 }
 
+/// Opens the database and hands `use` the character's glyph element; the exit code, after
+/// saying what went wrong.
+int WithGlyph(const CharacterOnCanvas& c, const std::function<void(std::unique_ptr<Element>)>& use)
+{
+    try {
+        FileCharacterDatabase database(c.db);
+        database.Preload(nullptr);
+        use(database.LoadElement(database.LoadCharacter(c.id)->ElementId()));
+    } catch (const ZavorenCommon::DatabaseLoadException& e) {
+        return Fail(c.db + ": " + e.what());
+    } catch (const std::out_of_range&) {
+        return Fail(c.db + ": the character's glyph has no form");
+    }
+    return 0;
+}
+
 int Score(const std::vector<std::string>& args)
 {
     CharacterOnCanvas c;
@@ -268,22 +285,13 @@ int Score(const std::vector<std::string>& args)
     } catch (const InkFileError& e) {
         return Fail(e.what());
     }
-    try {
-        FileCharacterDatabase database(c.db);
-        database.Preload(nullptr);
-        const auto character = database.LoadCharacter(c.id);
-        const auto element = database.LoadElement(character->ElementId());
+    return WithGlyph(c, [&](std::unique_ptr<Element> element) {
         const StrokeChecker checker(element->GetForm(0), c.canvas, StrokeChecker::PageSampleCount);
         const auto index = static_cast<std::uint16_t>(c.stroke);
         std::cout << checker.Score(ink, index) << '\n';
         // The verdict a learner would read, on a line of its own ("accepted" when it is).
         std::cout << VerdictLine(JudgeStroke(checker, ink, index)) << '\n';
-    } catch (const ZavorenCommon::DatabaseLoadException& e) {
-        return Fail(c.db + ": " + e.what());
-    } catch (const std::out_of_range&) {
-        return Fail(c.db + ": the character's glyph has no form");
-    }
-    return 0;
+    });
 }
 
 int Write(const std::vector<std::string>& args)
@@ -298,15 +306,12 @@ int Write(const std::vector<std::string>& args)
     } catch (const InkFileError& e) {
         return Fail(e.what());
     }
-    try {
-        FileCharacterDatabase database(c.db);
-        database.Preload(nullptr);
-        const auto character = database.LoadCharacter(c.id);
+    return WithGlyph(c, [&](std::unique_ptr<Element> element) {
         // One stroke after another, as the lesson page judges them: a kept stroke joins the
         // learner's character and the next stroke is expected; a refused one is wiped.
         WritingQuiz quiz;
         quiz.SetOwnFrame(o.count("--own-frame") > 0);
-        quiz.Start(database.LoadElement(character->ElementId()), c.canvas);
+        quiz.Start(std::move(element), c.canvas);
         for (const StrokePath& ink : strokes) {
             const StrokeVerdict verdict = quiz.Judge(ink);
             std::cout << VerdictLine(verdict) << '\n';
@@ -315,12 +320,7 @@ int Write(const std::vector<std::string>& args)
             else
                 quiz.StrokeRefused();
         }
-    } catch (const ZavorenCommon::DatabaseLoadException& e) {
-        return Fail(c.db + ": " + e.what());
-    } catch (const std::out_of_range&) {
-        return Fail(c.db + ": the character's glyph has no form");
-    }
-    return 0;
+    });
 }
 
 } // namespace

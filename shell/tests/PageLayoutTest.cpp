@@ -3,7 +3,6 @@
 // at the ratio, nothing around the canvases is left unpainted, and the writing is judged in
 // logical pixels.
 
-#include "Named.h"
 #include "AboutDialog.h"
 #include "CategoryPage.h"
 #include "CharacterDatabase.h"
@@ -20,15 +19,16 @@
 #include "KanjiInfoDialog.h"
 #include "LessonPage.h"
 #include "MainWindow.h"
+#include "Named.h"
 #include "ReadingTestPage.h"
 #include "RecordingOpener.h"
 #include "RecordingPrompt.h"
 #include "ShellTestSupport.h"
-#include "WindowFixture.h"
 #include "SplashWindow.h"
 #include "TestContainer.h"
 #include "TestSupport.h"
 #include "UserManagerDialog.h"
+#include "WindowFixture.h"
 #include "XmlConfigStore.h"
 
 #include <QCheckBox>
@@ -78,7 +78,8 @@ QString ClippedLabels(QWidget* page)
             fits = label->heightForWidth(label->width()) <= label->height();
         } else {
             const QStringList lines = QString(label->text()).remove(QLatin1Char('&')).split(QLatin1Char('\n'));
-            fits = static_cast<int>(lines.size()) * label->fontMetrics().lineSpacing() <= label->contentsRect().height() + 2;
+            fits = static_cast<int>(lines.size()) * label->fontMetrics().lineSpacing()
+                <= label->contentsRect().height() + 2;
             for (const QString& line : lines)
                 fits = fits && label->fontMetrics().horizontalAdvance(line) <= label->contentsRect().width();
         }
@@ -140,9 +141,7 @@ class PageLayoutTest : public QObject {
 private slots:
     void init()
     {
-        // Five characters to test, so that every page can be reached.
-        const std::vector<std::uint16_t> grade1 = StandardDatabase().LoadCategory(0)->Characters();
-        m_fixture = std::make_unique<WindowFixture>(OneLearner("A", {grade1.begin(), grade1.begin() + 5}));
+        m_fixture = std::make_unique<WindowFixture>(LearnerWithFiveToTest("A"));
         QVERIFY(m_fixture->Start());
         m_window = &m_fixture->Window();
         QVERIFY(QTest::qWaitForWindowExposed(m_window));
@@ -157,9 +156,10 @@ private slots:
 
     void everyPageFitsItsWindowWithTheMenuBar()
     {
-        for (Page* page : {static_cast<Page*>(ChildOf<HomePage>(*m_window)),
-                 static_cast<Page*>(ChildOf<LessonPage>(*m_window)), static_cast<Page*>(ChildOf<TestContainer>(*m_window)),
-                 static_cast<Page*>(ChildOf<CategoryPage>(*m_window))}) {
+        for (Page* page :
+            {static_cast<Page*>(ChildOf<HomePage>(*m_window)), static_cast<Page*>(ChildOf<LessonPage>(*m_window)),
+                static_cast<Page*>(ChildOf<TestContainer>(*m_window)),
+                static_cast<Page*>(ChildOf<CategoryPage>(*m_window))}) {
             Show(page);
             QApplication::processEvents();
             const QString outside = ChildrenOutside(page) + ClippedLabels(page);
@@ -192,8 +192,9 @@ private slots:
             QCOMPARE(PlaceInWindow(Named<QPushButton>(lesson, "nextButton")), *next);
             QCOMPARE(m_window->size(), windowSize);
             // The longest explanation of a refused stroke moves nothing either (it wraps).
-            Named<FeedbackLine>(lesson, "strokeFeedback")->Say(
-                QStringLiteral("Falsche Stelle: dieser Strich gehört weiter nach unten rechts, weiter als man denkt."));
+            Named<FeedbackLine>(lesson, "strokeFeedback")
+                ->Say(QStringLiteral(
+                    "Falsche Stelle: dieser Strich gehört weiter nach unten rechts, weiter als man denkt."));
             QApplication::processEvents();
             QCOMPARE(PlaceInWindow(Named<InputCanvas>(lesson, "inputCanvas")), *input);
             QCOMPARE(PlaceInWindow(Named<QPushButton>(lesson, "nextButton")), *next);
@@ -259,7 +260,8 @@ private slots:
         test->findChild<QStackedWidget*>()->setCurrentWidget(reading);
         int wrapped = 0, shortened = 0;
         // The right answer is always among the choices: characters with long KUN readings.
-        for (std::uint16_t code = 0; code < StandardDatabase().CharacterCount() && (wrapped == 0 || shortened == 0); ++code) {
+        for (std::uint16_t code = 0; code < StandardDatabase().CharacterCount() && (wrapped == 0 || shortened == 0);
+             ++code) {
             const auto character = StandardDatabase().LoadCharacter(code);
             const QString kun = QString::fromUtf8(character->KunReading() ? character->KunReading() : "");
             if (kun.size() < 16)
@@ -331,7 +333,8 @@ private slots:
         UserManagerDialog manager(m_fixture->Store(), m_fixture->Prompt());
         manager.show();
         QVERIFY(QTest::qWaitForWindowExposed(&manager));
-        QVERIFY2((ChildrenOutside(&manager) + ClippedLabels(&manager)).isEmpty(), qPrintable(ChildrenOutside(&manager)));
+        QVERIFY2(
+            (ChildrenOutside(&manager) + ClippedLabels(&manager)).isEmpty(), qPrintable(ChildrenOutside(&manager)));
         AboutDialog about(m_urls.Opener());
         about.show();
         QVERIFY(QTest::qWaitForWindowExposed(&about));
@@ -345,7 +348,8 @@ private slots:
         Show(lesson);
         lesson->StartLesson({StandardDatabase().LoadCategory(0)->Characters()[0]});
         QApplication::processEvents();
-        for (CanvasBase* canvas : {static_cast<CanvasBase*>(Named<InputCanvas>(lesson, "inputCanvas")), static_cast<CanvasBase*>(Named<DisplayCanvas>(lesson, "displayCanvas"))}) {
+        for (CanvasBase* canvas : {static_cast<CanvasBase*>(Named<InputCanvas>(lesson, "inputCanvas")),
+                 static_cast<CanvasBase*>(Named<DisplayCanvas>(lesson, "displayCanvas"))}) {
             QCOMPARE(canvas->BackBuffer().devicePixelRatio(), m_ratio);
             QCOMPARE(canvas->BackBuffer().size(), (QSizeF(canvas->ClientRect().size()) * m_ratio).toSize());
         }
@@ -392,7 +396,8 @@ private slots:
         QApplication::processEvents();
         const QImage page = lesson->grab().toImage();
         const QColor window = lesson->palette().color(QPalette::Window);
-        for (CanvasBase* canvas : {static_cast<CanvasBase*>(Named<InputCanvas>(lesson, "inputCanvas")), static_cast<CanvasBase*>(Named<DisplayCanvas>(lesson, "displayCanvas"))}) {
+        for (CanvasBase* canvas : {static_cast<CanvasBase*>(Named<InputCanvas>(lesson, "inputCanvas")),
+                 static_cast<CanvasBase*>(Named<DisplayCanvas>(lesson, "displayCanvas"))}) {
             const QRect client(canvas->mapTo(lesson, canvas->contentsRect().topLeft()), canvas->contentsRect().size());
             const QRect device(
                 (QPointF(client.topLeft()) * m_ratio).toPoint(), (QSizeF(client.size()) * m_ratio).toSize());
@@ -400,8 +405,8 @@ private slots:
             QCOMPARE(StrayPixelsInBand(page, device.adjusted(1, 1, -1, -1), 3, canvas->Background()), 0);
             // Just outside the frame: the page's own background.
             const QRect frame(canvas->mapTo(lesson, QPoint(0, 0)), canvas->size());
-            const QRect around(
-                (QPointF(frame.topLeft() - QPoint(2, 2)) * m_ratio).toPoint(), (QSizeF(frame.size() + QSize(4, 4)) * m_ratio).toSize());
+            const QRect around((QPointF(frame.topLeft() - QPoint(2, 2)) * m_ratio).toPoint(),
+                (QSizeF(frame.size() + QSize(4, 4)) * m_ratio).toSize());
             QCOMPARE(StrayPixelsInBand(page, around.adjusted(0, 0, -1, -1), static_cast<int>(m_ratio), window), 0);
         }
     }
@@ -488,8 +493,8 @@ private:
             return;
         HomePage* home = ChildOf<HomePage>(w);
         QTreeWidget* list = Named<QTreeWidget>(home, "categoryList");
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
-            list->visualItemRect(list->topLevelItem(0)).center());
+        QTest::mouseClick(
+            list->viewport(), Qt::LeftButton, Qt::NoModifier, list->visualItemRect(list->topLevelItem(0)).center());
         QTest::mouseClick(Named<QPushButton>(home, "openButton"), Qt::LeftButton);
         if (page == ChildOf<LessonPage>(w))
             QTest::mouseClick(Named<QPushButton>(category, "lessonButton"), Qt::LeftButton);

@@ -7,13 +7,13 @@
 #include "CanvasBase.h"
 #include "CategoryPage.h"
 #include "DisplayCanvas.h"
+#include "DrawingTestPage.h"
+#include "HomePage.h"
 #include "InputCanvas.h"
 #include "LessonPage.h"
 #include "Named.h"
 #include "ReadingTestPage.h"
-#include "DrawingTestPage.h"
 #include "TestContainer.h"
-#include "HomePage.h"
 #include "WindowFixture.h"
 
 #include <QPushButton>
@@ -57,8 +57,7 @@ class StalePixelsTest : public QObject {
 private slots:
     void init()
     {
-        const std::vector<std::uint16_t> grade1 = StandardDatabase().LoadCategory(0)->Characters();
-        m_fixture = std::make_unique<WindowFixture>(OneLearner("A", {grade1.begin(), grade1.begin() + 5}));
+        m_fixture = std::make_unique<WindowFixture>(LearnerWithFiveToTest("A"));
         QVERIFY(m_fixture->Start());
         QVERIFY(QTest::qWaitForWindowExposed(&m_fixture->Window()));
     }
@@ -83,8 +82,8 @@ private slots:
         category->setAutoFillBackground(true);
         auto* home = ChildOf<HomePage>(window);
         QTreeWidget* list = Named<QTreeWidget>(home, "categoryList");
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
-            list->visualItemRect(list->topLevelItem(0)).center());
+        QTest::mouseClick(
+            list->viewport(), Qt::LeftButton, Qt::NoModifier, list->visualItemRect(list->topLevelItem(0)).center());
         QTest::mouseClick(Named<QPushButton>(home, "openButton"), Qt::LeftButton);
         QCOMPARE(ShownPage(window), category);
         QVERIFY(!LoudPixels(OnScreen(window)).isEmpty()); // the colour is on the screen
@@ -106,10 +105,12 @@ private slots:
         const QImage shown = OnScreen(window);
         const QString left = LoudPixels(shown);
         if (!left.isEmpty()) // kept for a look: what the learner would see
-            shown.save(QDir::temp().filePath(QStringLiteral("zavoren-stale-%1-%2.png")
-                                                 .arg(window.devicePixelRatioF())
-                                                 .arg(drawingTest ? QStringLiteral("drawing") : QStringLiteral("lesson"))));
-        QVERIFY2(left.isEmpty(), qPrintable(QStringLiteral("at ratio %1: %2").arg(window.devicePixelRatioF()).arg(left)));
+            shown.save(
+                QDir::temp().filePath(QStringLiteral("zavoren-stale-%1-%2.png")
+                                          .arg(window.devicePixelRatioF())
+                                          .arg(drawingTest ? QStringLiteral("drawing") : QStringLiteral("lesson"))));
+        QVERIFY2(
+            left.isEmpty(), qPrintable(QStringLiteral("at ratio %1: %2").arg(window.devicePixelRatioF()).arg(left)));
     }
 
     void theCanvasFramesAreWholeOnEverySide()
@@ -119,8 +120,8 @@ private slots:
         MainWindow& window = m_fixture->Window();
         auto* home = ChildOf<HomePage>(window);
         QTreeWidget* list = Named<QTreeWidget>(home, "categoryList");
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
-            list->visualItemRect(list->topLevelItem(0)).center());
+        QTest::mouseClick(
+            list->viewport(), Qt::LeftButton, Qt::NoModifier, list->visualItemRect(list->topLevelItem(0)).center());
         QTest::mouseClick(Named<QPushButton>(home, "openButton"), Qt::LeftButton);
         auto* category = ChildOf<CategoryPage>(window);
         QTest::mouseClick(Named<QPushButton>(category, "lessonButton"), Qt::LeftButton);

@@ -120,8 +120,8 @@ inline QAction* ActionOf(QWidget& window, const char* name)
 
 /// A config.xml with one learner, current, whose Grade 1 record holds these untested and
 /// learned characters.
-inline std::string OneLearner(const char* name, const std::vector<std::uint16_t>& untested = {},
-    const std::vector<std::uint16_t>& learned = {})
+inline std::string OneLearner(
+    const char* name, const std::vector<std::uint16_t>& untested = {}, const std::vector<std::uint16_t>& learned = {})
 {
     auto list = [](const char* element, const std::vector<std::uint16_t>& codes) {
         std::string xml = std::string("<") + element + ">";
@@ -132,4 +132,12 @@ inline std::string OneLearner(const char* name, const std::vector<std::uint16_t>
     return std::string("<Zavoren><Users currentUser=\"") + name + "\"><User name=\"" + name
         + "\"><Progress categoryId=\"0\">" + list("Learned", learned) + list("Untested", untested)
         + "</Progress></User></Users></Zavoren>";
+}
+
+/// A config.xml with one learner, current, with the first five characters of Grade 1 to test,
+/// so that every page can be reached.
+inline std::string LearnerWithFiveToTest(const char* name)
+{
+    const std::vector<std::uint16_t> grade1 = StandardDatabase().LoadCategory(0)->Characters();
+    return OneLearner(name, {grade1.begin(), grade1.begin() + 5});
 }
