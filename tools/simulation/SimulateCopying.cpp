@@ -49,6 +49,7 @@ int main(int argc, char** argv)
         {"looser freehand copy (15 px, 10 %, 6 px, 3 px)", looser, Mistake::None},
         {"one stroke moved 15 % in a copy at the model's place", inPlace, Mistake::OneStrokeMoved},
         {"one stroke moved 15 % in a careful freehand copy", careful, Mistake::OneStrokeMoved},
+        {"one stroke moved 15 % in a traced copy (2 px offset and waver)", tracing, Mistake::OneStrokeMoved},
         {"whole character moved 30 % (careful hand)", careful, Mistake::CharacterMoved},
         {"half size in a corner (careful hand)", careful, Mistake::HalfSizeInACorner},
         {"tracing over the model (2 px offset and waver)", tracing, Mistake::None},
