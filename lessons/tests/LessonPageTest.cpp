@@ -238,10 +238,10 @@ private slots:
 
     void theOwnFrameJudgesACharacterWrittenBesideTheModel()
     {
-        // 国 (Grade 2), written as a hand copies beside the model, whole strokes at a time: 12 px
+        // 田 (Grade 1), written as a hand copies beside the model, whole strokes at a time: 12 px
         // right and 8 % small is accepted stroke by stroke with the aid on; 20 px right and 14 %
         // small too, where the checker alone (the aid off) refuses strokes for place.
-        const std::uint16_t code = CodeMeaning("country");
+        const std::uint16_t code = CodeMeaning("rice field");
         const struct {
             float right, scale;
         } hands[] = {{12, 0.92f}, {20, 0.86f}};
@@ -277,7 +277,7 @@ private slots:
 
     void theArrowPointsToThePlaceInTheLearnersCharacter()
     {
-        const std::uint16_t code = CodeMeaning("country");
+        const std::uint16_t code = CodeMeaning("rice field");
         LessonPage page(*m_standard, m_prompt);
         page.show();
         QVERIFY(QTest::qWaitForWindowExposed(&page));
@@ -332,7 +332,7 @@ private:
                     return id;
             }
         }
-        return 0;
+        qFatal("no character of Grade 1 or 2 means \"%s\"", start);
     }
     /// Mouse points of a stroke as written beside the model: `scale` times the size about the
     /// canvas's centre, then `right` px right.
