@@ -11,7 +11,7 @@ build_dir=${ZAVOREN_BUILD_DIR:-$root/build}
 packages=(
     build-essential cmake ninja-build pkg-config
     qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins libgl-dev qt6-charts-dev libqt6opengl6-dev qt6-l10n-tools qt6-translations-l10n
-    libpugixml-dev zlib1g-dev
+    libpugixml-dev zlib1g-dev libsqlite3-dev
     googletest libgtest-dev libgmock-dev libbenchmark-dev
     fonts-ipafont-gothic kanjidic-xml
     clang libclang-rt-14-dev

@@ -1,0 +1,248 @@
+#include "HistoryStore.h"
+
+#include <sqlite3.h>
+
+#include <cstdio>
+#include <ctime>
+#include <filesystem>
+
+namespace {
+
+/// The schema, version by version: migration N takes a file of version N - 1 to version N.
+const char* const Migrations[] = {
+    // 1: the events, by learner in the order recorded, and by learner and character.
+    "CREATE TABLE events ("
+    " id INTEGER PRIMARY KEY,"
+    " learner TEXT NOT NULL,"
+    " at TEXT NOT NULL,"
+    " kind TEXT NOT NULL,"
+    " category INTEGER NOT NULL,"
+    " character INTEGER NOT NULL,"
+    " mistakes INTEGER NOT NULL DEFAULT -1);"
+    "CREATE INDEX events_by_learner ON events (learner, id);"
+    "CREATE INDEX events_by_character ON events (learner, category, character, id);",
+};
+static_assert(std::size(Migrations) == HistoryStore::SchemaVersion);
+
+std::string Reason(sqlite3* db)
+{
+    return db ? sqlite3_errmsg(db) : "out of memory";
+}
+
+/// A statement that is finalised when it goes.
+class Statement {
+public:
+    Statement(sqlite3* db, const char* sql)
+    {
+        m_ok = sqlite3_prepare_v2(db, sql, -1, &m_statement, nullptr) == SQLITE_OK;
+    }
+    ~Statement() { sqlite3_finalize(m_statement); }
+    Statement(const Statement&) = delete;
+    Statement& operator=(const Statement&) = delete;
+    bool Ok() const { return m_ok; }
+    sqlite3_stmt* Get() const { return m_statement; }
+
+private:
+    sqlite3_stmt* m_statement = nullptr;
+    bool m_ok = false;
+};
+
+/// Whether a failure says the file is damaged or no database at all.
+bool IsDamage(int code)
+{
+    const int primary = code & 0xFF;
+    return primary == SQLITE_CORRUPT || primary == SQLITE_NOTADB;
+}
+
+/// `path` renamed aside with the date and time; the new name, or empty when it could not be.
+std::string RenameAside(const std::string& path)
+{
+    char stamp[32];
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    std::strftime(stamp, sizeof stamp, "%Y%m%d-%H%M%S", &local);
+    const std::string aside = path + ".damaged-" + stamp;
+    std::error_code failed;
+    if (std::filesystem::exists(aside, failed))
+        return {};
+    std::filesystem::rename(path, aside, failed);
+    if (failed)
+        return {};
+    // The journal and shared-memory files belong to the damaged file: they go with it.
+    for (const char* suffix : {"-wal", "-shm"})
+        if (std::filesystem::exists(path + suffix, failed))
+            std::filesystem::rename(path + suffix, aside + suffix, failed);
+    return aside;
+}
+
+/// Opens and checks the file; the SQLite result code of the first failure, SQLITE_OK when it
+/// is ready at the current schema.
+int OpenChecked(const std::string& path, sqlite3*& db, std::string& error)
+{
+    int code
+        = sqlite3_open_v2(path.c_str(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
+    if (code != SQLITE_OK) {
+        error = Reason(db);
+        return code;
+    }
+    sqlite3_extended_result_codes(db, 1);
+    sqlite3_busy_timeout(db, HistoryStore::BusyTimeoutMs);
+    auto run = [&](const char* sql) {
+        char* message = nullptr;
+        const int result = sqlite3_exec(db, sql, nullptr, nullptr, &message);
+        if (result != SQLITE_OK)
+            error = message ? message : Reason(db);
+        sqlite3_free(message);
+        return result;
+    };
+    // Reading the schema version reads the file's header: a file that is not a database says
+    // so here.
+    int version = 0;
+    {
+        Statement read(db, "PRAGMA user_version");
+        if (!read.Ok()) {
+            error = Reason(db);
+            return sqlite3_extended_errcode(db);
+        }
+        code = sqlite3_step(read.Get());
+        if (code != SQLITE_ROW) {
+            error = Reason(db);
+            return code;
+        }
+        version = sqlite3_column_int(read.Get(), 0);
+    }
+    if (version > HistoryStore::SchemaVersion) {
+        error = "it was written by a newer Zavoren! (schema " + std::to_string(version) + ")";
+        return SQLITE_CANTOPEN;
+    }
+    if ((code = run("PRAGMA journal_mode = WAL")) != SQLITE_OK
+        || (code = run("PRAGMA synchronous = FULL")) != SQLITE_OK)
+        return code;
+    if (version > 0) {
+        // A quick look over the pages: damage found now is reported now, not at the first save.
+        Statement check(db, "PRAGMA quick_check");
+        if (!check.Ok() || sqlite3_step(check.Get()) != SQLITE_ROW) {
+            error = Reason(db);
+            return SQLITE_CORRUPT;
+        }
+        const auto* verdict = reinterpret_cast<const char*>(sqlite3_column_text(check.Get(), 0));
+        if (!verdict || std::string(verdict) != "ok") {
+            error = verdict ? verdict : "the file is damaged";
+            return SQLITE_CORRUPT;
+        }
+    }
+    for (int v = version; v < HistoryStore::SchemaVersion; ++v) {
+        const std::string migration = std::string("BEGIN IMMEDIATE;") + Migrations[v]
+            + "PRAGMA user_version = " + std::to_string(v + 1) + ";COMMIT;";
+        if ((code = run(migration.c_str())) != SQLITE_OK) {
+            run("ROLLBACK");
+            return code;
+        }
+    }
+    return SQLITE_OK;
+}
+
+} // namespace
+
+HistoryStore::HistoryStore(sqlite3* db) : m_db(db) { }
+
+HistoryStore::~HistoryStore()
+{
+    sqlite3_close(m_db);
+}
+
+std::unique_ptr<HistoryStore> HistoryStore::Open(const std::string& path, std::string& error)
+{
+    sqlite3* db = nullptr;
+    const int code = OpenChecked(path, db, error);
+    if (code == SQLITE_OK)
+        return std::unique_ptr<HistoryStore>(new HistoryStore(db));
+    sqlite3_close(db);
+    if (IsDamage(code)) {
+        const std::string aside = RenameAside(path);
+        error = aside.empty() ? "the file is damaged (" + error + ") and could not be put aside"
+                              : "the file was damaged (" + error + "); it is kept as " + aside;
+    }
+    return nullptr;
+}
+
+bool HistoryStore::Execute(const char* sql, std::string& error) const
+{
+    char* message = nullptr;
+    const bool ok = sqlite3_exec(m_db, sql, nullptr, nullptr, &message) == SQLITE_OK;
+    if (!ok)
+        error = message ? message : Reason(m_db);
+    sqlite3_free(message);
+    return ok;
+}
+
+bool HistoryStore::Record(const std::string& learner, const std::vector<LearnerEvent>& events, std::string& error)
+{
+    if (!Execute("BEGIN IMMEDIATE", error))
+        return false;
+    Statement insert(
+        m_db, "INSERT INTO events (learner, at, kind, category, character, mistakes) VALUES (?, ?, ?, ?, ?, ?)");
+    bool ok = insert.Ok();
+    for (std::size_t i = 0; ok && i < events.size(); ++i) {
+        const LearnerEvent& e = events[i];
+        sqlite3_stmt* s = insert.Get();
+        ok = sqlite3_bind_text(s, 1, learner.c_str(), -1, SQLITE_TRANSIENT) == SQLITE_OK
+            && sqlite3_bind_text(s, 2, e.at.c_str(), -1, SQLITE_TRANSIENT) == SQLITE_OK
+            && sqlite3_bind_text(s, 3, e.kind.c_str(), -1, SQLITE_TRANSIENT) == SQLITE_OK
+            && sqlite3_bind_int(s, 4, e.categoryId) == SQLITE_OK && sqlite3_bind_int(s, 5, e.id) == SQLITE_OK
+            && sqlite3_bind_int(s, 6, e.mistakes) == SQLITE_OK && sqlite3_step(s) == SQLITE_DONE;
+        sqlite3_reset(s);
+    }
+    if (!ok) {
+        error = Reason(m_db);
+        std::string ignored;
+        Execute("ROLLBACK", ignored);
+        return false;
+    }
+    if (!Execute("COMMIT", error)) {
+        std::string ignored;
+        Execute("ROLLBACK", ignored);
+        return false;
+    }
+    return true;
+}
+
+bool HistoryStore::Events(const std::string& learner, std::vector<LearnerEvent>& events, std::string& error) const
+{
+    Statement select(m_db, "SELECT at, kind, category, character, mistakes FROM events WHERE learner = ? ORDER BY id");
+    if (!select.Ok() || sqlite3_bind_text(select.Get(), 1, learner.c_str(), -1, SQLITE_TRANSIENT) != SQLITE_OK) {
+        error = Reason(m_db);
+        return false;
+    }
+    events.clear();
+    int code = SQLITE_ROW;
+    while ((code = sqlite3_step(select.Get())) == SQLITE_ROW) {
+        sqlite3_stmt* s = select.Get();
+        LearnerEvent e;
+        const auto* at = reinterpret_cast<const char*>(sqlite3_column_text(s, 0));
+        const auto* kind = reinterpret_cast<const char*>(sqlite3_column_text(s, 1));
+        e.at = at ? at : "";
+        e.kind = kind ? kind : "";
+        e.categoryId = static_cast<std::uint16_t>(sqlite3_column_int(s, 2));
+        e.id = static_cast<std::uint16_t>(sqlite3_column_int(s, 3));
+        e.mistakes = sqlite3_column_int(s, 4);
+        events.push_back(std::move(e));
+    }
+    if (code != SQLITE_DONE) {
+        error = Reason(m_db);
+        return false;
+    }
+    return true;
+}
+
+bool HistoryStore::Forget(const std::string& learner, std::string& error)
+{
+    Statement remove(m_db, "DELETE FROM events WHERE learner = ?");
+    if (!remove.Ok() || sqlite3_bind_text(remove.Get(), 1, learner.c_str(), -1, SQLITE_TRANSIENT) != SQLITE_OK
+        || sqlite3_step(remove.Get()) != SQLITE_DONE) {
+        error = Reason(m_db);
+        return false;
+    }
+    return true;
+}

@@ -1,0 +1,182 @@
+// The history database: created with its schema, events kept per learner in the order of their
+// actions, one action all or nothing, and a damaged, foreign, newer or busy file handled without
+// losing anything.
+
+#include "HistoryStore.h"
+
+#include <gtest/gtest.h>
+
+#include <sqlite3.h>
+
+#include <filesystem>
+#include <fstream>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class HistoryStoreTest : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        m_dir = fs::temp_directory_path()
+            / ("zavoren-history-" + std::to_string(::getpid()) + "-"
+                + ::testing::UnitTest::GetInstance()->current_test_info()->name());
+        fs::remove_all(m_dir);
+        fs::create_directories(m_dir);
+    }
+    void TearDown() override { fs::remove_all(m_dir); }
+    std::string Path() const { return (m_dir / "history.db").string(); }
+    /// The files of the folder, by name.
+    std::vector<std::string> Files() const
+    {
+        std::vector<std::string> names;
+        for (const auto& entry : fs::directory_iterator(m_dir))
+            names.push_back(entry.path().filename().string());
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+    /// One value a query on the file gives, read by a connection of the test's own.
+    std::string Query(const char* sql) const
+    {
+        sqlite3* db = nullptr;
+        sqlite3_open(Path().c_str(), &db);
+        sqlite3_stmt* s = nullptr;
+        std::string value;
+        if (sqlite3_prepare_v2(db, sql, -1, &s, nullptr) == SQLITE_OK && sqlite3_step(s) == SQLITE_ROW)
+            value = reinterpret_cast<const char*>(sqlite3_column_text(s, 0));
+        sqlite3_finalize(s);
+        sqlite3_close(db);
+        return value;
+    }
+
+    fs::path m_dir;
+};
+
+LearnerEvent Event(const char* kind, std::uint16_t id, int mistakes = -1)
+{
+    return {"2026-11-23T10:00:00+01:00", kind, 0, id, mistakes};
+}
+
+} // namespace
+
+TEST_F(HistoryStoreTest, ANewFileHasTheSchemaAndIsWrittenAhead)
+{
+    std::string error;
+    auto store = HistoryStore::Open(Path(), error);
+    ASSERT_TRUE(store) << error;
+    EXPECT_EQ(Query("PRAGMA user_version"), "1");
+    EXPECT_EQ(Query("PRAGMA journal_mode"), "wal");
+    EXPECT_EQ(Query("SELECT count(*) FROM sqlite_master WHERE type = 'index'"), "2");
+    store.reset();
+    // Opened again: nothing is migrated twice.
+    store = HistoryStore::Open(Path(), error);
+    ASSERT_TRUE(store) << error;
+    EXPECT_EQ(Query("PRAGMA user_version"), "1");
+}
+
+TEST_F(HistoryStoreTest, EventsAreKeptPerLearnerInTheOrderOfTheirActions)
+{
+    std::string error;
+    auto store = HistoryStore::Open(Path(), error);
+    ASSERT_TRUE(store) << error;
+    ASSERT_TRUE(store->Record("Anna", {Event("lesson", 3), Event("lesson", 1)}, error)) << error;
+    ASSERT_TRUE(store->Record("Ben", {Event("lesson", 9)}, error)) << error;
+    ASSERT_TRUE(store->Record("Anna", {Event("passed", 3, 0), Event("failed", 1, 2), Event("newer-kind", 7)}, error));
+    std::vector<LearnerEvent> anna, ben;
+    ASSERT_TRUE(store->Events("Anna", anna, error));
+    ASSERT_TRUE(store->Events("Ben", ben, error));
+    EXPECT_EQ(anna,
+        (std::vector<LearnerEvent>{Event("lesson", 3), Event("lesson", 1), Event("passed", 3, 0), Event("failed", 1, 2),
+            Event("newer-kind", 7)}));
+    EXPECT_EQ(ben, std::vector<LearnerEvent>{Event("lesson", 9)});
+    // A learner deleted takes their events along; a learner of that name later starts empty.
+    ASSERT_TRUE(store->Forget("Anna", error));
+    ASSERT_TRUE(store->Events("Anna", anna, error));
+    EXPECT_TRUE(anna.empty());
+    ASSERT_TRUE(store->Events("Ben", ben, error));
+    EXPECT_EQ(ben.size(), 1u);
+    // Names are data, never part of a query.
+    ASSERT_TRUE(store->Record("O'Hara\"; DROP TABLE events; --", {Event("lesson", 2)}, error)) << error;
+    ASSERT_TRUE(store->Events("O'Hara\"; DROP TABLE events; --", anna, error));
+    EXPECT_EQ(anna.size(), 1u);
+}
+
+TEST_F(HistoryStoreTest, ADamagedOrForeignFileIsPutAsideNeverOverwritten)
+{
+    // Not a database at all.
+    {
+        std::ofstream(Path(), std::ios::binary) << std::string(5000, 'x');
+        std::string error;
+        EXPECT_FALSE(HistoryStore::Open(Path(), error));
+        EXPECT_NE(error.find("it is kept as " + Path() + ".damaged-"), std::string::npos) << error;
+        const auto files = Files();
+        ASSERT_EQ(files.size(), 1u);
+        EXPECT_EQ(files[0].rfind("history.db.damaged-", 0), 0u);
+        std::ifstream aside(m_dir / files[0], std::ios::binary);
+        EXPECT_EQ(std::string(std::istreambuf_iterator<char>(aside), {}), std::string(5000, 'x')); // untouched
+        fs::remove(m_dir / files[0]);
+    }
+    // A real history whose pages were overwritten in the middle.
+    {
+        std::string error;
+        auto store = HistoryStore::Open(Path(), error);
+        ASSERT_TRUE(store) << error;
+        std::vector<LearnerEvent> many;
+        for (std::uint16_t i = 0; i < 2000; ++i)
+            many.push_back(Event("lesson", i));
+        ASSERT_TRUE(store->Record("Anna", many, error)) << error;
+        store.reset(); // the journal goes back into the file
+        const auto size = fs::file_size(Path());
+        ASSERT_GT(size, 3 * 4096u);
+        std::fstream file(Path(), std::ios::in | std::ios::out | std::ios::binary);
+        file.seekp(2 * 4096);
+        file << std::string(4096, '\xAB');
+        file.close();
+        EXPECT_FALSE(HistoryStore::Open(Path(), error));
+        EXPECT_NE(error.find("it is kept as"), std::string::npos) << error;
+        EXPECT_FALSE(fs::exists(Path()));
+    }
+}
+
+TEST_F(HistoryStoreTest, ANewerSchemaIsLeftAlone)
+{
+    sqlite3* db = nullptr;
+    sqlite3_open(Path().c_str(), &db);
+    sqlite3_exec(db, "CREATE TABLE future (x); PRAGMA user_version = 7;", nullptr, nullptr, nullptr);
+    sqlite3_close(db);
+    std::string error;
+    EXPECT_FALSE(HistoryStore::Open(Path(), error));
+    EXPECT_NE(error.find("newer Zavoren!"), std::string::npos) << error;
+    EXPECT_EQ(Query("PRAGMA user_version"), "7");
+    EXPECT_EQ(Files(), std::vector<std::string>{"history.db"});
+}
+
+TEST_F(HistoryStoreTest, AFileThatCannotBeMadeSaysWhy)
+{
+    std::string error;
+    EXPECT_FALSE(HistoryStore::Open((m_dir / "no-such-folder" / "history.db").string(), error));
+    EXPECT_FALSE(error.empty());
+}
+
+TEST_F(HistoryStoreTest, AnotherProgramHoldingTheFileIsWaitedForAndNothingHalfIsWritten)
+{
+    std::string error;
+    auto store = HistoryStore::Open(Path(), error);
+    ASSERT_TRUE(store) << error;
+    ASSERT_TRUE(store->Record("Anna", {Event("lesson", 1)}, error));
+    // Another connection (as the sqlite3 shell would) holds a write transaction.
+    sqlite3* other = nullptr;
+    sqlite3_open(Path().c_str(), &other);
+    ASSERT_EQ(sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+    EXPECT_FALSE(store->Record("Anna", {Event("lesson", 2), Event("lesson", 3)}, error));
+    EXPECT_NE(error.find("locked"), std::string::npos) << error;
+    sqlite3_exec(other, "ROLLBACK", nullptr, nullptr, nullptr);
+    sqlite3_close(other);
+    // Released: the next action is recorded; the refused one left nothing behind.
+    ASSERT_TRUE(store->Record("Anna", {Event("lesson", 4)}, error)) << error;
+    std::vector<LearnerEvent> events;
+    ASSERT_TRUE(store->Events("Anna", events, error));
+    EXPECT_EQ(events, (std::vector<LearnerEvent>{Event("lesson", 1), Event("lesson", 4)}));
+}
