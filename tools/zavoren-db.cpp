@@ -211,44 +211,44 @@ struct CharacterOnCanvas {
 };
 
 /// Reads the options `names` of `command` (all required except `flags`), --db, --char and
-/// --canvas among them; false after saying what is wrong.
-bool ReadCharacterOptions(const char* command, const std::vector<std::string>& args,
+/// --canvas among them; what is wrong, or nothing.
+std::string ReadCharacterOptions(const char* command, const std::vector<std::string>& args,
     const std::vector<std::string>& names, const std::vector<std::string>& flags, CharacterOnCanvas& out,
     std::map<std::string, std::string>& o)
 {
     std::vector<std::string> positional;
     std::string error;
     if (!ParseOptions(args, names, o, positional, error))
-        return Fail(error), false;
+        return error;
     for (const auto& [name, value] : o)
         if (std::find(names.begin(), names.end(), name) == names.end()
             && std::find(flags.begin(), flags.end(), name) == flags.end())
-            return Fail(std::string(command) + ": unknown option " + name), false;
+            return std::string(command) + ": unknown option " + name;
     for (const std::string& name : names)
         if (!o.count(name))
-            return Fail(std::string(command) + " needs " + name + "\n" + Usage), false;
+            return std::string(command) + " needs " + name + "\n" + Usage;
     long id = 0;
     if (!ParseNumber(o["--char"], 0, 0xFFFF, id))
-        return Fail("--char must be a character id from 0 to 65535"), false;
+        return "--char must be a character id from 0 to 65535";
     if (o.count("--stroke") && !ParseNumber(o["--stroke"], 0, 0xFFFF, out.stroke))
-        return Fail("--stroke must be a stroke index from 0 to 65535"), false;
+        return "--stroke must be a stroke index from 0 to 65535";
     long rect[4];
     std::stringstream parts(o["--canvas"]);
     std::string part;
     int n = 0;
     while (std::getline(parts, part, ',')) {
         if (n == 4 || !ParseNumber(part, 0, 0xFFFF, rect[n]))
-            return Fail("--canvas must be X,Y,W,H in pixels (0 to 65535)"), false;
+            return "--canvas must be X,Y,W,H in pixels (0 to 65535)";
         ++n;
     }
     if (n != 4 || rect[2] == 0 || rect[3] == 0)
-        return Fail("--canvas must be X,Y,W,H in pixels with a width and height above 0"), false;
+        return "--canvas must be X,Y,W,H in pixels with a width and height above 0";
     out.db = o["--db"];
     out.id = static_cast<std::uint16_t>(id);
     out.canvas = CanvasRect{static_cast<std::uint16_t>(rect[0]), static_cast<std::uint16_t>(rect[1]),
         static_cast<std::uint16_t>(rect[2]), static_cast<std::uint16_t>(rect[3])};
     out.ink = o["--ink"];
-    return true;
+    return {};
 }
 
 /// The verdict as `score` and `write` print it: "accepted", or why the stroke was refused.
@@ -277,8 +277,10 @@ int Score(const std::vector<std::string>& args)
 {
     CharacterOnCanvas c;
     std::map<std::string, std::string> o;
-    if (!ReadCharacterOptions("score", args, {"--db", "--char", "--canvas", "--stroke", "--ink"}, {}, c, o))
-        return 1;
+    if (const std::string wrong
+        = ReadCharacterOptions("score", args, {"--db", "--char", "--canvas", "--stroke", "--ink"}, {}, c, o);
+        !wrong.empty())
+        return Fail(wrong);
     StrokePath ink;
     try {
         ink = ReadInkFile(c.ink);
@@ -298,8 +300,10 @@ int Write(const std::vector<std::string>& args)
 {
     CharacterOnCanvas c;
     std::map<std::string, std::string> o;
-    if (!ReadCharacterOptions("write", args, {"--db", "--char", "--canvas", "--ink"}, {"--own-frame"}, c, o))
-        return 1;
+    if (const std::string wrong
+        = ReadCharacterOptions("write", args, {"--db", "--char", "--canvas", "--ink"}, {"--own-frame"}, c, o);
+        !wrong.empty())
+        return Fail(wrong);
     std::vector<StrokePath> strokes;
     try {
         strokes = ReadInkStrokesFile(c.ink);
