@@ -94,7 +94,7 @@ void BM_CategoryPageFirstPaintSecondarySchool(benchmark::State& state)
     for (auto _ : state) {
         CategoryPage page(db, Prompts(), ClockSeed);
         page.show();
-        page.SetCategory(6, ProgressRecorder(learner, 6, {}));
+        page.SetCategory(6, ProgressRecorder(learner, 6, {}, {}));
         benchmark::DoNotOptimize(page.grab());
     }
 }
@@ -106,7 +106,7 @@ void BM_CategoryPageScrollOnePage(benchmark::State& state)
     User learner;
     CategoryPage page(db, Prompts(), ClockSeed);
     page.show();
-    page.SetCategory(6, ProgressRecorder(learner, 6, {}));
+    page.SetCategory(6, ProgressRecorder(learner, 6, {}, {}));
     CharacterGrid* grid = Named<CharacterGrid>(&page, "characterGrid");
     QScrollBar* bar = grid->verticalScrollBar();
     // Scroll through new pages each time (cells not yet cached), wrapping at the end.

@@ -5,6 +5,13 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
+
+/// Why the learning history could not be kept in its database.
+struct HistoryProblem {
+    std::string reason; ///< what went wrong, as the database says it; empty: nothing did
+    std::string keptAs; ///< where a damaged file was put aside, when it was
+};
 
 /// The store of learners and their progress. Failures throw ZavorenCommon::ConfigException.
 class ConfigStore {
@@ -26,6 +33,21 @@ public:
     /// The current learner's name; empty when there is none.
     virtual const std::string& CurrentUserName() const = 0;
 
+    /// Keeps the events of one action of `learner` (a lesson's characters, a test's results):
+    /// in the history database, all or none, durably once this returns; where there is none,
+    /// with the learner's record (written with the next save).
+    virtual void Record(User& learner, const std::vector<LearnerEvent>& events) = 0;
+    /// The learner's whole history, oldest first.
+    virtual std::vector<LearnerEvent> History(const User& learner) = 0;
+    /// Writes an imported learner's record and makes the history it carries their whole
+    /// history; as SaveUser otherwise.
+    virtual bool ImportUser(User& user) = 0;
+    /// Opens the history database if it is not open yet.
+    virtual void OpenHistory() = 0;
+    /// Why the history is no longer kept in its database, once: the failure not yet told, or
+    /// an empty reason.
+    virtual HistoryProblem TakeHistoryProblem() = 0;
+
     /// Whether a learner of exactly this name is in the store.
     bool HasUser(const std::string& name) const
     {
@@ -36,8 +58,9 @@ public:
     }
 };
 
-/// The process's store, opened on first use from "config.xml" in the current folder. A failed
-/// open throws ConfigException and leaves it unset, so the next call tries again.
+/// The process's store, opened on first use from "config.xml" in the current folder, with the
+/// history in "history.db" beside it. A failed open throws ConfigException and leaves it unset,
+/// so the next call tries again.
 ConfigStore& GetConfigStore();
 
 /// Releases the character database first, then the learner store (at exit).

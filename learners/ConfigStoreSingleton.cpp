@@ -13,7 +13,8 @@ ConfigStore& GetConfigStore()
 {
     auto& store = Instance();
     if (!store)
-        store = std::make_unique<XmlConfigStore>("config.xml", []() -> CharacterDatabase& { return GetDatabase(); });
+        store = std::make_unique<XmlConfigStore>(
+            "config.xml", []() -> CharacterDatabase& { return GetDatabase(); }, "history.db");
     return *store;
 }
 

@@ -21,6 +21,37 @@ const char* const Migrations[] = {
     " mistakes INTEGER NOT NULL DEFAULT -1);"
     "CREATE INDEX events_by_learner ON events (learner, id);"
     "CREATE INDEX events_by_character ON events (learner, category, character, id);",
+    // 2: what was brought over from config.xml (so bringing it again adds nothing), and one row
+    // per learner and character summing up its events, kept up to date by a trigger in the
+    // transaction that adds them: what is due or troubled is read from it without going over
+    // every event.
+    "CREATE TABLE imported ("
+    " learner TEXT NOT NULL,"
+    " fingerprint TEXT NOT NULL,"
+    " PRIMARY KEY (learner, fingerprint)) WITHOUT ROWID;"
+    "CREATE TABLE characters ("
+    " learner TEXT NOT NULL,"
+    " category INTEGER NOT NULL,"
+    " character INTEGER NOT NULL,"
+    " last_event INTEGER NOT NULL,"
+    " last_at TEXT NOT NULL,"
+    " last_kind TEXT NOT NULL,"
+    " tests INTEGER NOT NULL,"
+    " mistakes INTEGER NOT NULL,"
+    " failures INTEGER NOT NULL,"
+    " PRIMARY KEY (learner, category, character)) WITHOUT ROWID;"
+    "CREATE TRIGGER characters_follow_events AFTER INSERT ON events BEGIN"
+    " INSERT INTO characters VALUES (new.learner, new.category, new.character, new.id, new.at, new.kind,"
+    "  new.kind IN ('passed', 'failed'), CASE WHEN new.kind IN ('passed', 'failed') THEN max(new.mistakes, 0) ELSE 0 END,"
+    "  new.kind = 'failed')"
+    " ON CONFLICT (learner, category, character) DO UPDATE SET"
+    "  last_event = excluded.last_event, last_at = excluded.last_at, last_kind = excluded.last_kind,"
+    "  tests = tests + excluded.tests, mistakes = mistakes + excluded.mistakes, failures = failures + excluded.failures;"
+    " END;"
+    "INSERT INTO characters SELECT learner, category, character, max(id), '', '',"
+    " sum(kind IN ('passed', 'failed')), sum(CASE WHEN kind IN ('passed', 'failed') THEN max(mistakes, 0) ELSE 0 END),"
+    " sum(kind = 'failed') FROM events GROUP BY learner, category, character;"
+    "UPDATE characters SET (last_at, last_kind) = (SELECT at, kind FROM events WHERE id = last_event);",
 };
 static_assert(std::size(Migrations) == HistoryStore::SchemaVersion);
 
@@ -152,7 +183,7 @@ HistoryStore::~HistoryStore()
     sqlite3_close(m_db);
 }
 
-std::unique_ptr<HistoryStore> HistoryStore::Open(const std::string& path, std::string& error)
+std::unique_ptr<HistoryStore> HistoryStore::Open(const std::string& path, std::string& error, std::string* keptAs)
 {
     sqlite3* db = nullptr;
     const int code = OpenChecked(path, db, error);
@@ -161,8 +192,10 @@ std::unique_ptr<HistoryStore> HistoryStore::Open(const std::string& path, std::s
     sqlite3_close(db);
     if (IsDamage(code)) {
         const std::string aside = RenameAside(path);
-        error = aside.empty() ? "the file is damaged (" + error + ") and could not be put aside"
-                              : "the file was damaged (" + error + "); it is kept as " + aside;
+        if (aside.empty())
+            error += " (the damaged file could not be put aside)";
+        if (keptAs)
+            *keptAs = aside;
     }
     return nullptr;
 }
@@ -177,41 +210,114 @@ bool HistoryStore::Execute(const char* sql, std::string& error) const
     return ok;
 }
 
-bool HistoryStore::Record(const std::string& learner, const std::vector<LearnerEvent>& events, std::string& error)
+bool HistoryStore::InTransaction(const std::function<bool()>& body, std::string& error)
 {
     if (!Execute("BEGIN IMMEDIATE", error))
         return false;
+    if (body() && Execute("COMMIT", error))
+        return true;
+    if (error.empty())
+        error = Reason(m_db);
+    std::string ignored;
+    Execute("ROLLBACK", ignored);
+    return false;
+}
+
+bool HistoryStore::Insert(const std::string& learner, const std::vector<LearnerEvent>& events)
+{
     Statement insert(
         m_db, "INSERT INTO events (learner, at, kind, category, character, mistakes) VALUES (?, ?, ?, ?, ?, ?)");
     bool ok = insert.Ok();
     for (std::size_t i = 0; ok && i < events.size(); ++i) {
         const LearnerEvent& e = events[i];
         sqlite3_stmt* s = insert.Get();
-        ok = sqlite3_bind_text(s, 1, learner.c_str(), -1, SQLITE_TRANSIENT) == SQLITE_OK
-            && sqlite3_bind_text(s, 2, e.at.c_str(), -1, SQLITE_TRANSIENT) == SQLITE_OK
-            && sqlite3_bind_text(s, 3, e.kind.c_str(), -1, SQLITE_TRANSIENT) == SQLITE_OK
+        ok = sqlite3_bind_text(s, 1, learner.c_str(), -1, SQLITE_STATIC) == SQLITE_OK
+            && sqlite3_bind_text(s, 2, e.at.c_str(), -1, SQLITE_STATIC) == SQLITE_OK
+            && sqlite3_bind_text(s, 3, e.kind.c_str(), -1, SQLITE_STATIC) == SQLITE_OK
             && sqlite3_bind_int(s, 4, e.categoryId) == SQLITE_OK && sqlite3_bind_int(s, 5, e.id) == SQLITE_OK
             && sqlite3_bind_int(s, 6, e.mistakes) == SQLITE_OK && sqlite3_step(s) == SQLITE_DONE;
         sqlite3_reset(s);
     }
-    if (!ok) {
-        error = Reason(m_db);
-        std::string ignored;
-        Execute("ROLLBACK", ignored);
-        return false;
-    }
-    if (!Execute("COMMIT", error)) {
-        std::string ignored;
-        Execute("ROLLBACK", ignored);
-        return false;
+    return ok;
+}
+
+bool HistoryStore::Delete(const std::string& learner)
+{
+    for (const char* sql : {"DELETE FROM events WHERE learner = ?", "DELETE FROM characters WHERE learner = ?",
+             "DELETE FROM imported WHERE learner = ?"}) {
+        Statement remove(m_db, sql);
+        if (!remove.Ok() || sqlite3_bind_text(remove.Get(), 1, learner.c_str(), -1, SQLITE_STATIC) != SQLITE_OK
+            || sqlite3_step(remove.Get()) != SQLITE_DONE)
+            return false;
     }
     return true;
+}
+
+bool HistoryStore::Record(const std::string& learner, const std::vector<LearnerEvent>& events, std::string& error)
+{
+    return InTransaction([&] { return Insert(learner, events); }, error);
+}
+
+bool HistoryStore::Replace(const std::string& learner, const std::vector<LearnerEvent>& events, std::string& error)
+{
+    return InTransaction([&] { return Delete(learner) && Insert(learner, events); }, error);
+}
+
+bool HistoryStore::Forget(const std::string& learner, std::string& error)
+{
+    return InTransaction([&] { return Delete(learner); }, error);
+}
+
+std::string HistoryStore::Fingerprint(const std::vector<LearnerEvent>& events)
+{
+    // FNV-1a over every field of every event, each field ended by a separator no field holds.
+    std::uint64_t hash = 0xcbf29ce484222325ull;
+    auto add = [&hash](const std::string& text) {
+        for (unsigned char c : text + '\x1f') {
+            hash ^= c;
+            hash *= 0x100000001b3ull;
+        }
+    };
+    for (const LearnerEvent& e : events) {
+        add(e.at);
+        add(e.kind);
+        add(std::to_string(e.categoryId));
+        add(std::to_string(e.id));
+        add(std::to_string(e.mistakes));
+    }
+    char text[40];
+    std::snprintf(text, sizeof text, "%zu:%016llx", events.size(), static_cast<unsigned long long>(hash));
+    return text;
+}
+
+bool HistoryStore::BringOver(const std::vector<Kept>& histories, std::string& error)
+{
+    return InTransaction(
+        [&] {
+            Statement mark(m_db, "INSERT OR IGNORE INTO imported (learner, fingerprint) VALUES (?, ?)");
+            if (!mark.Ok())
+                return false;
+            for (const Kept& kept : histories) {
+                const std::string fingerprint = Fingerprint(kept.events);
+                sqlite3_stmt* s = mark.Get();
+                if (sqlite3_bind_text(s, 1, kept.learner.c_str(), -1, SQLITE_STATIC) != SQLITE_OK
+                    || sqlite3_bind_text(s, 2, fingerprint.c_str(), -1, SQLITE_STATIC) != SQLITE_OK
+                    || sqlite3_step(s) != SQLITE_DONE)
+                    return false;
+                const bool broughtBefore = sqlite3_changes(m_db) == 0;
+                sqlite3_reset(s);
+                if (!broughtBefore && !Insert(kept.learner, kept.events))
+                    return false;
+            }
+            return true;
+        },
+        error);
 }
 
 bool HistoryStore::Events(const std::string& learner, std::vector<LearnerEvent>& events, std::string& error) const
 {
     Statement select(m_db, "SELECT at, kind, category, character, mistakes FROM events WHERE learner = ? ORDER BY id");
-    if (!select.Ok() || sqlite3_bind_text(select.Get(), 1, learner.c_str(), -1, SQLITE_TRANSIENT) != SQLITE_OK) {
+    if (!select.Ok() || sqlite3_bind_text(select.Get(), 1, learner.c_str(), -1, SQLITE_STATIC) != SQLITE_OK) {
         error = Reason(m_db);
         return false;
     }
@@ -236,13 +342,45 @@ bool HistoryStore::Events(const std::string& learner, std::vector<LearnerEvent>&
     return true;
 }
 
-bool HistoryStore::Forget(const std::string& learner, std::string& error)
+bool HistoryStore::Characters(
+    const std::string& learner, std::vector<CharacterSummary>& characters, std::string& error) const
 {
-    Statement remove(m_db, "DELETE FROM events WHERE learner = ?");
-    if (!remove.Ok() || sqlite3_bind_text(remove.Get(), 1, learner.c_str(), -1, SQLITE_TRANSIENT) != SQLITE_OK
-        || sqlite3_step(remove.Get()) != SQLITE_DONE) {
+    Statement select(m_db,
+        "SELECT category, character, last_at, last_kind, tests, mistakes, failures FROM characters"
+        " WHERE learner = ? ORDER BY category, character");
+    if (!select.Ok() || sqlite3_bind_text(select.Get(), 1, learner.c_str(), -1, SQLITE_STATIC) != SQLITE_OK) {
+        error = Reason(m_db);
+        return false;
+    }
+    characters.clear();
+    int code = SQLITE_ROW;
+    while ((code = sqlite3_step(select.Get())) == SQLITE_ROW) {
+        sqlite3_stmt* s = select.Get();
+        CharacterSummary c;
+        c.categoryId = static_cast<std::uint16_t>(sqlite3_column_int(s, 0));
+        c.id = static_cast<std::uint16_t>(sqlite3_column_int(s, 1));
+        const auto* at = reinterpret_cast<const char*>(sqlite3_column_text(s, 2));
+        const auto* kind = reinterpret_cast<const char*>(sqlite3_column_text(s, 3));
+        c.lastAt = at ? at : "";
+        c.lastKind = kind ? kind : "";
+        c.tests = sqlite3_column_int(s, 4);
+        c.mistakes = sqlite3_column_int(s, 5);
+        c.failures = sqlite3_column_int(s, 6);
+        characters.push_back(std::move(c));
+    }
+    if (code != SQLITE_DONE) {
         error = Reason(m_db);
         return false;
     }
     return true;
+}
+
+std::string HistoryStore::PutAside(const std::string& path)
+{
+    return RenameAside(path);
+}
+
+bool HistoryStore::LastFailureWasDamage() const
+{
+    return IsDamage(sqlite3_extended_errcode(m_db));
 }

@@ -2,6 +2,8 @@
 
 #include "LearnerEvent.h"
 
+#include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -18,26 +20,66 @@ struct sqlite3;
 class HistoryStore {
 public:
     /// The schema this program writes; a file of a newer one is not opened.
-    static constexpr int SchemaVersion = 1;
+    static constexpr int SchemaVersion = 2;
     /// How long a write waits for another program holding the file, milliseconds.
     static constexpr int BusyTimeoutMs = 2000;
 
     /// Opens the database at `path`, creating it when missing. A file that is damaged or not a
     /// database is renamed aside with the date (`path.damaged-YYYYMMDD-HHMMSS`), never
-    /// overwritten or deleted. Null with the reason in `error` when it cannot be used.
-    static std::unique_ptr<HistoryStore> Open(const std::string& path, std::string& error);
+    /// overwritten or deleted, and its new name given in `keptAs`. Null with the reason in
+    /// `error` when it cannot be used.
+    static std::unique_ptr<HistoryStore> Open(
+        const std::string& path, std::string& error, std::string* keptAs = nullptr);
     ~HistoryStore();
 
     /// Adds the events of one action of `learner`, all or none; false with the reason.
     bool Record(const std::string& learner, const std::vector<LearnerEvent>& events, std::string& error);
     /// The learner's events, in the order they were recorded; false with the reason.
     bool Events(const std::string& learner, std::vector<LearnerEvent>& events, std::string& error) const;
+    /// Replaces the learner's whole history by `events` (an imported learner), all or none.
+    bool Replace(const std::string& learner, const std::vector<LearnerEvent>& events, std::string& error);
     /// Removes every event of `learner` (a learner deleted); false with the reason.
     bool Forget(const std::string& learner, std::string& error);
+
+    /// One learner's history as another file kept it.
+    struct Kept {
+        std::string learner;
+        std::vector<LearnerEvent> events;
+    };
+    /// Brings over histories that config.xml kept, all in one transaction. A history brought
+    /// over before (the same events of the same learner) is not added again, so a program
+    /// stopped before config.xml was saved without them brings them over again harmlessly.
+    bool BringOver(const std::vector<Kept>& histories, std::string& error);
+    /// What identifies a kept history: the number of its events and a hash of all their fields.
+    static std::string Fingerprint(const std::vector<LearnerEvent>& events);
+
+    /// One character's events summed up, as the table kept beside the events holds it.
+    struct CharacterSummary {
+        std::uint16_t categoryId = 0;
+        std::uint16_t id = 0;
+        std::string lastAt; ///< the time of its last event
+        std::string lastKind; ///< the kind of its last event
+        int tests = 0; ///< tests taken (passed or failed)
+        int mistakes = 0; ///< questions answered with mistakes over those tests
+        int failures = 0; ///< tests failed
+    };
+    /// The learner's characters that have events, by category and id: one indexed read, not a
+    /// pass over the events.
+    bool Characters(const std::string& learner, std::vector<CharacterSummary>& characters, std::string& error) const;
+
+    /// Whether the last failure said the file is damaged or is no database.
+    bool LastFailureWasDamage() const;
+    /// Renames a damaged file at `path` aside with the date and time, with its journal; the
+    /// new name, or empty when it could not be renamed.
+    static std::string PutAside(const std::string& path);
 
 private:
     explicit HistoryStore(sqlite3* db);
     bool Execute(const char* sql, std::string& error) const;
+    /// Runs `body` between BEGIN IMMEDIATE and COMMIT; rolled back when it or the commit fails.
+    bool InTransaction(const std::function<bool()>& body, std::string& error);
+    bool Insert(const std::string& learner, const std::vector<LearnerEvent>& events);
+    bool Delete(const std::string& learner);
 
     sqlite3* m_db;
 };

@@ -45,7 +45,8 @@ bool FitsDatabase(const pugi::xml_node& user, CharacterDatabase& database)
 
 } // namespace
 
-bool Export(const std::string& path, User& learner, std::uint16_t categories)
+bool Export(
+    const std::string& path, User& learner, const std::vector<LearnerEvent>& history, std::uint16_t categories)
 {
     std::string text;
     try {
@@ -55,7 +56,7 @@ bool Export(const std::string& path, User& learner, std::uint16_t categories)
         root.append_attribute("categories") = static_cast<unsigned>(categories);
         pugi::xml_node user = root.append_child("User");
         user.append_attribute("name") = learner.Name() ? learner.Name() : "";
-        WriteUserRecord(user, learner, categories);
+        WriteUserRecord(user, learner, categories, history);
         text = DocumentText(document);
     } catch (const std::bad_alloc&) {
         return false;

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 class CharacterDatabase;
 
@@ -22,9 +23,11 @@ enum class Problem {
     OtherDatabase, ///< written with a database of another number of categories
 };
 
-/// Writes `learner`'s progress (one Progress element for each of `categories`) and history;
-/// false when the file could not be written (the previous file, if any, is whole).
-bool Export(const std::string& path, User& learner, std::uint16_t categories);
+/// Writes `learner`'s progress (one Progress element for each of `categories`) and the events of
+/// their `history`; false when the file could not be written (the previous file, if any, is
+/// whole).
+bool Export(
+    const std::string& path, User& learner, const std::vector<LearnerEvent>& history, std::uint16_t categories);
 
 struct Imported {
     std::unique_ptr<User> learner; ///< null unless the problem is None

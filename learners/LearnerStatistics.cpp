@@ -22,10 +22,12 @@ int MondayOf(int day)
 
 } // namespace
 
-LearnerStatistics::LearnerStatistics(const User& learner, std::vector<std::uint16_t> categorySizes, int today)
-    : m_learner(learner), m_sizes(std::move(categorySizes)), m_today(today), m_firstDay(today)
+LearnerStatistics::LearnerStatistics(
+    const User& learner, std::vector<LearnerEvent> history, std::vector<std::uint16_t> categorySizes, int today)
+    : m_learner(learner), m_history(std::move(history)), m_sizes(std::move(categorySizes)), m_today(today),
+      m_firstDay(today)
 {
-    for (const LearnerEvent& e : learner.History())
+    for (const LearnerEvent& e : m_history)
         if (const int day = EventDay(e.at); day >= 0)
             m_firstDay = std::min(m_firstDay, day);
 }
@@ -41,7 +43,7 @@ std::vector<int> LearnerStatistics::LearnedPerDay(std::optional<std::uint16_t> c
     // Learned before the history began: learned now and never passed since, or first seen in
     // the history being forgotten or sent back.
     std::set<Key> seen, learned;
-    for (const LearnerEvent& e : m_learner.History()) {
+    for (const LearnerEvent& e : m_history) {
         const Key key{e.categoryId, e.id};
         if (!counts(e.categoryId) || seen.count(key))
             continue;
@@ -56,7 +58,7 @@ std::vector<int> LearnerStatistics::LearnedPerDay(std::optional<std::uint16_t> c
 
     // In order of their days (a clock set back keeps the order within a day).
     std::vector<std::pair<int, const LearnerEvent*>> dated;
-    for (const LearnerEvent& e : m_learner.History())
+    for (const LearnerEvent& e : m_history)
         if (counts(e.categoryId))
             dated.emplace_back(std::max(m_firstDay, EventDay(e.at)), &e);
     std::stable_sort(
@@ -82,7 +84,7 @@ std::vector<LearnerStatistics::Week> LearnerStatistics::TestsPerWeek() const
     std::vector<Week> weeks;
     for (int monday = first; monday <= m_today; monday += 7)
         weeks.push_back(Week{monday});
-    for (const LearnerEvent& e : m_learner.History()) {
+    for (const LearnerEvent& e : m_history) {
         const int day = EventDay(e.at);
         if (day < first || day > m_today)
             continue;
@@ -113,7 +115,7 @@ std::vector<LearnerStatistics::CategoryCounts> LearnerStatistics::Categories() c
 std::vector<LearnerStatistics::Trouble> LearnerStatistics::TroubleCharacters(std::size_t most) const
 {
     std::map<Key, Trouble> found;
-    for (const LearnerEvent& e : m_learner.History()) {
+    for (const LearnerEvent& e : m_history) {
         const bool failed = Is(e, LearnerEvent::Failed);
         if (!failed && !Is(e, LearnerEvent::Passed))
             continue;

@@ -12,9 +12,11 @@
 /// trouble. Days are local dates as day numbers (EventDay).
 class LearnerStatistics {
 public:
-    /// `categorySizes` holds the number of characters of each category of the database; `today`
-    /// is the day the charts end on.
-    LearnerStatistics(const User& learner, std::vector<std::uint16_t> categorySizes, int today);
+    /// `learner`'s progress with their whole `history` (ConfigStore::History); `categorySizes`
+    /// holds the number of characters of each category of the database; `today` is the day the
+    /// charts end on.
+    LearnerStatistics(
+        const User& learner, std::vector<LearnerEvent> history, std::vector<std::uint16_t> categorySizes, int today);
 
     /// The first day of the charts: the day of the first event (today without any).
     int FirstDay() const { return m_firstDay; }
@@ -53,6 +55,7 @@ public:
 
 private:
     const User& m_learner;
+    std::vector<LearnerEvent> m_history;
     std::vector<std::uint16_t> m_sizes;
     int m_today;
     int m_firstDay;

@@ -30,10 +30,14 @@ public:
     void AddProgress(const CategoryProgress& record) { m_progress.push_back(record); }
     /// All records in order.
     const std::vector<CategoryProgress>& Progress() const { return m_progress; }
-    /// The learner's history, oldest first.
+    /// The events of the learner's history that are kept with this record in config.xml,
+    /// oldest first: the whole history where there is no history database, otherwise only
+    /// what could not be written to it (ConfigStore::History gives the whole).
     const std::vector<LearnerEvent>& History() const { return m_history; }
-    /// Adds an event at the end of the history.
+    /// Adds an event at the end of the history kept with the record.
     void AddEvent(LearnerEvent event) { m_history.push_back(std::move(event)); }
+    /// Empties the history kept with the record (its events are kept elsewhere now).
+    void ClearHistory() { m_history.clear(); }
 
 private:
     std::vector<CategoryProgress> m_progress;

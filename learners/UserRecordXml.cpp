@@ -18,8 +18,11 @@ void ReadIds(const pugi::xml_node& list, void (CategoryProgress::*add)(std::uint
             (record.*add)(ParseId(id.value()));
 }
 
-void ReadHistory(const pugi::xml_node& history, User& user)
+} // namespace
+
+std::vector<LearnerEvent> ReadHistory(const pugi::xml_node& history)
 {
+    std::vector<LearnerEvent> events;
     // What an event leaves out it shares with the last event kept.
     const LearnerEvent* previous = nullptr;
     for (pugi::xml_node node : history.children("Event")) {
@@ -43,18 +46,21 @@ void ReadHistory(const pugi::xml_node& history, User& user)
                 continue;
             event.mistakes = mistakes.as_int();
         }
-        user.AddEvent(std::move(event));
-        previous = &user.History().back();
+        events.push_back(std::move(event));
+        previous = &events.back();
     }
+    return events;
 }
 
-void WriteHistory(pugi::xml_node node, const User& user)
+namespace {
+
+void WriteHistory(pugi::xml_node node, const std::vector<LearnerEvent>& events)
 {
-    if (user.History().empty())
+    if (events.empty())
         return; // a learner without history keeps the file as it always was
     pugi::xml_node history = node.append_child("History");
     const LearnerEvent* previous = nullptr;
-    for (const LearnerEvent& event : user.History()) {
+    for (const LearnerEvent& event : events) {
         pugi::xml_node e = history.append_child("Event");
         if (!previous || previous->at != event.at)
             e.append_attribute("at") = event.at.c_str();
@@ -80,10 +86,12 @@ void ReadUserRecord(const pugi::xml_node& node, User& user)
         ReadIds(progress.child("Untested"), &CategoryProgress::AddUntested, record);
         user.AddProgress(record);
     }
-    ReadHistory(node.child("History"), user);
+    for (LearnerEvent& event : ReadHistory(node.child("History")))
+        user.AddEvent(std::move(event));
 }
 
-void WriteUserRecord(pugi::xml_node node, User& user, std::uint16_t categories)
+void WriteUserRecord(
+    pugi::xml_node node, User& user, std::uint16_t categories, const std::vector<LearnerEvent>& history)
 {
     for (std::uint16_t i = 0; i < categories; ++i) {
         const CategoryProgress& record = user.GetProgress(i);
@@ -96,5 +104,5 @@ void WriteUserRecord(pugi::xml_node node, User& user, std::uint16_t categories)
         for (std::uint16_t id : record.Untested())
             untested.append_child("Character").append_attribute("id") = static_cast<unsigned>(id);
     }
-    WriteHistory(node, user);
+    WriteHistory(node, history);
 }

@@ -5,6 +5,7 @@
 #include <pugixml.hpp>
 
 #include <cstdint>
+#include <vector>
 
 /// A learner's record as the children of their User element, the same in config.xml and in an
 /// exported learner file: one Progress element per category (Learned and Untested lists of
@@ -18,6 +19,10 @@
 /// Reads the progress and history under `node` into `user` (its name aside).
 void ReadUserRecord(const pugi::xml_node& node, User& user);
 
-/// Writes the progress of `categories` categories and the history of `user` as children of
-/// `node`, which has no children yet.
-void WriteUserRecord(pugi::xml_node node, User& user, std::uint16_t categories);
+/// The events of a History element, in order.
+std::vector<LearnerEvent> ReadHistory(const pugi::xml_node& history);
+
+/// Writes the progress of `categories` categories of `user` and the events of `history` as
+/// children of `node`, which has no children yet.
+void WriteUserRecord(
+    pugi::xml_node node, User& user, std::uint16_t categories, const std::vector<LearnerEvent>& history);

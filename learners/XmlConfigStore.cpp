@@ -21,6 +21,7 @@
 #include <stdexcept>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 using ZavorenCommon::ConfigException;
 
@@ -91,15 +92,20 @@ void RemoveStaleTemporaries(const std::filesystem::path& path)
 
 } // namespace
 
-XmlConfigStore::XmlConfigStore(std::string path, CharacterDatabase& database)
-    : XmlConfigStore(std::move(path), [&database]() -> CharacterDatabase& { return database; })
+XmlConfigStore::XmlConfigStore(std::string path, CharacterDatabase& database, std::string historyPath)
+    : XmlConfigStore(
+          std::move(path), [&database]() -> CharacterDatabase& { return database; }, std::move(historyPath))
 {
 }
 
-XmlConfigStore::XmlConfigStore(std::string path, DatabaseSource database) : m_path(std::move(path))
+XmlConfigStore::XmlConfigStore(std::string path, DatabaseSource database, std::string historyPath)
+    : m_path(std::move(path)), m_historyPath(std::move(historyPath))
 {
+    if (m_historyPath.empty())
+        m_historyState = HistoryState::InConfig;
     try {
         Open(database);
+        BringOverHistories();
     } catch (const std::bad_alloc&) {
         throw ConfigException(StoreMessage::LoadConfig);
     }
@@ -201,6 +207,13 @@ bool XmlConfigStore::AddUser(const std::string& name)
             return false;
         user.append_attribute("name") = name.c_str();
         m_userNames.push_back(name);
+        // Events left under this name by a learner whose deletion could not reach the database
+        // are not the new learner's.
+        if (m_historyState == HistoryState::Open) {
+            std::string error;
+            if (!m_histories->Forget(name, error))
+                HistoryFailed(error);
+        }
         return SaveFile();
     } catch (const std::bad_alloc&) {
         throw ConfigException(StoreMessage::SaveConfig);
@@ -220,7 +233,15 @@ bool XmlConfigStore::DeleteUser(const std::string& name)
             }
         if (EqualsIgnoringAsciiCase(m_currentUserName, name))
             SetCurrentUser("");
-        return SaveFile();
+        const bool saved = SaveFile();
+        // Their history goes with them, once the file no longer lists them: a failure here
+        // leaves events that nobody can see, and adding a learner of that name clears them.
+        if (HistoryStore* histories = Histories()) {
+            std::string error;
+            if (!histories->Forget(name, error))
+                HistoryFailed(error);
+        }
+        return saved;
     } catch (const std::bad_alloc&) {
         throw ConfigException(StoreMessage::SaveConfig);
     }
@@ -247,7 +268,7 @@ bool XmlConfigStore::WriteUser(User& user)
         node = UsersNode().append_child("User");
         node.append_attribute("name") = name.c_str();
     }
-    WriteUserRecord(node, user, m_database->CategoryCount());
+    WriteUserRecord(node, user, m_database->CategoryCount(), user.History());
     return SaveFile();
 }
 
@@ -340,4 +361,117 @@ bool XmlConfigStore::RewriteInPlace(const std::string& text)
     if (!written || !closed)
         throw ConfigException(StoreMessage::SaveConfig);
     return true;
+}
+
+void XmlConfigStore::BringOverHistories()
+{
+    if (m_historyState == HistoryState::InConfig)
+        return;
+    std::vector<HistoryStore::Kept> kept;
+    std::vector<pugi::xml_node> elements;
+    for (pugi::xml_node user : UsersNode().children("User"))
+        for (pugi::xml_node history : user.children("History")) {
+            elements.push_back(history);
+            std::vector<LearnerEvent> events = ReadHistory(history);
+            if (!events.empty())
+                kept.push_back({user.attribute("name").value(), std::move(events)});
+        }
+    // Nothing to bring over: the database waits until it is needed.
+    if (elements.empty())
+        return;
+    HistoryStore* histories = Histories();
+    if (!histories)
+        return;
+    std::string error;
+    if (!histories->BringOver(kept, error)) {
+        HistoryFailed(error);
+        return;
+    }
+    // Committed: only now does the document lose them, written so with the next save.
+    for (pugi::xml_node history : elements)
+        history.parent().remove_child(history);
+}
+
+HistoryStore* XmlConfigStore::Histories()
+{
+    if (m_historyState == HistoryState::NotOpened) {
+        std::string error;
+        std::string keptAs;
+        m_histories = HistoryStore::Open(m_historyPath, error, &keptAs);
+        if (m_histories) {
+            m_historyState = HistoryState::Open;
+        } else {
+            HistoryFailed(error);
+            m_historyProblem.keptAs = keptAs;
+        }
+    }
+    return m_historyState == HistoryState::Open ? m_histories.get() : nullptr;
+}
+
+void XmlConfigStore::HistoryFailed(const std::string& reason)
+{
+    if (m_historyState == HistoryState::InConfig)
+        return;
+    const bool damaged = m_histories && m_histories->LastFailureWasDamage();
+    m_histories.reset();
+    m_historyState = HistoryState::InConfig;
+    m_historyProblem.reason = reason;
+    // A file found damaged after it was opened is put aside as one found damaged at opening.
+    m_historyProblem.keptAs.clear();
+    if (damaged) {
+        m_historyProblem.keptAs = HistoryStore::PutAside(m_historyPath);
+        if (m_historyProblem.keptAs.empty())
+            m_historyProblem.reason += " (the damaged file could not be put aside)";
+    }
+}
+
+void XmlConfigStore::Record(User& learner, const std::vector<LearnerEvent>& events)
+{
+    if (events.empty())
+        return;
+    if (HistoryStore* histories = Histories()) {
+        std::string error;
+        if (histories->Record(learner.Name() ? learner.Name() : "", events, error))
+            return;
+        HistoryFailed(error);
+    }
+    for (const LearnerEvent& event : events)
+        learner.AddEvent(event);
+}
+
+std::vector<LearnerEvent> XmlConfigStore::History(const User& learner)
+{
+    std::vector<LearnerEvent> events;
+    if (HistoryStore* histories = Histories()) {
+        std::string error;
+        if (!histories->Events(learner.Name() ? learner.Name() : "", events, error)) {
+            events.clear();
+            HistoryFailed(error);
+        }
+    }
+    // What could not go to the database comes after what did.
+    events.insert(events.end(), learner.History().begin(), learner.History().end());
+    return events;
+}
+
+bool XmlConfigStore::ImportUser(User& user)
+{
+    if (HistoryStore* histories = Histories()) {
+        std::string error;
+        if (histories->Replace(user.Name() ? user.Name() : "", user.History(), error))
+            user.ClearHistory();
+        else
+            HistoryFailed(error);
+    }
+    return SaveUser(user);
+}
+
+void XmlConfigStore::OpenHistory()
+{
+    Histories();
+}
+
+HistoryProblem XmlConfigStore::TakeHistoryProblem()
+{
+    return std::exchange(m_historyProblem, HistoryProblem{});
 }

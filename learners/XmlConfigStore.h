@@ -2,6 +2,7 @@
 
 #include "CharacterDatabase.h"
 #include "ConfigStore.h"
+#include "HistoryStore.h"
 
 #include <pugixml.hpp>
 
@@ -18,6 +19,13 @@
 /// saved at once, atomically: a failed save leaves the previous file as it was. In a folder where
 /// no file can be created the file is rewritten in place instead. Every failure, running out of
 /// memory included, is a ConfigException.
+///
+/// Given a history database, the learners' histories live there instead: a file whose learners
+/// still hold `History` elements has them brought over when it is opened, and the next save
+/// writes the file without them. The database is opened when first needed. When it cannot be
+/// kept (it cannot be created, is damaged, locked, or a write fails) the reason is told once
+/// and the history is kept in config.xml as without a database for the rest of the session; the
+/// next session brings it over.
 class XmlConfigStore : public ConfigStore {
 public:
     /// Gives the database whose categories the learners' progress follows; asked for once the
@@ -25,10 +33,11 @@ public:
     /// ConfigException with the same message.
     using DatabaseSource = std::function<CharacterDatabase&()>;
 
-    /// Opens the file.
-    XmlConfigStore(std::string path, DatabaseSource database);
+    /// Opens the file; the history goes in the database at `historyPath`, or with the learners
+    /// in the file when it is empty.
+    XmlConfigStore(std::string path, DatabaseSource database, std::string historyPath = {});
     /// Opens the file; `database` supplies the category count.
-    XmlConfigStore(std::string path, CharacterDatabase& database);
+    XmlConfigStore(std::string path, CharacterDatabase& database, std::string historyPath = {});
 
     std::unique_ptr<User> LoadUser(const std::string& name) override;
     bool AddUser(const std::string& name) override;
@@ -37,6 +46,11 @@ public:
     std::uint16_t UserCount() const override;
     const std::string& UserName(std::uint16_t index) const override;
     const std::string& CurrentUserName() const override;
+    void Record(User& learner, const std::vector<LearnerEvent>& events) override;
+    std::vector<LearnerEvent> History(const User& learner) override;
+    bool ImportUser(User& user) override;
+    void OpenHistory() override;
+    HistoryProblem TakeHistoryProblem() override;
 
     /// Re-reads the names of all learners and the current learner from the document.
     void ReadUserList();
@@ -53,6 +67,12 @@ private:
     pugi::xml_node UsersNode() const;
     /// The learner element of this name (the query "User[@name='NAME']"), or none.
     pugi::xml_node FindUser(const std::string& name) const;
+    /// Brings the History elements of every learner over to the database, then drops them.
+    void BringOverHistories();
+    /// The database when it is open and kept; opened on first call.
+    HistoryStore* Histories();
+    /// The database failed: from now on the history stays in config.xml; tells why once.
+    void HistoryFailed(const std::string& reason);
 
     pugi::xml_document m_document;
     std::vector<std::string> m_userNames;
@@ -62,4 +82,9 @@ private:
     /// What the file held when it was read or last written, and how it was stamped then.
     std::string m_fileText;
     std::array<long long, 4> m_fileStamp{};
+
+    std::string m_historyPath;
+    enum class HistoryState { NotOpened, Open, InConfig } m_historyState = HistoryState::NotOpened;
+    std::unique_ptr<HistoryStore> m_histories;
+    HistoryProblem m_historyProblem;
 };

@@ -2,8 +2,8 @@
 
 #include "CategoryRules.h"
 
-ProgressRecorder::ProgressRecorder(User& learner, std::uint16_t categoryId, EventClock clock)
-    : m_learner(learner), m_categoryId(categoryId), m_clock(std::move(clock))
+ProgressRecorder::ProgressRecorder(User& learner, std::uint16_t categoryId, EventClock clock, KeepEvents keep)
+    : m_learner(learner), m_categoryId(categoryId), m_clock(std::move(clock)), m_keep(std::move(keep))
 {
     learner.GetProgress(categoryId); // the record exists from now on
 }
@@ -23,6 +23,7 @@ void ProgressRecorder::LessonFinished(const std::vector<std::uint16_t>& taught)
         Progress().AddUntested(id);
         Record(LearnerEvent::Lesson, id);
     }
+    Keep();
 }
 
 void ProgressRecorder::TestTaken(
@@ -36,6 +37,7 @@ void ProgressRecorder::TestTaken(
         Progress().RemoveUntested(id);
         Record(LearnerEvent::Failed, id, mistakes ? mistakes(id) : 0);
     }
+    Keep();
 }
 
 std::vector<std::uint16_t> ProgressRecorder::Retest(Random15& random)
@@ -43,6 +45,7 @@ std::vector<std::uint16_t> ProgressRecorder::Retest(Random15& random)
     const std::vector<std::uint16_t> sent = ::Retest(Progress(), random);
     for (std::uint16_t code : sent)
         Record(LearnerEvent::Retest, code);
+    Keep();
     return sent;
 }
 
@@ -57,6 +60,7 @@ std::vector<std::uint16_t> ProgressRecorder::Forget(const std::vector<std::uint1
         forgotten.push_back(code);
         Record(LearnerEvent::Forget, code);
     }
+    Keep();
     return forgotten;
 }
 
@@ -65,9 +69,19 @@ void ProgressRecorder::LearnOne(std::uint16_t code)
     const CategoryProgress& progress = Progress();
     const bool taught = progress.IsLearned(code) || progress.IsUntested(code);
     Record(taught ? LearnerEvent::Review : LearnerEvent::Learn, code);
+    Keep();
 }
 
 void ProgressRecorder::Record(const char* kind, std::uint16_t code, int mistakes)
 {
-    m_learner.AddEvent({m_clock ? m_clock() : LocalTimeNow(), kind, m_categoryId, code, mistakes});
+    if (m_action.empty())
+        m_actionTime = m_clock ? m_clock() : LocalTimeNow();
+    m_action.push_back({m_actionTime, kind, m_categoryId, code, mistakes});
+}
+
+void ProgressRecorder::Keep()
+{
+    if (!m_action.empty() && m_keep)
+        m_keep(m_learner, m_action);
+    m_action.clear();
 }

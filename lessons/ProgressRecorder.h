@@ -15,9 +15,12 @@ class ProgressRecorder {
 public:
     /// Gives how many questions of a character a test answered with mistakes.
     using MistakeCount = std::function<int(std::uint16_t code)>;
+    /// Keeps the events of one action of the learner, all together (ConfigStore::Record).
+    using KeepEvents = std::function<void(User& learner, const std::vector<LearnerEvent>& events)>;
 
-    /// Records into `learner`'s progress in category `categoryId`, dating events by `clock`.
-    ProgressRecorder(User& learner, std::uint16_t categoryId, EventClock clock);
+    /// Records into `learner`'s progress in category `categoryId`, dating events by `clock`;
+    /// the events of each action go to `keep` at its end.
+    ProgressRecorder(User& learner, std::uint16_t categoryId, EventClock clock, KeepEvents keep);
 
     /// The learner's record of the category (looked up on each use: the learner's list of
     /// records may grow meanwhile).
@@ -43,9 +46,15 @@ public:
     void LearnOne(std::uint16_t code);
 
 private:
+    /// Adds an event to the action's, all dated alike.
     void Record(const char* kind, std::uint16_t code, int mistakes = -1);
+    /// Hands the action's events over to be kept.
+    void Keep();
 
     User& m_learner;
     std::uint16_t m_categoryId;
     EventClock m_clock;
+    KeepEvents m_keep;
+    std::vector<LearnerEvent> m_action;
+    std::string m_actionTime;
 };

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "LearnerEvent.h"
+
 #include <QtPlugin>
 
 #include <string>
+#include <vector>
 
 class CharacterDatabase;
 class Prompt;
@@ -15,13 +18,13 @@ class ProgressViewFactory {
 public:
     virtual ~ProgressViewFactory() = default;
 
-    /// A window (not yet shown, deleted when closed) on `learner`'s progress up to the date of
-    /// `now` (an event time), owned by `parent`. Characters open in Kanji Info through
-    /// `database` and `prompt`; `learner` must outlive the window.
-    virtual QWidget* CreateProgressView(
-        CharacterDatabase& database, Prompt& prompt, const User& learner, const std::string& now, QWidget* parent)
+    /// A window (not yet shown, deleted when closed) on `learner`'s progress and whole
+    /// `history` up to the date of `now` (an event time), owned by `parent`. Characters open in
+    /// Kanji Info through `database` and `prompt`; `learner` must outlive the window.
+    virtual QWidget* CreateProgressView(CharacterDatabase& database, Prompt& prompt, const User& learner,
+        std::vector<LearnerEvent> history, const std::string& now, QWidget* parent)
         = 0;
 };
 
-#define ZavorenProgressViewFactory_iid "io.github.zavoren.Zavoren.ProgressViewFactory/1.0"
+#define ZavorenProgressViewFactory_iid "io.github.zavoren.Zavoren.ProgressViewFactory/1.1"
 Q_DECLARE_INTERFACE(ProgressViewFactory, ZavorenProgressViewFactory_iid)

@@ -49,8 +49,8 @@ QChartView* MakeChartView(QChart* chart, const QString& name, QWidget* parent)
 
 } // namespace
 
-ProgressWindow::ProgressWindow(
-    CharacterDatabase& database, Prompt& prompt, const User& learner, const std::string& now, QWidget* parent)
+ProgressWindow::ProgressWindow(CharacterDatabase& database, Prompt& prompt, const User& learner,
+    std::vector<LearnerEvent> history, const std::string& now, QWidget* parent)
     : QWidget(parent, Qt::Window), m_database(database), m_prompt(prompt), m_learner(learner)
 {
     setAttribute(Qt::WA_DeleteOnClose);
@@ -72,7 +72,7 @@ ProgressWindow::ProgressWindow(
         }
     }
     const int today = EventDay(now);
-    m_stats = std::make_unique<LearnerStatistics>(learner, sizes, today >= 0 ? today : EventDay(LocalTimeNow()));
+    m_stats = std::make_unique<LearnerStatistics>(learner, std::move(history), sizes, today >= 0 ? today : EventDay(LocalTimeNow()));
 
     m_tabs = new QTabWidget(this);
     m_tabs->setObjectName(QStringLiteral("progressTabs"));

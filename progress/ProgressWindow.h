@@ -24,9 +24,9 @@ class User;
 class ProgressWindow : public QWidget {
     Q_OBJECT
 public:
-    /// Shows `learner` up to the date of `now`, an event time.
-    ProgressWindow(CharacterDatabase& database, Prompt& prompt, const User& learner, const std::string& now,
-        QWidget* parent = nullptr);
+    /// Shows `learner`, whose whole history is `history`, up to the date of `now`, an event time.
+    ProgressWindow(CharacterDatabase& database, Prompt& prompt, const User& learner, std::vector<LearnerEvent> history,
+        const std::string& now, QWidget* parent = nullptr);
     ~ProgressWindow() override;
 
 

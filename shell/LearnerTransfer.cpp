@@ -49,7 +49,8 @@ LearnerTransfer::Outcome LearnerTransfer::ImportAsked(const std::string& openNam
 
 bool LearnerTransfer::Export(User& learner, const QString& path)
 {
-    if (LearnerFile::Export(QFile::encodeName(path).toStdString(), learner, m_database.CategoryCount()))
+    if (LearnerFile::Export(
+            QFile::encodeName(path).toStdString(), learner, m_store.History(learner), m_database.CategoryCount()))
         return true;
     Refuse(tr("Export learner"),
         tr("The learner could not be written to \"%1\". Nothing was changed.").arg(QDir::toNativeSeparators(path)));
@@ -88,7 +89,7 @@ LearnerTransfer::Outcome LearnerTransfer::Import(const QString& path, const std:
                 .arg(QString::fromStdString(name)),
             QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel);
         if (answer == QMessageBox::Yes) {
-            m_store.SaveUser(learner);
+            m_store.ImportUser(learner);
             Outcome outcome{true, nullptr};
             if (name == openName)
                 outcome.replacedOpen = std::move(file.learner);
@@ -105,6 +106,6 @@ LearnerTransfer::Outcome LearnerTransfer::Import(const QString& path, const std:
             return {};
         learner.SetName(chosen);
     }
-    m_store.SaveUser(learner);
+    m_store.ImportUser(learner);
     return {true, nullptr};
 }

@@ -22,6 +22,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QTimer>
 
 using ZavorenCommon::ConfigException;
 
@@ -69,10 +70,17 @@ void MainWindow::BuildMenu()
     add(file, tr("Exit"), "exitAction", &QWidget::close);
     QMenu* tools = menuBar()->addMenu(tr("&Tools"));
     // Progress and export need a learner: enabled only while one is open.
-    m_learnerActions << add(
-        tools, tr("Progress…"), "progressAction", [this] { m_progress.Open(m_learner.get(), this); });
-    m_learnerActions << add(tools, tr("Export learner…"), "exportAction",
-        [this] { LearnerTransfer(m_database, m_store, m_prompt, this).ExportAsked(m_learner.get()); });
+    m_learnerActions << add(tools, tr("Progress…"), "progressAction", [this] {
+        if (!m_learner)
+            return;
+        std::vector<LearnerEvent> history = m_store.History(*m_learner);
+        TellHistoryProblem();
+        m_progress.Open(m_learner.get(), std::move(history), this);
+    });
+    m_learnerActions << add(tools, tr("Export learner…"), "exportAction", [this] {
+        LearnerTransfer(m_database, m_store, m_prompt, this).ExportAsked(m_learner.get());
+        TellHistoryProblem();
+    });
     add(tools, tr("Import learner…"), "importAction", &MainWindow::ImportLearner);
     tools->addSeparator();
     add(tools, tr("Preferences…"), "preferencesAction", &MainWindow::ChangePreferences);
@@ -137,6 +145,37 @@ void MainWindow::SetLearner(std::unique_ptr<User> learner, SaveOpenLearner save)
     }
     show();
     ShowPage(m_home);
+    // The history is not needed to show the home page: its database is opened once the page
+    // has been painted for the first time.
+    if (!m_historyOpened)
+        m_home->installEventFilter(this);
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_home && event->type() == QEvent::Paint && !m_historyOpened) {
+        m_historyOpened = true;
+        m_home->removeEventFilter(this);
+        QTimer::singleShot(0, this, [this] {
+            if (m_closing)
+                return;
+            m_store.OpenHistory();
+            TellHistoryProblem();
+        });
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::TellHistoryProblem()
+{
+    const HistoryProblem problem = m_store.TakeHistoryProblem();
+    if (problem.reason.empty())
+        return;
+    QString text = tr("The learning history cannot be kept: %1").arg(QString::fromStdString(problem.reason));
+    if (!problem.keptAs.empty())
+        text += QLatin1Char('\n') + tr("The damaged file is kept as \"%1\".").arg(QString::fromStdString(problem.keptAs));
+    text += QLatin1Char('\n') + tr("Until it can be kept again, your progress and history are saved in config.xml.");
+    m_prompt.Ask(isVisible() ? this : nullptr, QMessageBox::Warning, tr("Learning history"), text);
 }
 
 int MainWindow::RunUserManager()
@@ -148,6 +187,7 @@ int MainWindow::RunUserManager()
         [this](const QString& message) { ReportStoreError(message.toUtf8().constData()); });
     const int result = manager.exec();
     m_managerChoice = manager.SelectedUserName();
+    TellHistoryProblem();
     return result;
 }
 
@@ -216,7 +256,11 @@ std::optional<ProgressRecorder> MainWindow::Recorder()
 {
     if (!m_learner || !m_categoryId)
         return std::nullopt;
-    return ProgressRecorder(*m_learner, *m_categoryId, m_clock);
+    return ProgressRecorder(
+        *m_learner, *m_categoryId, m_clock, [this](User& learner, const std::vector<LearnerEvent>& events) {
+            m_store.Record(learner, events);
+            TellHistoryProblem();
+        });
 }
 
 void MainWindow::OnPageEvent(Page* page, quint16 code, quint16 argument)
@@ -291,6 +335,7 @@ void MainWindow::ImportLearner()
         // The open learner's record was replaced: they become the imported one, not saved over it.
         if (outcome.replacedOpen)
             SetLearner(std::move(outcome.replacedOpen), SaveOpenLearner::No);
+        TellHistoryProblem();
     } catch (const ConfigException& e) {
         ReportStoreError(e.what());
     }

@@ -50,6 +50,7 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     /// Whether SetLearner first saves the learner who was open.
@@ -60,6 +61,8 @@ private:
     void ChooseLearner();
     int RunUserManager();
     void ReportStoreError(const char* message);
+    /// Tells the learner, once, why the history is no longer kept in its database.
+    void TellHistoryProblem();
 
     void BuildMenu();
     /// Shows one page and sizes the window to it plus the menu bar.
@@ -96,4 +99,5 @@ private:
     QList<QAction*> m_learnerActions; ///< what needs a learner: enabled only while one is open
     CoachingPreferences m_preferences;
     bool m_closing = false;
+    bool m_historyOpened = false; ///< asked for once the home page was first painted
 };

@@ -14,7 +14,7 @@ void ProgressViewer::Close()
     delete m_window;
 }
 
-void ProgressViewer::Open(const User* learner, QWidget* parent)
+void ProgressViewer::Open(const User* learner, std::vector<LearnerEvent> history, QWidget* parent)
 {
     Close();
     if (!learner)
@@ -24,7 +24,7 @@ void ProgressViewer::Open(const User* learner, QWidget* parent)
     try {
         if (factory)
             m_window = factory->CreateProgressView(
-                m_database, m_prompt, *learner, m_clock ? m_clock() : LocalTimeNow(), parent);
+                m_database, m_prompt, *learner, std::move(history), m_clock ? m_clock() : LocalTimeNow(), parent);
     } catch (const std::exception& e) {
         factory = nullptr;
         error = QString::fromUtf8(e.what());

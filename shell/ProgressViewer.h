@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QPointer>
 
+#include <vector>
+
 class CharacterDatabase;
 class Prompt;
 class User;
@@ -20,8 +22,9 @@ public:
     /// Windows come from `source`; "today" is `clock`'s time.
     ProgressViewer(CharacterDatabase& database, Prompt& prompt, EventClock clock, ProgressViewSource source);
 
-    /// Opens `learner`'s window over `parent`, closing the one open (none: nothing opens).
-    void Open(const User* learner, QWidget* parent);
+    /// Opens the window on `learner` and their whole `history` over `parent`, closing the one
+    /// open (no learner: nothing opens).
+    void Open(const User* learner, std::vector<LearnerEvent> history, QWidget* parent);
     /// Closes the window open, if any.
     void Close();
 

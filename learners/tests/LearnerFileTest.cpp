@@ -67,7 +67,7 @@ TEST_F(LearnerFileTest, ALearnerComesBackAsTheyWereExported)
 {
     User anna = Anna();
     const fs::path path = m_dir / "anna.xml";
-    ASSERT_TRUE(LearnerFile::Export(path.string(), anna, s_db->CategoryCount()));
+    ASSERT_TRUE(LearnerFile::Export(path.string(), anna, anna.History(), s_db->CategoryCount()));
     const std::string text = Read(path);
     EXPECT_EQ(text.rfind("<?xml", 0), 0u); // an XML file, declared as such
     EXPECT_NE(text.find("<ZavorenLearner version=\"1\" categories=\"" + std::to_string(s_db->CategoryCount()) + "\">"),
@@ -89,13 +89,13 @@ TEST_F(LearnerFileTest, ALearnerComesBackAsTheyWereExported)
 TEST_F(LearnerFileTest, AFailedExportLeavesThePreviousFileWhole)
 {
     User anna = Anna();
-    EXPECT_FALSE(LearnerFile::Export((m_dir / "no-such-folder" / "anna.xml").string(), anna, s_db->CategoryCount()));
+    EXPECT_FALSE(LearnerFile::Export((m_dir / "no-such-folder" / "anna.xml").string(), anna, anna.History(), s_db->CategoryCount()));
     const fs::path path = m_dir / "anna.xml";
     Write(path, "before");
     // A folder in place of the file: the rename fails, the folder stays as it was.
     const fs::path folder = m_dir / "folder.xml";
     fs::create_directories(folder / "inside");
-    EXPECT_FALSE(LearnerFile::Export(folder.string(), anna, s_db->CategoryCount()));
+    EXPECT_FALSE(LearnerFile::Export(folder.string(), anna, anna.History(), s_db->CategoryCount()));
     EXPECT_TRUE(fs::is_directory(folder / "inside"));
     EXPECT_EQ(Read(path), "before");
     for (const auto& entry : fs::directory_iterator(m_dir)) // no temporary left behind
@@ -121,7 +121,7 @@ TEST_F(LearnerFileTest, DamagedExportsAreRefused)
 {
     User anna = Anna();
     const fs::path good = m_dir / "anna.xml";
-    ASSERT_TRUE(LearnerFile::Export(good.string(), anna, s_db->CategoryCount()));
+    ASSERT_TRUE(LearnerFile::Export(good.string(), anna, anna.History(), s_db->CategoryCount()));
     const std::string text = Read(good);
     const std::string categories = std::to_string(s_db->CategoryCount());
     const fs::path path = m_dir / "damaged.xml";
@@ -156,7 +156,7 @@ TEST_F(LearnerFileTest, AnExportOfADatabaseWithOtherCategoriesIsRefused)
 {
     User anna = Anna();
     const fs::path path = m_dir / "anna.xml";
-    ASSERT_TRUE(LearnerFile::Export(path.string(), anna, 3)); // a smaller database
+    ASSERT_TRUE(LearnerFile::Export(path.string(), anna, anna.History(), 3)); // a smaller database
     const auto imported = LearnerFile::Import(path.string(), *s_db);
     EXPECT_EQ(imported.problem, LearnerFile::Problem::OtherDatabase);
     EXPECT_EQ(imported.fileCategories, 3);

@@ -28,7 +28,7 @@ TEST(LearnerStatistics, WithoutHistoryTheChartsAreTodayAlone)
     User user;
     user.GetProgress(0).AddLearned(1);
     user.GetProgress(0).AddLearned(2);
-    const LearnerStatistics stats(user, {80, 160}, Today);
+    const LearnerStatistics stats(user, user.History(), {80, 160}, Today);
     EXPECT_EQ(stats.FirstDay(), Today);
     EXPECT_EQ(stats.LearnedPerDay(), std::vector<int>{2});
     ASSERT_EQ(stats.TestsPerWeek().size(), 1u);
@@ -52,7 +52,7 @@ TEST(LearnerStatistics, AYearOfWorkGivesAPointADayAndABarAWeek)
             ++passed;
         }
     }
-    const LearnerStatistics stats(user, {1000}, Today);
+    const LearnerStatistics stats(user, user.History(), {1000}, Today);
     EXPECT_EQ(stats.FirstDay(), Today - 365);
     const std::vector<int> learned = stats.LearnedPerDay();
     ASSERT_EQ(learned.size(), 366u);
@@ -77,7 +77,7 @@ TEST(LearnerStatistics, CharactersLearnedBeforeTheHistoryCountFromItsFirstDay)
         user.GetProgress(0).AddLearned(id);
     user.AddEvent({At(Today - 2), LearnerEvent::Passed, 0, 3, 0}); // 3 is learned in the history
     user.AddEvent({At(Today - 1), LearnerEvent::Forget, 0, 9, -1}); // 9 was learned before, then forgotten
-    const LearnerStatistics stats(user, {80}, Today);
+    const LearnerStatistics stats(user, user.History(), {80}, Today);
     EXPECT_EQ(stats.LearnedPerDay(), (std::vector<int>{4, 3, 3}));
 }
 
@@ -91,7 +91,7 @@ TEST(LearnerStatistics, ForgettingAndRetestingTakeCharactersAwayAndCategoriesAre
     user.AddEvent({At(Today), LearnerEvent::Forget, 1, 2, -1});
     user.GetProgress(0).AddLearned(3);
     user.GetProgress(0).AddUntested(1);
-    const LearnerStatistics stats(user, {80, 160}, Today);
+    const LearnerStatistics stats(user, user.History(), {80, 160}, Today);
     EXPECT_EQ(stats.LearnedPerDay(), (std::vector<int>{2, 3, 2, 1}));
     EXPECT_EQ(stats.LearnedPerDay(0), (std::vector<int>{1, 2, 1, 1}));
     EXPECT_EQ(stats.LearnedPerDay(1), (std::vector<int>{1, 1, 1, 0}));
@@ -118,7 +118,7 @@ TEST(LearnerStatistics, TroubleCharactersAreTheLearnedOrUntestedWithTheMostMista
     user.AddEvent({At(Today - 2), LearnerEvent::Failed, 0, 5, 2});
     user.AddEvent({At(Today - 2), LearnerEvent::Failed, 0, 6, 9}); // 6: neither learned nor untested
     user.AddEvent({At(Today - 1), LearnerEvent::Passed, 0, 4, 1}); // 4: 1
-    const LearnerStatistics stats(user, {80}, Today);
+    const LearnerStatistics stats(user, user.History(), {80}, Today);
     const auto trouble = stats.TroubleCharacters(10);
     ASSERT_EQ(trouble.size(), 4u);
     EXPECT_EQ(trouble[0].id, 5);
@@ -136,7 +136,7 @@ TEST(LearnerStatistics, EventsAfterTodayOrOutOfOrderDoNotBreakTheCharts)
     user.AddEvent({At(Today - 1), LearnerEvent::Passed, 0, 1, 0});
     user.AddEvent({At(Today - 3), LearnerEvent::Passed, 0, 2, 0}); // the clock was set back
     user.AddEvent({At(Today + 5), LearnerEvent::Passed, 0, 3, 0}); // a clock ahead
-    const LearnerStatistics stats(user, {80}, Today);
+    const LearnerStatistics stats(user, user.History(), {80}, Today);
     EXPECT_EQ(stats.LearnedPerDay(), (std::vector<int>{1, 1, 2, 2}));
     EXPECT_EQ(stats.TestsPerWeek().back().monday, Today - 6);
 }

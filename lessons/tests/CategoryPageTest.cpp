@@ -274,7 +274,12 @@ private slots:
 private:
     ProgressRecorder Recorder(std::uint16_t categoryId)
     {
-        return ProgressRecorder(m_learner, categoryId, [] { return std::string("2026-11-23T10:00:00+01:00"); });
+        return ProgressRecorder(
+            m_learner, categoryId, [] { return std::string("2026-11-23T10:00:00+01:00"); },
+            [](User& learner, const std::vector<LearnerEvent>& events) {
+                for (const LearnerEvent& e : events)
+                    learner.AddEvent(e);
+            });
     }
     /// The learner's record of Grade 1.
     CategoryProgress& Grade1() { return m_learner.GetProgress(0); }

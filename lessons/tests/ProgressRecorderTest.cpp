@@ -14,6 +14,17 @@ std::string Clock()
     return Now;
 }
 
+/// The actions handed over to be kept, each as its number of events.
+std::vector<std::size_t> g_actions;
+
+/// Keeps an action's events with the learner's record, noting the action.
+void KeepInRecord(User& learner, const std::vector<LearnerEvent>& events)
+{
+    g_actions.push_back(events.size());
+    for (const LearnerEvent& e : events)
+        learner.AddEvent(e);
+}
+
 /// A learner's events as "kind id mistakes" lines, for comparing.
 std::vector<std::string> Events(const User& user)
 {
@@ -34,7 +45,7 @@ TEST(ProgressRecorder, ALessonAddsEveryTaughtCharacterToTheUntestedListInOrder)
 {
     User user;
     user.GetProgress(3).AddUntested(4);
-    ProgressRecorder(user, 3, Clock).LessonFinished({9, 4, 2});
+    ProgressRecorder(user, 3, Clock, KeepInRecord).LessonFinished({9, 4, 2});
     EXPECT_EQ(user.GetProgress(3).Untested(), (Codes{4, 9, 4, 2})); // as it is: 4 twice
     EXPECT_TRUE(user.GetProgress(3).Learned().empty());
     EXPECT_EQ(Events(user), (Lines{"lesson 3/9", "lesson 3/4", "lesson 3/2"}));
@@ -45,11 +56,11 @@ TEST(ProgressRecorder, ATestTakesTheFirstUntestedCharactersUpToTheLessonSize)
     User user;
     for (std::uint16_t id = 1; id <= 7; ++id)
         user.GetProgress(0).AddUntested(id);
-    EXPECT_EQ(ProgressRecorder(user, 0, Clock).TestCharacters().size(), LessonSize);
-    EXPECT_EQ(ProgressRecorder(user, 0, Clock).TestCharacters(), (Codes{1, 2, 3, 4, 5}));
+    EXPECT_EQ(ProgressRecorder(user, 0, Clock, KeepInRecord).TestCharacters().size(), LessonSize);
+    EXPECT_EQ(ProgressRecorder(user, 0, Clock, KeepInRecord).TestCharacters(), (Codes{1, 2, 3, 4, 5}));
     user.GetProgress(1).AddUntested(8);
-    EXPECT_EQ(ProgressRecorder(user, 1, Clock).TestCharacters(), (Codes{8}));
-    EXPECT_TRUE(ProgressRecorder(user, 2, Clock).TestCharacters().empty());
+    EXPECT_EQ(ProgressRecorder(user, 1, Clock, KeepInRecord).TestCharacters(), (Codes{8}));
+    EXPECT_TRUE(ProgressRecorder(user, 2, Clock, KeepInRecord).TestCharacters().empty());
     EXPECT_TRUE(user.History().empty()); // asking records nothing
 }
 
@@ -61,12 +72,12 @@ TEST(ProgressRecorder, PassedBecomeLearnedAndFailedAreNotLearnedAgain)
     for (std::uint16_t id : {2, 3, 4})
         progress.AddUntested(id);
     auto mistakes = [](std::uint16_t code) { return code == 3 ? 2 : (code == 4 ? 1 : 0); };
-    ProgressRecorder(user, 0, Clock).TestTaken({2, 4}, {3}, mistakes);
+    ProgressRecorder(user, 0, Clock, KeepInRecord).TestTaken({2, 4}, {3}, mistakes);
     EXPECT_EQ(progress.Learned(), (Codes{1, 2, 4}));
     EXPECT_TRUE(progress.Untested().empty());
     EXPECT_EQ(Events(user), (Lines{"passed 0/2 0", "passed 0/4 1", "failed 0/3 2"}));
     // A passed character that was not untested stays where it was.
-    ProgressRecorder(user, 0, Clock).TestTaken({9}, {}, mistakes);
+    ProgressRecorder(user, 0, Clock, KeepInRecord).TestTaken({9}, {}, mistakes);
     EXPECT_EQ(progress.Learned(), (Codes{1, 2, 4}));
 }
 
@@ -76,7 +87,7 @@ TEST(ProgressRecorder, ForgetRemovesLearnedCharactersAndSaysWhichLeft)
     for (std::uint16_t id : {7, 8, 9})
         user.GetProgress(5).AddLearned(id);
     user.GetProgress(5).AddUntested(4);
-    ProgressRecorder recorder(user, 5, Clock);
+    ProgressRecorder recorder(user, 5, Clock, KeepInRecord);
     EXPECT_EQ(recorder.Forget({9, 4, 7}), (Codes{9, 7})); // 4 was not learned: it stays untested
     EXPECT_EQ(user.GetProgress(5).Learned(), (Codes{8}));
     EXPECT_EQ(user.GetProgress(5).Untested(), (Codes{4}));
@@ -92,7 +103,7 @@ TEST(ProgressRecorder, RetestSendsFiveLearnedCharactersBackAndSaysWhich)
     // Draws of the standard generator seeded with 1: 41, 18467, 6334, 26500, 19169, that is
     // indexes 0 of 7, 3 of 6, 0 of 5, 3 of 4 and 1 of 3 in the list as it stands.
     Random15 random(1);
-    ProgressRecorder recorder(user, 1, Clock);
+    ProgressRecorder recorder(user, 1, Clock, KeepInRecord);
     const Codes sent = recorder.Retest(random);
     EXPECT_EQ(sent, (Codes{20, 24, 21, 26, 23}));
     EXPECT_EQ(user.GetProgress(1).Learned(), (Codes{22, 25}));
@@ -105,7 +116,7 @@ TEST(ProgressRecorder, OneCharacterAlreadyTaughtIsAReview)
     User user;
     user.GetProgress(2).AddLearned(7);
     user.GetProgress(2).AddUntested(8);
-    ProgressRecorder recorder(user, 2, Clock);
+    ProgressRecorder recorder(user, 2, Clock, KeepInRecord);
     recorder.LearnOne(7);
     recorder.LearnOne(8);
     recorder.LearnOne(9);
@@ -113,4 +124,17 @@ TEST(ProgressRecorder, OneCharacterAlreadyTaughtIsAReview)
     // Nothing moves: the lesson's end decides that.
     EXPECT_EQ(user.GetProgress(2).Learned(), (Codes{7}));
     EXPECT_EQ(user.GetProgress(2).Untested(), (Codes{8}));
+}
+
+TEST(ProgressRecorder, EachActionIsKeptInOnePieceAndNothingIsKeptForNoChange)
+{
+    g_actions.clear();
+    User user;
+    ProgressRecorder recorder(user, 0, Clock, KeepInRecord);
+    recorder.LessonFinished({1, 2, 3, 4, 5});
+    recorder.TestTaken({1, 2, 3}, {4, 5}, {});
+    recorder.Forget({9}); // not learned: no change, nothing to keep
+    recorder.LearnOne(1);
+    EXPECT_EQ(g_actions, (std::vector<std::size_t>{5, 5, 1}));
+    EXPECT_EQ(user.History().size(), 11u);
 }

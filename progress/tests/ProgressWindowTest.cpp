@@ -75,7 +75,7 @@ private slots:
 
     void theChartsHoldADayAndAWeekPerPoint()
     {
-        ProgressWindow window(*m_db, m_prompt, m_learner, Now);
+        ProgressWindow window(*m_db, m_prompt, m_learner, m_learner.History(), Now);
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         QCOMPARE(window.windowTitle(), QStringLiteral("Progress of Anna"));
@@ -106,7 +106,7 @@ private slots:
 
     void theCategoryTableCountsEveryCategory()
     {
-        ProgressWindow window(*m_db, m_prompt, m_learner, Now);
+        ProgressWindow window(*m_db, m_prompt, m_learner, m_learner.History(), Now);
         QTableWidget* table = Named<QTableWidget>(&window, "categoryTable");
         QCOMPARE(table->rowCount(), static_cast<int>(m_db->CategoryCount()));
         QCOMPARE(table->item(0, 0)->text(), QStringLiteral("Grade 1"));
@@ -119,7 +119,7 @@ private slots:
 
     void theTroubleListIsOrderedAndOpensKanjiInfo()
     {
-        ProgressWindow window(*m_db, m_prompt, m_learner, Now);
+        ProgressWindow window(*m_db, m_prompt, m_learner, m_learner.History(), Now);
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         Named<QTabWidget>(&window, "progressTabs")->setCurrentIndex(3);
@@ -156,7 +156,7 @@ private slots:
 
     void partsHaveAccessibleNamesAndFollowTheDarkPalette()
     {
-        ProgressWindow window(*m_db, m_prompt, m_learner, Now);
+        ProgressWindow window(*m_db, m_prompt, m_learner, m_learner.History(), Now);
         for (QWidget* part : {static_cast<QWidget*>(Named<QTabWidget>(&window, "progressTabs")), static_cast<QWidget*>(Named<QComboBox>(&window, "categoryPicker")),
                  static_cast<QWidget*>(Named<QChartView>(&window, "learnedChart")), static_cast<QWidget*>(Named<QChartView>(&window, "testsChart")),
                  static_cast<QWidget*>(Named<QTableWidget>(&window, "categoryTable")), static_cast<QWidget*>(Named<QListWidget>(&window, "troubleList"))})
@@ -176,7 +176,7 @@ private slots:
         QVERIFY2(instance, qPrintable(loader.errorString()));
         auto* factory = qobject_cast<ProgressViewFactory*>(instance);
         QVERIFY(factory);
-        QWidget* view = factory->CreateProgressView(*m_db, m_prompt, m_learner, Now, nullptr);
+        QWidget* view = factory->CreateProgressView(*m_db, m_prompt, m_learner, m_learner.History(), Now, nullptr);
         QVERIFY(view);
         QCOMPARE(QString::fromLatin1(view->metaObject()->className()), QStringLiteral("ProgressWindow"));
         QVERIFY(view->testAttribute(Qt::WA_DeleteOnClose));

@@ -155,7 +155,7 @@ int main(int argc, char** argv)
     ok &= Save(home, out, QStringLiteral("home"));
 
     CategoryPage category(db, prompt, seeds);
-    category.SetCategory(0, ProgressRecorder(learner, 0, {}));
+    category.SetCategory(0, ProgressRecorder(learner, 0, {}, {}));
     ok &= Save(category, out, QStringLiteral("category"));
 
     // 日: its first stroke written, then the second drawn too low (refused, with the arrow).
@@ -215,7 +215,7 @@ int main(int argc, char** argv)
         if (n % 5 != 0 && !learner.GetProgress(0).IsLearned(id))
             learner.GetProgress(0).AddLearned(id);
     }
-    ProgressWindow progress(db, prompt, learner, "2026-11-22T20:00:00+01:00");
+    ProgressWindow progress(db, prompt, learner, learner.History(), "2026-11-22T20:00:00+01:00");
     progress.setAttribute(Qt::WA_DeleteOnClose, false);
     progress.resize(720, 520);
     const char* const tabs[] = {"progress-learned", "progress-tests", "progress-categories", "progress-trouble"};

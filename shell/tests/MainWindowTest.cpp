@@ -117,9 +117,9 @@ Codes Sorted(Codes codes)
 class StaticProgressViews : public ProgressViewFactory {
 public:
     QWidget* CreateProgressView(CharacterDatabase& database, Prompt& prompt, const User& learner,
-        const std::string& now, QWidget* parent) override
+        std::vector<LearnerEvent> history, const std::string& now, QWidget* parent) override
     {
-        return new ProgressWindow(database, prompt, learner, now, parent);
+        return new ProgressWindow(database, prompt, learner, std::move(history), now, parent);
     }
     ProgressViewSource Source()
     {
