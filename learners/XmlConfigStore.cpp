@@ -209,9 +209,9 @@ bool XmlConfigStore::AddUser(const std::string& name)
         m_userNames.push_back(name);
         // Events left under this name by a learner whose deletion could not reach the database
         // are not the new learner's.
-        if (m_historyState == HistoryState::Open) {
+        if (HistoryStore* histories = Histories()) {
             std::string error;
-            if (!m_histories->Forget(name, error))
+            if (!histories->Forget(name, error))
                 HistoryFailed(error);
         }
         return SaveFile();

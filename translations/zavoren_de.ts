@@ -476,6 +476,22 @@ Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</transl
         <source>About Zavoren</source>
         <translation>Über Zavoren</translation>
     </message>
+    <message>
+        <source>The learning history cannot be kept: %1</source>
+        <translation>Der Lernverlauf kann nicht gespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>The damaged file is kept as &quot;%1&quot;.</source>
+        <translation>Die beschädigte Datei wird als „%1“ aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>Until it can be kept again, your progress and history are saved in config.xml.</source>
+        <translation>Bis er wieder gespeichert werden kann, werden Ihr Fortschritt und Ihr Verlauf in config.xml gesichert.</translation>
+    </message>
+    <message>
+        <source>Learning history</source>
+        <translation>Lernverlauf</translation>
+    </message>
 </context>
 <context>
     <name>Page</name>

@@ -476,6 +476,22 @@ Sí lo sustituye; No importa al alumno con otro nombre.</translation>
         <source>About Zavoren</source>
         <translation>Acerca de Zavoren</translation>
     </message>
+    <message>
+        <source>The learning history cannot be kept: %1</source>
+        <translation>No se puede conservar el historial de aprendizaje: %1</translation>
+    </message>
+    <message>
+        <source>The damaged file is kept as &quot;%1&quot;.</source>
+        <translation>El archivo dañado se conserva como «%1».</translation>
+    </message>
+    <message>
+        <source>Until it can be kept again, your progress and history are saved in config.xml.</source>
+        <translation>Hasta que pueda conservarse de nuevo, su progreso y su historial se guardan en config.xml.</translation>
+    </message>
+    <message>
+        <source>Learning history</source>
+        <translation>Historial de aprendizaje</translation>
+    </message>
 </context>
 <context>
     <name>Page</name>

@@ -476,6 +476,22 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
         <source>About Zavoren</source>
         <translation>À propos de Zavoren</translation>
     </message>
+    <message>
+        <source>The learning history cannot be kept: %1</source>
+        <translation>L’historique d’apprentissage ne peut pas être conservé : %1</translation>
+    </message>
+    <message>
+        <source>The damaged file is kept as &quot;%1&quot;.</source>
+        <translation>Le fichier endommagé est conservé sous le nom « %1 ».</translation>
+    </message>
+    <message>
+        <source>Until it can be kept again, your progress and history are saved in config.xml.</source>
+        <translation>En attendant qu’il puisse l’être à nouveau, vos progrès et votre historique sont enregistrés dans config.xml.</translation>
+    </message>
+    <message>
+        <source>Learning history</source>
+        <translation>Historique d’apprentissage</translation>
+    </message>
 </context>
 <context>
     <name>Page</name>

@@ -476,6 +476,22 @@ Sim substitui; Não importa o aluno com outro nome.</translation>
         <source>About Zavoren</source>
         <translation>Sobre o Zavoren</translation>
     </message>
+    <message>
+        <source>The learning history cannot be kept: %1</source>
+        <translation>O histórico de aprendizado não pode ser mantido: %1</translation>
+    </message>
+    <message>
+        <source>The damaged file is kept as &quot;%1&quot;.</source>
+        <translation>O arquivo danificado foi mantido como “%1”.</translation>
+    </message>
+    <message>
+        <source>Until it can be kept again, your progress and history are saved in config.xml.</source>
+        <translation>Até que possa ser mantido novamente, seu progresso e seu histórico são salvos em config.xml.</translation>
+    </message>
+    <message>
+        <source>Learning history</source>
+        <translation>Histórico de aprendizado</translation>
+    </message>
 </context>
 <context>
     <name>Page</name>

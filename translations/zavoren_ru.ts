@@ -476,6 +476,22 @@ Yes replaces it; No imports the learner under another name.</source>
         <source>About Zavoren</source>
         <translation>О программе Zavoren</translation>
     </message>
+    <message>
+        <source>The learning history cannot be kept: %1</source>
+        <translation>Не удаётся сохранить историю обучения: %1</translation>
+    </message>
+    <message>
+        <source>The damaged file is kept as &quot;%1&quot;.</source>
+        <translation>Повреждённый файл сохранён как «%1».</translation>
+    </message>
+    <message>
+        <source>Until it can be kept again, your progress and history are saved in config.xml.</source>
+        <translation>Пока её нельзя сохранить, ваш прогресс и история записываются в config.xml.</translation>
+    </message>
+    <message>
+        <source>Learning history</source>
+        <translation>История обучения</translation>
+    </message>
 </context>
 <context>
     <name>Page</name>

@@ -8,8 +8,11 @@
 
 #include <sqlite3.h>
 
+#include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <sys/resource.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -183,4 +186,126 @@ TEST_F(HistoryStoreTest, AnotherProgramHoldingTheFileIsWaitedForAndNothingHalfIs
     std::vector<LearnerEvent> events;
     ASSERT_TRUE(store->Events("Anna", events, error));
     EXPECT_EQ(events, (std::vector<LearnerEvent>{Event("lesson", 1), Event("lesson", 4)}));
+}
+
+TEST_F(HistoryStoreTest, EachCharactersSummaryFollowsItsEvents)
+{
+    std::string error;
+    auto store = HistoryStore::Open(Path(), error);
+    ASSERT_TRUE(store) << error;
+    ASSERT_TRUE(store->Record("Anna", {Event("lesson", 3), Event("lesson", 1)}, error)) << error;
+    ASSERT_TRUE(store->Record("Anna", {Event("passed", 3, 2), Event("failed", 1, 4)}, error)) << error;
+    ASSERT_TRUE(store->Record("Anna", {Event("failed", 3, 1), Event("retest", 1)}, error)) << error;
+    ASSERT_TRUE(store->Record("Ben", {Event("passed", 3, 0)}, error)) << error;
+    std::vector<HistoryStore::CharacterSummary> anna;
+    ASSERT_TRUE(store->Characters("Anna", anna, error)) << error;
+    ASSERT_EQ(anna.size(), 2u);
+    EXPECT_EQ(anna[0].id, 1);
+    EXPECT_EQ(anna[0].lastKind, "retest");
+    EXPECT_EQ(anna[0].tests, 1);
+    EXPECT_EQ(anna[0].mistakes, 4);
+    EXPECT_EQ(anna[0].failures, 1);
+    EXPECT_EQ(anna[1].id, 3);
+    EXPECT_EQ(anna[1].lastKind, "failed");
+    EXPECT_EQ(anna[1].tests, 2);
+    EXPECT_EQ(anna[1].mistakes, 3);
+    EXPECT_EQ(anna[1].failures, 1);
+    ASSERT_TRUE(store->Forget("Anna", error));
+    ASSERT_TRUE(store->Characters("Anna", anna, error));
+    EXPECT_TRUE(anna.empty());
+    ASSERT_TRUE(store->Characters("Ben", anna, error));
+    EXPECT_EQ(anna.size(), 1u);
+    // Read through the index: the query plan names it, no pass over the table.
+    EXPECT_EQ(Query("EXPLAIN QUERY PLAN SELECT * FROM characters WHERE learner = 'Anna'").find("SCAN"), std::string::npos);
+}
+
+TEST_F(HistoryStoreTest, AFileOfTheFirstSchemaIsMigratedWithItsSummaries)
+{
+    // The first schema, as the first program with a history database wrote it.
+    sqlite3* db = nullptr;
+    sqlite3_open(Path().c_str(), &db);
+    ASSERT_EQ(sqlite3_exec(db,
+                  "CREATE TABLE events (id INTEGER PRIMARY KEY, learner TEXT NOT NULL, at TEXT NOT NULL,"
+                  " kind TEXT NOT NULL, category INTEGER NOT NULL, character INTEGER NOT NULL,"
+                  " mistakes INTEGER NOT NULL DEFAULT -1);"
+                  "CREATE INDEX events_by_learner ON events (learner, id);"
+                  "CREATE INDEX events_by_character ON events (learner, category, character, id);"
+                  "INSERT INTO events (learner, at, kind, category, character, mistakes) VALUES"
+                  " ('Anna', '2026-11-20T10:00:00+01:00', 'lesson', 0, 5, -1),"
+                  " ('Anna', '2026-11-21T10:00:00+01:00', 'passed', 0, 5, 2),"
+                  " ('Anna', '2026-11-22T10:00:00+01:00', 'failed', 0, 5, 1);"
+                  "PRAGMA user_version = 1;",
+                  nullptr, nullptr, nullptr),
+        SQLITE_OK);
+    sqlite3_close(db);
+    std::string error;
+    auto store = HistoryStore::Open(Path(), error);
+    ASSERT_TRUE(store) << error;
+    EXPECT_EQ(Query("PRAGMA user_version"), "2");
+    std::vector<HistoryStore::CharacterSummary> anna;
+    ASSERT_TRUE(store->Characters("Anna", anna, error)) << error;
+    ASSERT_EQ(anna.size(), 1u);
+    EXPECT_EQ(anna[0].lastAt, "2026-11-22T10:00:00+01:00");
+    EXPECT_EQ(anna[0].lastKind, "failed");
+    EXPECT_EQ(anna[0].tests, 2);
+    EXPECT_EQ(anna[0].mistakes, 3);
+    EXPECT_EQ(anna[0].failures, 1);
+    std::vector<LearnerEvent> events;
+    ASSERT_TRUE(store->Events("Anna", events, error));
+    EXPECT_EQ(events.size(), 3u);
+}
+
+TEST_F(HistoryStoreTest, AHistoryBroughtOverTwiceIsAddedOnce)
+{
+    std::string error;
+    auto store = HistoryStore::Open(Path(), error);
+    ASSERT_TRUE(store) << error;
+    const std::vector<HistoryStore::Kept> kept
+        = {{"Anna", {Event("lesson", 1), Event("passed", 1, 0)}}, {"Ben", {Event("lesson", 2)}}};
+    ASSERT_TRUE(store->BringOver(kept, error)) << error;
+    ASSERT_TRUE(store->BringOver(kept, error)) << error;
+    EXPECT_EQ(Query("SELECT count(*) FROM events"), "3");
+    // More events of Anna's kept later (a session without the database) are a new history.
+    ASSERT_TRUE(store->BringOver({{"Anna", {Event("lesson", 7)}}}, error)) << error;
+    EXPECT_EQ(Query("SELECT count(*) FROM events"), "4");
+    EXPECT_NE(HistoryStore::Fingerprint({Event("lesson", 1)}), HistoryStore::Fingerprint({Event("lesson", 2)}));
+    EXPECT_NE(HistoryStore::Fingerprint({Event("lesson", 1)}), HistoryStore::Fingerprint({Event("lesson", 1, 0)}));
+}
+
+TEST_F(HistoryStoreTest, AFullDiskDuringACommitLeavesTheFileAsBefore)
+{
+    std::string error;
+    {
+        auto store = HistoryStore::Open(Path(), error);
+        ASSERT_TRUE(store) << error;
+        ASSERT_TRUE(store->Record("Anna", {Event("lesson", 1), Event("lesson", 2)}, error)) << error;
+    }
+    // A child process whose files may not grow past 64 KiB: its large action cannot be written.
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        std::string childError;
+        auto store = HistoryStore::Open(Path(), childError);
+        if (!store)
+            ::_exit(2);
+        rlimit limit{64 * 1024, 64 * 1024};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        std::vector<LearnerEvent> many;
+        for (std::uint16_t i = 0; i < 5000; ++i)
+            many.push_back({"2026-11-23T10:00:00+01:00", std::string(40, 'k'), 0, i, -1});
+        const bool recorded = store->Record("Anna", many, childError);
+        ::_exit(recorded ? 1 : 0);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFEXITED(status));
+    EXPECT_EQ(WEXITSTATUS(status), 0) << "the over-large action was recorded";
+    auto store = HistoryStore::Open(Path(), error);
+    ASSERT_TRUE(store) << error;
+    EXPECT_EQ(Query("PRAGMA integrity_check"), "ok");
+    std::vector<LearnerEvent> events;
+    ASSERT_TRUE(store->Events("Anna", events, error));
+    EXPECT_EQ(events, (std::vector<LearnerEvent>{Event("lesson", 1), Event("lesson", 2)}));
+    ASSERT_TRUE(store->Record("Anna", {Event("lesson", 3)}, error)) << error;
 }

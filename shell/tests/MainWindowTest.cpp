@@ -8,6 +8,7 @@
 #include "DrawingTestPage.h"
 #include "FeedbackLine.h"
 #include "HelpActions.h"
+#include "HistoryStore.h"
 #include "HomePage.h"
 #include "InputCanvas.h"
 #include "LessonPage.h"
@@ -321,6 +322,52 @@ private slots:
         QCOMPARE(saved->GetProgress(0).Untested(), (Codes{grade1[0], grade1[1]}));
         QCOMPARE(saved->History().size(), 1u); // "learn" only: an aborted lesson records nothing
         QCOMPARE(saved->History()[0].kind, std::string(LearnerEvent::Learn));
+    }
+
+    void theHistoryDatabaseOpensAfterTheFirstPaintAndKeepsEachTest()
+    {
+        WindowFixture f(LearnerWithFiveToTest("Anna"), NoProgressModule, HistoryPlace{true, {}});
+        QVERIFY(f.Start());
+        QVERIFY(!QFile::exists(QString::fromStdString(f.HistoryPath()))); // the home page needs none
+        MainWindow& window = f.Window();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QTRY_VERIFY(QFile::exists(QString::fromStdString(f.HistoryPath())));
+        OpenCategory(window, 0);
+        QTest::mouseClick(Named<QPushButton>(ChildOf<CategoryPage>(window), "testButton"), Qt::LeftButton);
+        AnswerTestRight(window);
+        QCOMPARE(ShownPage(window), ChildOf<CategoryPage>(window));
+        // The page has moved on: the five results are in the database, before any save.
+        std::string error;
+        auto histories = HistoryStore::Open(f.HistoryPath(), error);
+        QVERIFY2(histories, error.c_str());
+        std::vector<LearnerEvent> events;
+        QVERIFY(histories->Events("Anna", events, error));
+        QCOMPARE(events.size(), 5u);
+        for (const LearnerEvent& e : events)
+            QCOMPARE(QString::fromStdString(e.kind), QStringLiteral("passed"));
+        f.Close();
+        QVERIFY(f.ReadConfig().find("History") == std::string::npos);
+        QVERIFY(f.Prompt().messages.isEmpty());
+    }
+
+    void aHistoryThatCannotBeKeptIsToldOnceAndGoesToConfigXml()
+    {
+        WindowFixture f(LearnerWithFiveToTest("Anna"), NoProgressModule,
+            HistoryPlace{true, QDir::tempPath().toStdString() + "/no-such-zavoren-folder/history.db"});
+        QVERIFY(f.Start());
+        MainWindow& window = f.Window();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QTRY_COMPARE(f.Prompt().messages.size(), 1);
+        QCOMPARE(f.Prompt().messages[0],
+            QStringLiteral("Learning history: The learning history cannot be kept: unable to open database file\n"
+                           "Until it can be kept again, your progress and history are saved in config.xml."));
+        OpenCategory(window, 0);
+        QTest::mouseClick(Named<QPushButton>(ChildOf<CategoryPage>(window), "testButton"), Qt::LeftButton);
+        AnswerTestRight(window);
+        QCOMPARE(f.Prompt().messages.size(), 1); // told once
+        f.Close();
+        const auto saved = f.Saved("Anna");
+        QCOMPARE(saved->History().size(), 5u);
     }
 
     void closingDuringATestAppliesTheAnswersSoFar()

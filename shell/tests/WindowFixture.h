@@ -34,11 +34,19 @@ inline ProgressViewFactory* NoProgressModule(QString& error)
     return nullptr;
 }
 
+/// Where the window's store keeps the history: with the learners in config.xml, or in a
+/// history database (history.db beside config.xml, or another path).
+struct HistoryPlace {
+    bool database = false;
+    std::string path; ///< empty: history.db in the folder
+};
+
 class WindowFixture {
 public:
     /// A folder whose config.xml holds `config`; the window is built at once.
-    explicit WindowFixture(const std::string& config, ProgressViewSource views = NoProgressModule)
-        : m_views(std::move(views))
+    explicit WindowFixture(
+        const std::string& config, ProgressViewSource views = NoProgressModule, HistoryPlace history = {})
+        : m_views(std::move(views)), m_history(std::move(history))
     {
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_dir.filePath(QStringLiteral("settings")));
         std::ofstream(ConfigPath()) << config;
@@ -52,6 +60,10 @@ public:
     RecordingOpener& Urls() { return m_urls; }
     QString Path() const { return m_dir.path(); }
     std::string ConfigPath() const { return m_dir.filePath(QStringLiteral("config.xml")).toStdString(); }
+    std::string HistoryPath() const
+    {
+        return m_history.path.empty() ? m_dir.filePath(QStringLiteral("history.db")).toStdString() : m_history.path;
+    }
 
     /// Starts as the program does: the learner chosen at start opens on the home page.
     bool Start() { return m_window->ChooseLearnerAtStart() && m_window->ShowChosenLearner(); }
@@ -84,7 +96,8 @@ public:
 private:
     void Open()
     {
-        m_store = std::make_unique<XmlConfigStore>(ConfigPath(), StandardDatabase());
+        m_store = std::make_unique<XmlConfigStore>(
+            ConfigPath(), StandardDatabase(), m_history.database ? HistoryPath() : std::string());
         m_window = std::make_unique<MainWindow>(
             StandardDatabase(), *m_store, m_prompt, FixedSeed, m_urls.Opener(), FixedClock, m_views);
     }
@@ -93,6 +106,7 @@ private:
     RecordingPrompt m_prompt;
     RecordingOpener m_urls;
     ProgressViewSource m_views;
+    HistoryPlace m_history;
     std::unique_ptr<XmlConfigStore> m_store;
     std::unique_ptr<MainWindow> m_window;
 };
