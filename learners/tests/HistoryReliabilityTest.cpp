@@ -1,0 +1,264 @@
+// The history database against what a learner's computer does to it: the program killed at any
+// moment of a commit, and files damaged on disk. Nothing committed is lost, nothing half is
+// kept, and damage is always told and never written over.
+
+#include "XmlConfigStore.h"
+
+#include "DatabaseWriter.h"
+#include "FileCharacterDatabase.h"
+
+#include <gtest/gtest.h>
+
+#include <sqlite3.h>
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <sstream>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string ReadBytes(const fs::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    std::stringstream bytes;
+    bytes << file.rdbuf();
+    return bytes.str();
+}
+
+void WriteBytes(const fs::path& path, const std::string& bytes)
+{
+    std::ofstream(path, std::ios::binary | std::ios::trunc) << bytes;
+}
+
+/// One value a query gives on the file at `path`, read by a connection of the test's own.
+std::string Query(const fs::path& path, const char* sql)
+{
+    sqlite3* db = nullptr;
+    std::string value = "(cannot open)";
+    if (sqlite3_open_v2(path.c_str(), &db, SQLITE_OPEN_READWRITE, nullptr) == SQLITE_OK) {
+        sqlite3_stmt* s = nullptr;
+        value = "(" + std::string(sqlite3_errmsg(db)) + ")";
+        if (sqlite3_prepare_v2(db, sql, -1, &s, nullptr) == SQLITE_OK) {
+            const int step = sqlite3_step(s);
+            if (step == SQLITE_ROW)
+                value = reinterpret_cast<const char*>(sqlite3_column_text(s, 0));
+            else
+                value = "(" + std::string(sqlite3_errmsg(db)) + ")";
+        }
+        sqlite3_finalize(s);
+    }
+    sqlite3_close(db);
+    return value;
+}
+
+class HistoryReliability : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        std::string pattern = (fs::temp_directory_path() / "zavoren-reliability-XXXXXX").string();
+        m_dir = mkdtemp(pattern.data());
+    }
+    void TearDown() override
+    {
+        std::error_code ec;
+        fs::remove_all(m_dir, ec);
+    }
+    fs::path m_dir;
+};
+
+/// Starts the driver on `path` with its output on a pipe; its process id, the pipe's read end
+/// in `output`.
+pid_t StartDriver(const fs::path& path, int& output)
+{
+    int pipeEnds[2];
+    if (::pipe(pipeEnds) != 0)
+        return -1;
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::dup2(pipeEnds[1], STDOUT_FILENO);
+        ::close(pipeEnds[0]);
+        ::close(pipeEnds[1]);
+        ::execl(HISTORY_KILL_DRIVER, HISTORY_KILL_DRIVER, path.c_str(), static_cast<char*>(nullptr));
+        ::_exit(127);
+    }
+    ::close(pipeEnds[1]);
+    output = pipeEnds[0];
+    return child;
+}
+
+/// Everything left to read on `fd`, then closes it.
+std::string ReadAll(int fd)
+{
+    std::string text;
+    char buffer[4096];
+    for (;;) {
+        const ssize_t n = ::read(fd, buffer, sizeof buffer);
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0)
+            break;
+        text.append(buffer, static_cast<std::size_t>(n));
+    }
+    ::close(fd);
+    return text;
+}
+
+/// The last whole number line of the driver's output: the actions committed (0 for none).
+long LastCommitted(const std::string& output)
+{
+    long last = 0;
+    std::istringstream lines(output);
+    std::string line;
+    while (std::getline(lines, line))
+        if (!lines.eof() || output.back() == '\n')
+            last = std::stol(line);
+    return last;
+}
+
+} // namespace
+
+TEST_F(HistoryReliability, KilledAtAnyMomentEveryCommittedActionIsThereAndNothingHalf)
+{
+    const fs::path path = m_dir / "history.db";
+    std::mt19937 random(20261123);
+    long committedBefore = 0; // actions announced by earlier drivers
+    int killedWithCommits = 0;
+    for (int round = 0; round < 300; ++round) {
+        int output = -1;
+        const pid_t driver = StartDriver(path, output);
+        ASSERT_GT(driver, 0);
+        // Between 0 and 25 ms: before the file is open, while it is opened, in the middle of
+        // commits.
+        ::usleep(std::uniform_int_distribution<useconds_t>(0, 25000)(random));
+        ::kill(driver, SIGKILL);
+        const std::string announced = ReadAll(output);
+        int status = 0;
+        ASSERT_EQ(::waitpid(driver, &status, 0), driver);
+        ASSERT_TRUE(WIFSIGNALED(status)) << "the driver stopped by itself: " << announced;
+        const long committed = LastCommitted(announced);
+        killedWithCommits += committed > 0;
+
+        std::string error;
+        auto store = HistoryStore::Open(path.string(), error);
+        ASSERT_TRUE(store) << "round " << round << ": " << error;
+        ASSERT_EQ(Query(path, "PRAGMA integrity_check"), "ok") << "round " << round;
+        std::vector<LearnerEvent> events;
+        ASSERT_TRUE(store->Events("Anna", events, error)) << error;
+        // Every announced action is there; at most one more, whose announcement the kill cut;
+        // every action whole.
+        const long actions = static_cast<long>(events.size() / 5);
+        ASSERT_EQ(events.size() % 5, 0u) << "round " << round;
+        ASSERT_GE(actions, committedBefore + committed) << "round " << round;
+        ASSERT_LE(actions, committedBefore + committed + 1) << "round " << round;
+        committedBefore = actions;
+    }
+    EXPECT_GT(killedWithCommits, 100); // most kills came in the middle of recording
+    std::printf("300 kills, %d in the middle of recording, %ld actions kept\n", killedWithCommits, committedBefore);
+}
+
+TEST_F(HistoryReliability, EveryDamagedCopyIsToldAndKeptAside)
+{
+    // A real history: three learners, ten years of one of them, written by the store itself.
+    DatabaseWriter writer;
+    Form form(109, 109);
+    form.AppendStroke(Stroke(Point{1, 1}));
+    writer.AddCharacter(writer.AddStrokeElement(form), "a", "b", "c");
+    writer.AddCategory("Category", {0});
+    const auto bytes = writer.Serialize();
+    std::ofstream(m_dir / "database", std::ios::binary)
+        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    FileCharacterDatabase database((m_dir / "database").string());
+    const fs::path config = m_dir / "config.xml";
+    WriteBytes(config, "<Zavoren><Users><User name=\"Anna\"/><User name=\"Ben\"/><User name=\"Chie\"/></Users></Zavoren>");
+    const fs::path original = m_dir / "original.db";
+    {
+        XmlConfigStore store(config.string(), database, original.string());
+        for (const char* name : {"Anna", "Ben", "Chie"}) {
+            auto learner = store.LoadUser(name);
+            const int days = name[0] == 'A' ? 3650 : 200;
+            for (int day = 0; day < days; ++day) {
+                std::vector<LearnerEvent> events;
+                for (std::uint16_t i = 0; i < 5; ++i)
+                    events.push_back({DayText(16000 + day) + "T18:00:00+01:00", LearnerEvent::Passed, 0,
+                        static_cast<std::uint16_t>((day * 5 + i) % 2136), i});
+                store.Record(*learner, events);
+            }
+        }
+        ASSERT_TRUE(store.TakeHistoryProblem().reason.empty());
+    }
+    const std::string pristine = ReadBytes(original);
+    ASSERT_GT(pristine.size(), 100u * 4096);
+    ASSERT_FALSE(fs::exists(m_dir / "original.db-wal")); // all in the file
+
+    std::mt19937 random(1123);
+    const fs::path copy = m_dir / "history.db";
+    int told = 0, harmless = 0;
+    for (int n = 0; n < 400; ++n) {
+        std::string damaged = pristine;
+        const char* how = "";
+        switch (n % 4) {
+        case 0: // cut short, as by a copy that stopped
+            how = "truncated";
+            damaged.resize(std::uniform_int_distribution<std::size_t>(1, pristine.size() - 1)(random));
+            break;
+        case 1: // bytes flipped here and there, as by failing storage
+            how = "flipped";
+            for (int i = std::uniform_int_distribution<int>(1, 16)(random); i > 0; --i)
+                damaged[std::uniform_int_distribution<std::size_t>(0, damaged.size() - 1)(random)]
+                    ^= static_cast<char>(std::uniform_int_distribution<int>(1, 255)(random));
+            break;
+        case 2: { // a whole page zeroed
+            how = "zeroed page";
+            const std::size_t pages = pristine.size() / 4096;
+            const std::size_t page = std::uniform_int_distribution<std::size_t>(0, pages - 1)(random);
+            std::fill_n(damaged.begin() + static_cast<std::ptrdiff_t>(page * 4096), 4096, '\0');
+            break;
+        }
+        case 3: { // a page overwritten by another one, as by a misdirected write
+            how = "page over page";
+            const std::size_t pages = pristine.size() / 4096;
+            const std::size_t from = std::uniform_int_distribution<std::size_t>(1, pages - 1)(random);
+            const std::size_t to = std::uniform_int_distribution<std::size_t>(1, pages - 1)(random);
+            damaged.replace(to * 4096, 4096, pristine, from * 4096, 4096);
+            break;
+        }
+        }
+        for (const auto& entry : fs::directory_iterator(m_dir))
+            if (entry.path().filename().string().rfind("history.db", 0) == 0)
+                fs::remove(entry.path());
+        WriteBytes(copy, damaged);
+        // What SQLite's full check says of the copy, on a copy of the copy.
+        WriteBytes(m_dir / "judge.db", damaged);
+        const std::string verdict = Query(m_dir / "judge.db", "PRAGMA integrity_check(1)");
+        fs::remove(m_dir / "judge.db");
+
+        XmlConfigStore store(config.string(), database, copy.string());
+        store.OpenHistory();
+        for (const char* name : {"Anna", "Ben", "Chie"})
+            store.History(*store.LoadUser(name));
+        auto anna = store.LoadUser("Anna");
+        store.Record(*anna, {{"2026-11-23T10:00:00+01:00", LearnerEvent::Lesson, 0, 1, -1}});
+        const HistoryProblem problem = store.TakeHistoryProblem();
+        if (problem.reason.empty()) {
+            // Not told: then the damage was none that SQLite can find, and the event went in.
+            EXPECT_EQ(verdict, "ok") << n << " " << how;
+            EXPECT_TRUE(anna->History().empty()) << n << " " << how;
+            ++harmless;
+            continue;
+        }
+        ++told;
+        // Told: the copy is aside, byte for byte as it was given, and the event waits in config.xml.
+        ASSERT_FALSE(problem.keptAs.empty()) << n << " " << how << ": " << problem.reason;
+        EXPECT_EQ(ReadBytes(problem.keptAs), damaged) << n << " " << how;
+        EXPECT_EQ(anna->History().size(), 1u) << n << " " << how;
+        fs::remove(problem.keptAs);
+    }
+    std::printf("400 damaged copies: %d told and kept aside, %d with damage SQLite finds none in\n", told, harmless);
+    EXPECT_GT(told, 300);
+}
