@@ -2,6 +2,7 @@
 // lists hold every character of the database of all KanjiVG kanji.
 
 #include "FileCharacterDatabase.h"
+#include "TenYears.h"
 #include "XmlConfigStore.h"
 
 #include <cstdio>
@@ -133,5 +134,160 @@ void BM_SaveUserWithTenYearsOfHistory(benchmark::State& state)
     state.counters["bytes_per_event"] = static_cast<double>(after - before) / 100000.0;
 }
 BENCHMARK(BM_SaveUserWithTenYearsOfHistory)->Unit(benchmark::kMillisecond);
+
+/// Five learners of ten years each (TenYears.h) with the standard database: their config.xml as
+/// the program wrote it with the history in it, and the same folder once it was brought over to
+/// history.db, in a folder on the same disk as the other benchmarks' files.
+struct TenYearsFixture {
+    fs::path dir;
+    std::unique_ptr<FileCharacterDatabase> database;
+    std::string withHistory; ///< config.xml's text before the history was brought over
+    TenYearsFixture()
+    {
+        std::string pattern = (fs::temp_directory_path() / "zavoren-bench-years-XXXXXX").string();
+        dir = mkdtemp(pattern.data());
+        database = std::make_unique<FileCharacterDatabase>(ZAVOREN_STANDARD_DATABASE);
+        database->Preload(nullptr);
+        std::ofstream(Config()) << "<Zavoren><Users/></Zavoren>";
+        {
+            XmlConfigStore store(Config(), *database);
+            for (int i = 0; i < 5; ++i) {
+                const std::string name = "Learner " + std::to_string(i);
+                store.AddUser(name);
+                auto learner = store.LoadUser(name);
+                for (LearnerEvent& e : TenYearsOfPractice(*database, *learner))
+                    learner->AddEvent(std::move(e));
+                store.SaveUser(*learner);
+            }
+        }
+        std::ifstream file(Config());
+        withHistory.assign(std::istreambuf_iterator<char>(file), {});
+        // Brought over once, and written without the history.
+        XmlConfigStore store(Config(), *database, History());
+        auto learner = store.LoadUser("Learner 0");
+        store.SaveUser(*learner);
+    }
+    ~TenYearsFixture() { fs::remove_all(dir); }
+    std::string Config() const { return (dir / "config.xml").string(); }
+    std::string History() const { return (dir / "history.db").string(); }
+};
+
+TenYearsFixture& TenYears()
+{
+    static TenYearsFixture fixture;
+    return fixture;
+}
+
+/// The one-time cost of a first start on a config.xml of five ten-year learners: reading it and
+/// bringing 182,500 events over in one transaction.
+void BM_BringOverFiveTenYearLearners(benchmark::State& state)
+{
+    TenYearsFixture& f = TenYears();
+    const fs::path config = f.dir / "first-start.xml";
+    const fs::path history = f.dir / "first-start.db";
+    for (auto _ : state) {
+        state.PauseTiming();
+        std::ofstream(config) << f.withHistory;
+        for (const char* suffix : {"", "-wal", "-shm"})
+            fs::remove(history.string() + suffix);
+        state.ResumeTiming();
+        XmlConfigStore store(config.string(), *f.database, history.string());
+        benchmark::DoNotOptimize(store.UserCount());
+    }
+    state.counters["config_bytes"] = static_cast<double>(f.withHistory.size());
+}
+BENCHMARK(BM_BringOverFiveTenYearLearners)->Unit(benchmark::kMillisecond)->Iterations(5);
+
+/// A test's results recorded: five events committed (synced) to history.db.
+void BM_RecordTestResults(benchmark::State& state)
+{
+    TenYearsFixture& f = TenYears();
+    XmlConfigStore store(f.Config(), *f.database, f.History());
+    auto learner = store.LoadUser("Learner 1");
+    store.OpenHistory();
+    std::uint16_t next = 0;
+    for (auto _ : state) {
+        std::vector<LearnerEvent> results;
+        for (int k = 0; k < 5; ++k)
+            results.push_back({"2026-11-23T18:20:00+01:00", LearnerEvent::Passed, 0, next++, 0});
+        store.Record(*learner, results);
+    }
+    if (!store.TakeHistoryProblem().reason.empty())
+        state.SkipWithError("the history database failed");
+}
+BENCHMARK(BM_RecordTestResults)->Unit(benchmark::kMillisecond);
+
+/// config.xml saved with one ten-year learner whose history is in history.db (one change a save).
+void BM_SaveConfigWithTenYearLearner(benchmark::State& state)
+{
+    TenYearsFixture& f = TenYears();
+    const std::string config = (f.dir / "one-learner.xml").string();
+    std::ofstream(config) << "<Zavoren><Users/></Zavoren>";
+    XmlConfigStore store(config, *f.database, f.History());
+    store.AddUser("Learner 0");
+    auto learner = store.LoadUser("Learner 0");
+    TenYearsOfPractice(*f.database, *learner); // the progress; the events are in history.db already
+    store.SaveUser(*learner);
+    std::uint16_t next = 0;
+    for (auto _ : state) {
+        learner->GetProgress(7).AddUntested(next++);
+        store.SaveUser(*learner);
+    }
+    state.counters["config_bytes"] = static_cast<double>(fs::file_size(config));
+}
+BENCHMARK(BM_SaveConfigWithTenYearLearner)->Unit(benchmark::kMillisecond);
+
+/// A learner added beside five ten-year learners: what is written, and how long it takes.
+void BM_AddLearnerBesideFiveTenYearLearners(benchmark::State& state)
+{
+    TenYearsFixture& f = TenYears();
+    XmlConfigStore store(f.Config(), *f.database, f.History());
+    store.OpenHistory();
+    auto size = [](const std::string& path) {
+        std::error_code ignored;
+        const auto bytes = fs::file_size(path, ignored);
+        return ignored ? 0.0 : static_cast<double>(bytes);
+    };
+    const double walBefore = size(f.History() + "-wal");
+    const double dbBefore = size(f.History());
+    int n = 0;
+    for (auto _ : state) {
+        const std::string name = "New learner " + std::to_string(n++);
+        store.AddUser(name);
+        state.PauseTiming();
+        store.DeleteUser(name);
+        state.ResumeTiming();
+    }
+    state.counters["config_bytes"] = size(f.Config());
+    state.counters["history_db_growth"] = size(f.History()) - dbBefore;
+    state.counters["history_wal_growth"] = size(f.History() + "-wal") - walBefore;
+}
+BENCHMARK(BM_AddLearnerBesideFiveTenYearLearners)->Unit(benchmark::kMillisecond);
+
+/// history.db of five ten-year learners opened and checked, as the program does once a session
+/// after the home page's first paint.
+void BM_OpenHistoryOfFiveTenYearLearners(benchmark::State& state)
+{
+    TenYearsFixture& f = TenYears();
+    for (auto _ : state) {
+        std::string error;
+        auto histories = HistoryStore::Open(f.History(), error);
+        if (!histories)
+            state.SkipWithError(error.c_str());
+    }
+    state.counters["history_bytes"] = static_cast<double>(fs::file_size(f.History()));
+}
+BENCHMARK(BM_OpenHistoryOfFiveTenYearLearners)->Unit(benchmark::kMillisecond);
+
+/// A ten-year learner's whole history read from history.db (the progress window, an export).
+void BM_ReadTenYearHistory(benchmark::State& state)
+{
+    TenYearsFixture& f = TenYears();
+    XmlConfigStore store(f.Config(), *f.database, f.History());
+    auto learner = store.LoadUser("Learner 3");
+    for (auto _ : state)
+        benchmark::DoNotOptimize(store.History(*learner).size());
+}
+BENCHMARK(BM_ReadTenYearHistory)->Unit(benchmark::kMillisecond);
 
 } // namespace

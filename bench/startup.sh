@@ -4,7 +4,7 @@
 # Both run offscreen, alternately, RUNS times each (15 by default); the program has a learner
 # recorded as current and is started with --quit-after-first-paint, so each run is process start
 # to exit after the home page's first paint. Prints medians, their ratio and peak RSS, for the
-# standard and the all-kanji databases.
+# standard and the all-kanji databases; then a learner of ten years against a new one.
 #   bench/startup.sh [BUILD_DIR]      (needs /usr/bin/time, Debian package "time")
 set -euo pipefail
 
@@ -53,6 +53,47 @@ compare() {
             l, pt / 1000, ft / 1000, pt / ft, pr / 1024, fr / 1024 }'
 }
 
+# The program with a learner of ten years of daily practice (36,500 events) against the same
+# program with a new learner, started alternately on the standard database. The ten-year
+# learner's config.xml is first written as the program wrote it with the history inside; the
+# first start brings the history over to history.db (timed once, apart).
+compare_learners() {
+    local new=$work/new-learner years=$work/ten-years
+    for data in "$new" "$years"; do
+        mkdir -p "$data/settings" "$data/runtime"
+        chmod 700 "$data/runtime"
+        ln -sf "$build/data/database" "$data/database"
+    done
+    printf '<?xml version="1.0"?>\n<Zavoren>\n  <Users currentUser="Anna">\n    <User name="Anna"/>\n  </Users>\n</Zavoren>\n' \
+        > "$new/config.xml"
+    "$build/bench/ten_years_learner" "$years" "$build/data/database" >/dev/null
+    local before first
+    before=$(stat -c %s "$years/config.xml")
+    first=$(cd "$years" && XDG_CONFIG_HOME=$years/settings XDG_RUNTIME_DIR=$years/runtime \
+        measure "$program" --quit-after-first-paint)
+    : > "$work/new.txt"
+    : > "$work/years.txt"
+    for _ in $(seq "$runs"); do
+        (cd "$new" && XDG_CONFIG_HOME=$new/settings XDG_RUNTIME_DIR=$new/runtime \
+            measure "$program" --quit-after-first-paint) >> "$work/new.txt"
+        (cd "$years" && XDG_CONFIG_HOME=$years/settings XDG_RUNTIME_DIR=$years/runtime \
+            measure "$program" --quit-after-first-paint) >> "$work/years.txt"
+    done
+    local nt yt nr yr
+    nt=$(cut -d' ' -f1 "$work/new.txt" | median)
+    yt=$(cut -d' ' -f1 "$work/years.txt" | median)
+    nr=$(cut -d' ' -f2 "$work/new.txt" | median)
+    yr=$(cut -d' ' -f2 "$work/years.txt" | median)
+    awk -v b="$before" -v a="$(stat -c %s "$years/config.xml")" -v h="$(stat -c %s "$years/history.db")" \
+        -v f="${first% *}" -v fr="${first#* }" 'BEGIN {
+        printf "first start of the ten-year learner (history brought over): %.1f ms, peak RSS %.1f MB; config.xml %.2f MB -> %.3f MB, history.db %.2f MB\n",
+            f / 1000, fr / 1024, b / 1048576, a / 1048576, h / 1048576 }'
+    awk -v nt="$nt" -v yt="$yt" -v nr="$nr" -v yr="$yr" 'BEGIN {
+        printf "learners  new %7.1f ms  ten years %7.1f ms  ratio %.2f   peak RSS new %5.1f MB  ten years %5.1f MB\n",
+            nt / 1000, yt / 1000, yt / nt, nr / 1024, yr / 1024 }'
+}
+
 echo "medians of $runs runs each, offscreen"
 compare standard "$build/data/database"
 compare all "$build/database-all"
+compare_learners

@@ -147,8 +147,10 @@ int OpenChecked(const std::string& path, sqlite3*& db, std::string& error)
         error = "it was written by a newer Zavoren! (schema " + std::to_string(version) + ")";
         return SQLITE_CANTOPEN;
     }
+    // A small page cache: each action writes a few rows, and the history is read from start to
+    // end; the file's pages stay in the system's cache anyway.
     if ((code = run("PRAGMA journal_mode = WAL")) != SQLITE_OK
-        || (code = run("PRAGMA synchronous = FULL")) != SQLITE_OK)
+        || (code = run("PRAGMA synchronous = FULL")) != SQLITE_OK || (code = run("PRAGMA cache_size = -512")) != SQLITE_OK)
         return code;
     if (version > 0) {
         // A look over every page and index (about 30 ms for ten years of daily practice, once

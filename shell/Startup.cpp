@@ -101,12 +101,14 @@ int RunZavoren(const StartupOptions& options, Prompt& prompt)
             result = 1;
             QTimer::singleShot(0, [] { QApplication::exit(1); });
         });
-        if (options.quitAfterFirstPaint)
-            new FirstPaintWatcher(window.findChild<HomePage*>(), &window);
         if (!window.ShowChosenLearner()) {
             ReleaseDataStores();
             return 0;
         }
+        // Watching from now on, its filter sees the first paint before the window's own (which
+        // opens the history once the page is up): the run ends where start-up ends.
+        if (options.quitAfterFirstPaint)
+            new FirstPaintWatcher(window.findChild<HomePage*>(), &window);
         QApplication::exec();
     }
     ReleaseDataStores();

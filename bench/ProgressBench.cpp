@@ -1,0 +1,81 @@
+// The progress window's first paint for a learner of ten years (TenYears.h): with the history
+// already in memory (as when it was loaded with the learner from config.xml), and with it read
+// from history.db first (as the program opens the window now).
+
+#include "FileCharacterDatabase.h"
+#include "ProgressWindow.h"
+#include "Prompt.h"
+#include "TenYears.h"
+#include "XmlConfigStore.h"
+
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class SilentPrompt : public Prompt {
+public:
+    QMessageBox::StandardButton Ask(QWidget*, QMessageBox::Icon, const QString&, const QString&,
+        QMessageBox::StandardButtons, QMessageBox::StandardButton) override
+    {
+        return QMessageBox::Ok;
+    }
+};
+
+struct Fixture {
+    fs::path dir;
+    FileCharacterDatabase database{ZAVOREN_STANDARD_DATABASE};
+    User learner;
+    std::vector<LearnerEvent> history;
+    std::unique_ptr<XmlConfigStore> store;
+    Fixture()
+    {
+        std::string pattern = (fs::temp_directory_path() / "zavoren-bench-progress-XXXXXX").string();
+        dir = mkdtemp(pattern.data());
+        database.Preload(nullptr);
+        std::ofstream(dir / "config.xml") << "<Zavoren><Users/></Zavoren>";
+        store = std::make_unique<XmlConfigStore>((dir / "config.xml").string(), database, (dir / "history.db").string());
+        store->AddUser("Anna");
+        learner.SetName("Anna");
+        history = TenYearsOfPractice(database, learner);
+        store->Record(learner, history);
+        store->SaveUser(learner);
+    }
+    ~Fixture() { fs::remove_all(dir); }
+};
+
+Fixture& Shared()
+{
+    static Fixture fixture;
+    return fixture;
+}
+
+void BM_ProgressWindowFirstPaintHistoryInMemory(benchmark::State& state)
+{
+    Fixture& f = Shared();
+    SilentPrompt prompt;
+    for (auto _ : state) {
+        ProgressWindow window(f.database, prompt, f.learner, f.history, "2026-11-23T20:00:00+01:00");
+        window.resize(720, 520);
+        benchmark::DoNotOptimize(window.grab());
+    }
+}
+BENCHMARK(BM_ProgressWindowFirstPaintHistoryInMemory)->Unit(benchmark::kMillisecond);
+
+void BM_ProgressWindowFirstPaintHistoryFromDatabase(benchmark::State& state)
+{
+    Fixture& f = Shared();
+    SilentPrompt prompt;
+    for (auto _ : state) {
+        ProgressWindow window(f.database, prompt, f.learner, f.store->History(f.learner), "2026-11-23T20:00:00+01:00");
+        window.resize(720, 520);
+        benchmark::DoNotOptimize(window.grab());
+    }
+}
+BENCHMARK(BM_ProgressWindowFirstPaintHistoryFromDatabase)->Unit(benchmark::kMillisecond);
+
+} // namespace
