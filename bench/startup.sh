@@ -17,7 +17,7 @@ export QT_QPA_PLATFORM=offscreen
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-# One run: prints "milliseconds peak-rss-kB".
+# One run: prints "microseconds peak-rss-kB".
 measure() {
     local start end rss
     start=$(date +%s%N)
@@ -29,18 +29,34 @@ measure() {
 
 median() { sort -n | awk '{ v[NR] = $1 } END { if (NR % 2) print v[(NR + 1) / 2]; else print (v[NR / 2] + v[NR / 2 + 1]) / 2 }'; }
 
-compare() {
-    local label=$1 database=$2 data=$work/$1
+# A data folder for the program: settings and runtime folders of its own, and DATABASE linked.
+prepare() {
+    local data=$1 database=$2
     mkdir -p "$data/settings" "$data/runtime"
     chmod 700 "$data/runtime"
     ln -sf "$database" "$data/database"
+}
+
+# A config.xml in DATA with one learner, Anna, current and new.
+new_learner() {
     printf '<?xml version="1.0"?>\n<Zavoren>\n  <Users currentUser="Anna">\n    <User name="Anna"/>\n  </Users>\n</Zavoren>\n' \
-        > "$data/config.xml"
+        > "$1/config.xml"
+}
+
+# One run of the program in DATA: prints "microseconds peak-rss-kB".
+run_in() {
+    local data=$1
+    (cd "$data" && XDG_CONFIG_HOME=$data/settings XDG_RUNTIME_DIR=$data/runtime measure "$program" --quit-after-first-paint)
+}
+
+compare() {
+    local label=$1 database=$2 data=$work/$1
+    prepare "$data" "$database"
+    new_learner "$data"
     : > "$work/program.txt"
     : > "$work/floor.txt"
     for _ in $(seq "$runs"); do
-        (cd "$data" && XDG_CONFIG_HOME=$data/settings XDG_RUNTIME_DIR=$data/runtime \
-            measure "$program" --quit-after-first-paint) >> "$work/program.txt"
+        run_in "$data" >> "$work/program.txt"
         (cd "$data" && measure "$floor") >> "$work/floor.txt"
     done
     local pt ft pr fr
@@ -59,25 +75,18 @@ compare() {
 # first start brings the history over to history.db (timed once, apart).
 compare_learners() {
     local new=$work/new-learner years=$work/ten-years
-    for data in "$new" "$years"; do
-        mkdir -p "$data/settings" "$data/runtime"
-        chmod 700 "$data/runtime"
-        ln -sf "$build/data/database" "$data/database"
-    done
-    printf '<?xml version="1.0"?>\n<Zavoren>\n  <Users currentUser="Anna">\n    <User name="Anna"/>\n  </Users>\n</Zavoren>\n' \
-        > "$new/config.xml"
+    prepare "$new" "$build/data/database"
+    prepare "$years" "$build/data/database"
+    new_learner "$new"
     "$build/bench/ten_years_learner" "$years" "$build/data/database" >/dev/null
     local before first
     before=$(stat -c %s "$years/config.xml")
-    first=$(cd "$years" && XDG_CONFIG_HOME=$years/settings XDG_RUNTIME_DIR=$years/runtime \
-        measure "$program" --quit-after-first-paint)
+    first=$(run_in "$years")
     : > "$work/new.txt"
     : > "$work/years.txt"
     for _ in $(seq "$runs"); do
-        (cd "$new" && XDG_CONFIG_HOME=$new/settings XDG_RUNTIME_DIR=$new/runtime \
-            measure "$program" --quit-after-first-paint) >> "$work/new.txt"
-        (cd "$years" && XDG_CONFIG_HOME=$years/settings XDG_RUNTIME_DIR=$years/runtime \
-            measure "$program" --quit-after-first-paint) >> "$work/years.txt"
+        run_in "$new" >> "$work/new.txt"
+        run_in "$years" >> "$work/years.txt"
     done
     local nt yt nr yr
     nt=$(cut -d' ' -f1 "$work/new.txt" | median)

@@ -78,6 +78,13 @@ private:
     bool m_ok = false;
 };
 
+/// A text column of the row, empty when it is null.
+std::string Text(sqlite3_stmt* statement, int column)
+{
+    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+    return text ? text : "";
+}
+
 /// Whether a failure says the file is damaged or no database at all.
 bool IsDamage(int code)
 {
@@ -318,27 +325,17 @@ bool HistoryStore::BringOver(const std::vector<Kept>& histories, std::string& er
         error);
 }
 
-bool HistoryStore::Events(const std::string& learner, std::vector<LearnerEvent>& events, std::string& error) const
+bool HistoryStore::SelectLearner(const char* sql, const std::string& learner,
+    const std::function<void(sqlite3_stmt*)>& row, std::string& error) const
 {
-    Statement select(m_db, "SELECT at, kind, category, character, mistakes FROM events WHERE learner = ? ORDER BY id");
+    Statement select(m_db, sql);
     if (!select.Ok() || sqlite3_bind_text(select.Get(), 1, learner.c_str(), -1, SQLITE_STATIC) != SQLITE_OK) {
         error = Reason(m_db);
         return false;
     }
-    events.clear();
     int code = SQLITE_ROW;
-    while ((code = sqlite3_step(select.Get())) == SQLITE_ROW) {
-        sqlite3_stmt* s = select.Get();
-        LearnerEvent e;
-        const auto* at = reinterpret_cast<const char*>(sqlite3_column_text(s, 0));
-        const auto* kind = reinterpret_cast<const char*>(sqlite3_column_text(s, 1));
-        e.at = at ? at : "";
-        e.kind = kind ? kind : "";
-        e.categoryId = static_cast<std::uint16_t>(sqlite3_column_int(s, 2));
-        e.id = static_cast<std::uint16_t>(sqlite3_column_int(s, 3));
-        e.mistakes = sqlite3_column_int(s, 4);
-        events.push_back(std::move(e));
-    }
+    while ((code = sqlite3_step(select.Get())) == SQLITE_ROW)
+        row(select.Get());
     if (code != SQLITE_DONE) {
         error = Reason(m_db);
         return false;
@@ -346,37 +343,32 @@ bool HistoryStore::Events(const std::string& learner, std::vector<LearnerEvent>&
     return true;
 }
 
+bool HistoryStore::Events(const std::string& learner, std::vector<LearnerEvent>& events, std::string& error) const
+{
+    events.clear();
+    return SelectLearner("SELECT at, kind, category, character, mistakes FROM events WHERE learner = ? ORDER BY id",
+        learner,
+        [&events](sqlite3_stmt* s) {
+            events.push_back({Text(s, 0), Text(s, 1), static_cast<std::uint16_t>(sqlite3_column_int(s, 2)),
+                static_cast<std::uint16_t>(sqlite3_column_int(s, 3)), sqlite3_column_int(s, 4)});
+        },
+        error);
+}
+
 bool HistoryStore::Characters(
     const std::string& learner, std::vector<CharacterSummary>& characters, std::string& error) const
 {
-    Statement select(m_db,
-        "SELECT category, character, last_at, last_kind, tests, mistakes, failures FROM characters"
-        " WHERE learner = ? ORDER BY category, character");
-    if (!select.Ok() || sqlite3_bind_text(select.Get(), 1, learner.c_str(), -1, SQLITE_STATIC) != SQLITE_OK) {
-        error = Reason(m_db);
-        return false;
-    }
     characters.clear();
-    int code = SQLITE_ROW;
-    while ((code = sqlite3_step(select.Get())) == SQLITE_ROW) {
-        sqlite3_stmt* s = select.Get();
-        CharacterSummary c;
-        c.categoryId = static_cast<std::uint16_t>(sqlite3_column_int(s, 0));
-        c.id = static_cast<std::uint16_t>(sqlite3_column_int(s, 1));
-        const auto* at = reinterpret_cast<const char*>(sqlite3_column_text(s, 2));
-        const auto* kind = reinterpret_cast<const char*>(sqlite3_column_text(s, 3));
-        c.lastAt = at ? at : "";
-        c.lastKind = kind ? kind : "";
-        c.tests = sqlite3_column_int(s, 4);
-        c.mistakes = sqlite3_column_int(s, 5);
-        c.failures = sqlite3_column_int(s, 6);
-        characters.push_back(std::move(c));
-    }
-    if (code != SQLITE_DONE) {
-        error = Reason(m_db);
-        return false;
-    }
-    return true;
+    return SelectLearner(
+        "SELECT category, character, last_at, last_kind, tests, mistakes, failures FROM characters"
+        " WHERE learner = ? ORDER BY category, character",
+        learner,
+        [&characters](sqlite3_stmt* s) {
+            characters.push_back({static_cast<std::uint16_t>(sqlite3_column_int(s, 0)),
+                static_cast<std::uint16_t>(sqlite3_column_int(s, 1)), Text(s, 2), Text(s, 3),
+                sqlite3_column_int(s, 4), sqlite3_column_int(s, 5), sqlite3_column_int(s, 6)});
+        },
+        error);
 }
 
 std::string HistoryStore::PutAside(const std::string& path)

@@ -9,6 +9,7 @@
 #include <vector>
 
 struct sqlite3;
+struct sqlite3_stmt;
 
 /// The learners' history in an SQLite database of its own (history.db beside config.xml): one
 /// table of events with the indexes the progress window and the reviews read by, a schema
@@ -79,6 +80,9 @@ private:
     /// Runs `body` between BEGIN IMMEDIATE and COMMIT; rolled back when it or the commit fails.
     bool InTransaction(const std::function<bool()>& body, std::string& error);
     bool Insert(const std::string& learner, const std::vector<LearnerEvent>& events);
+    /// Runs `sql`, whose one parameter is the learner, handing each row to `row`.
+    bool SelectLearner(const char* sql, const std::string& learner, const std::function<void(sqlite3_stmt*)>& row,
+        std::string& error) const;
     bool Delete(const std::string& learner);
 
     sqlite3* m_db;

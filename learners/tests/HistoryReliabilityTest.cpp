@@ -4,65 +4,26 @@
 
 #include "XmlConfigStore.h"
 
-#include "DatabaseWriter.h"
 #include "FileCharacterDatabase.h"
+#include "StoreFiles.h"
 
 #include <gtest/gtest.h>
 
-#include <sqlite3.h>
-
 #include <csignal>
-#include <filesystem>
-#include <fstream>
 #include <random>
-#include <sstream>
 #include <sys/wait.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
+using namespace StoreFiles;
 
 namespace {
-
-std::string ReadBytes(const fs::path& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    std::stringstream bytes;
-    bytes << file.rdbuf();
-    return bytes.str();
-}
-
-void WriteBytes(const fs::path& path, const std::string& bytes)
-{
-    std::ofstream(path, std::ios::binary | std::ios::trunc) << bytes;
-}
-
-/// One value a query gives on the file at `path`, read by a connection of the test's own.
-std::string Query(const fs::path& path, const char* sql)
-{
-    sqlite3* db = nullptr;
-    std::string value = "(cannot open)";
-    if (sqlite3_open_v2(path.c_str(), &db, SQLITE_OPEN_READWRITE, nullptr) == SQLITE_OK) {
-        sqlite3_stmt* s = nullptr;
-        value = "(" + std::string(sqlite3_errmsg(db)) + ")";
-        if (sqlite3_prepare_v2(db, sql, -1, &s, nullptr) == SQLITE_OK) {
-            const int step = sqlite3_step(s);
-            if (step == SQLITE_ROW)
-                value = reinterpret_cast<const char*>(sqlite3_column_text(s, 0));
-            else
-                value = "(" + std::string(sqlite3_errmsg(db)) + ")";
-        }
-        sqlite3_finalize(s);
-    }
-    sqlite3_close(db);
-    return value;
-}
 
 class HistoryReliability : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        std::string pattern = (fs::temp_directory_path() / "zavoren-reliability-XXXXXX").string();
-        m_dir = mkdtemp(pattern.data());
+        m_dir = MakeTemporaryFolder("zavoren-reliability");
     }
     void TearDown() override
     {
@@ -159,7 +120,7 @@ TEST_F(HistoryReliability, KilledAtAnyMomentEveryCommittedActionIsThereAndNothin
         std::string error;
         auto store = HistoryStore::Open(path.string(), error);
         ASSERT_TRUE(store) << "round " << round << ": " << error;
-        ASSERT_EQ(Query(path, "PRAGMA integrity_check"), "ok") << "round " << round;
+        ASSERT_EQ(QueryValue(path, "PRAGMA integrity_check"), "ok") << "round " << round;
         std::vector<LearnerEvent> events;
         ASSERT_TRUE(store->Events("Anna", events, error)) << error;
         // Every announced action is there; at most one more, whose announcement the kill cut;
@@ -177,17 +138,10 @@ TEST_F(HistoryReliability, KilledAtAnyMomentEveryCommittedActionIsThereAndNothin
 TEST_F(HistoryReliability, EveryDamagedCopyIsToldAndKeptAside)
 {
     // A real history: three learners, ten years of one of them, written by the store itself.
-    DatabaseWriter writer;
-    Form form(109, 109);
-    form.AppendStroke(Stroke(Point{1, 1}));
-    writer.AddCharacter(writer.AddStrokeElement(form), "a", "b", "c");
-    writer.AddCategory("Category", {0});
-    const auto bytes = writer.Serialize();
-    std::ofstream(m_dir / "database", std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    WriteSmallDatabase(m_dir / "database", 1);
     FileCharacterDatabase database((m_dir / "database").string());
     const fs::path config = m_dir / "config.xml";
-    WriteBytes(config, "<Zavoren><Users><User name=\"Anna\"/><User name=\"Ben\"/><User name=\"Chie\"/></Users></Zavoren>");
+    WriteText(config, "<Zavoren><Users><User name=\"Anna\"/><User name=\"Ben\"/><User name=\"Chie\"/></Users></Zavoren>");
     const fs::path original = m_dir / "original.db";
     {
         XmlConfigStore store(config.string(), database, original.string());
@@ -204,7 +158,7 @@ TEST_F(HistoryReliability, EveryDamagedCopyIsToldAndKeptAside)
         }
         ASSERT_TRUE(store.TakeHistoryProblem().reason.empty());
     }
-    const std::string pristine = ReadBytes(original);
+    const std::string pristine = ReadText(original);
     ASSERT_GT(pristine.size(), 100u * 4096);
     ASSERT_FALSE(fs::exists(m_dir / "original.db-wal")); // all in the file
 
@@ -244,10 +198,10 @@ TEST_F(HistoryReliability, EveryDamagedCopyIsToldAndKeptAside)
         for (const auto& entry : fs::directory_iterator(m_dir))
             if (entry.path().filename().string().rfind("history.db", 0) == 0)
                 fs::remove(entry.path());
-        WriteBytes(copy, damaged);
+        WriteText(copy, damaged);
         // What SQLite's full check says of the copy, on a copy of the copy.
-        WriteBytes(m_dir / "judge.db", damaged);
-        const std::string verdict = Query(m_dir / "judge.db", "PRAGMA integrity_check(1)");
+        WriteText(m_dir / "judge.db", damaged);
+        const std::string verdict = QueryValue(m_dir / "judge.db", "PRAGMA integrity_check(1)");
         fs::remove(m_dir / "judge.db");
 
         XmlConfigStore store(config.string(), database, copy.string());
@@ -267,7 +221,7 @@ TEST_F(HistoryReliability, EveryDamagedCopyIsToldAndKeptAside)
         ++told;
         // Told: the copy is aside, byte for byte as it was given, and the event waits in config.xml.
         ASSERT_FALSE(problem.keptAs.empty()) << n << " " << how << ": " << problem.reason;
-        EXPECT_EQ(ReadBytes(problem.keptAs), damaged) << n << " " << how;
+        EXPECT_EQ(ReadText(problem.keptAs), damaged) << n << " " << how;
         EXPECT_EQ(anna->History().size(), 1u) << n << " " << how;
         fs::remove(problem.keptAs);
     }

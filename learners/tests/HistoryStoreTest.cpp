@@ -3,6 +3,7 @@
 // losing anything.
 
 #include "HistoryStore.h"
+#include "StoreFiles.h"
 
 #include <gtest/gtest.h>
 
@@ -41,18 +42,7 @@ protected:
         return names;
     }
     /// One value a query on the file gives, read by a connection of the test's own.
-    std::string Query(const char* sql) const
-    {
-        sqlite3* db = nullptr;
-        sqlite3_open(Path().c_str(), &db);
-        sqlite3_stmt* s = nullptr;
-        std::string value;
-        if (sqlite3_prepare_v2(db, sql, -1, &s, nullptr) == SQLITE_OK && sqlite3_step(s) == SQLITE_ROW)
-            value = reinterpret_cast<const char*>(sqlite3_column_text(s, 0));
-        sqlite3_finalize(s);
-        sqlite3_close(db);
-        return value;
-    }
+    std::string Query(const char* sql) const { return StoreFiles::QueryValue(Path(), sql); }
 
     fs::path m_dir;
 };

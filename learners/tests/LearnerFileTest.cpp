@@ -1,6 +1,7 @@
 #include "LearnerFile.h"
 
 #include "FileCharacterDatabase.h"
+#include "StoreFiles.h"
 
 #include <gtest/gtest.h>
 
@@ -12,18 +13,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string Read(const fs::path& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
-
-void Write(const fs::path& path, const std::string& text)
-{
-    std::ofstream(path, std::ios::binary | std::ios::trunc) << text;
-}
+const auto Read = StoreFiles::ReadText;
+const auto Write = StoreFiles::WriteText;
 
 class LearnerFileTest : public ::testing::Test {
 protected:

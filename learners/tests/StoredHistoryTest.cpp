@@ -5,35 +5,18 @@
 
 #include "XmlConfigStore.h"
 
-#include "DatabaseWriter.h"
 #include "FileCharacterDatabase.h"
 #include "LearnerFile.h"
+#include "StoreFiles.h"
 
 #include <gtest/gtest.h>
 
 #include <sqlite3.h>
 
-#include <filesystem>
-#include <fstream>
-#include <sstream>
-#include <unistd.h>
-
 namespace fs = std::filesystem;
+using namespace StoreFiles;
 
 namespace {
-
-std::string ReadText(const fs::path& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    std::stringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
-
-void WriteText(const fs::path& path, const std::string& text)
-{
-    std::ofstream(path, std::ios::binary | std::ios::trunc) << text;
-}
 
 LearnerEvent Event(const char* kind, std::uint16_t id, int mistakes = -1, const char* at = "2026-11-23T10:00:00+01:00")
 {
@@ -45,17 +28,8 @@ class StoredHistoryTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        std::string pattern = (fs::temp_directory_path() / "zavoren-history-store-XXXXXX").string();
-        m_dir = mkdtemp(pattern.data());
-        DatabaseWriter writer;
-        Form form(109, 109);
-        form.AppendStroke(Stroke(Point{1, 1}));
-        writer.AddCharacter(writer.AddStrokeElement(form), "a", "b", "c");
-        for (int i = 0; i < 3; ++i)
-            writer.AddCategory("Category " + std::to_string(i), {0});
-        const auto bytes = writer.Serialize();
-        std::ofstream(m_dir / "database", std::ios::binary)
-            .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+        m_dir = MakeTemporaryFolder("zavoren-history-store");
+        WriteSmallDatabase(m_dir / "database", 3);
         m_database = std::make_unique<FileCharacterDatabase>((m_dir / "database").string());
         WriteText(Config(), "<?xml version=\"1.0\"?>\n<Zavoren><Users/></Zavoren>\n");
     }
@@ -78,18 +52,7 @@ protected:
         return std::make_unique<XmlConfigStore>(Config().string(), *m_database);
     }
     /// One value a query on history.db gives, read by a connection of the test's own.
-    std::string Query(const char* sql) const
-    {
-        sqlite3* db = nullptr;
-        sqlite3_open_v2(Histories().c_str(), &db, SQLITE_OPEN_READONLY, nullptr);
-        sqlite3_stmt* s = nullptr;
-        std::string value;
-        if (sqlite3_prepare_v2(db, sql, -1, &s, nullptr) == SQLITE_OK && sqlite3_step(s) == SQLITE_ROW)
-            value = reinterpret_cast<const char*>(sqlite3_column_text(s, 0));
-        sqlite3_finalize(s);
-        sqlite3_close(db);
-        return value;
-    }
+    std::string Query(const char* sql) const { return QueryValue(Histories(), sql); }
     /// A config.xml as the program wrote it before history.db: Anna with `events` in her record.
     void WriteConfigWithHistory(const std::vector<LearnerEvent>& events, const char* name = "Anna")
     {

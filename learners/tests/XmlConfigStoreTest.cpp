@@ -3,6 +3,7 @@
 #include "DatabaseLoadException.h"
 #include "DatabaseWriter.h"
 #include "FileCharacterDatabase.h"
+#include "StoreFiles.h"
 
 #include <gtest/gtest.h>
 
@@ -34,35 +35,16 @@ namespace {
         }                                                                                                              \
     } while (0)
 
-std::string ReadText(const fs::path& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    std::stringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
-
-void WriteText(const fs::path& path, const std::string& text)
-{
-    std::ofstream(path, std::ios::binary | std::ios::trunc) << text;
-}
+using StoreFiles::ReadText;
+using StoreFiles::WriteText;
 
 /// A temporary folder with a database of five categories and a config.xml.
 class StoreTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        std::string pattern = (fs::temp_directory_path() / "zavoren-store-XXXXXX").string();
-        m_dir = mkdtemp(pattern.data());
-        DatabaseWriter writer;
-        Form form(109, 109);
-        form.AppendStroke(Stroke(Point{1, 1}));
-        writer.AddCharacter(writer.AddStrokeElement(form), "a", "b", "c");
-        for (int i = 0; i < 5; ++i)
-            writer.AddCategory("Category " + std::to_string(i), {0});
-        const auto bytes = writer.Serialize();
-        std::ofstream(m_dir / "database", std::ios::binary)
-            .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+        m_dir = StoreFiles::MakeTemporaryFolder("zavoren-store");
+        StoreFiles::WriteSmallDatabase(m_dir / "database", 5);
         m_database = std::make_unique<FileCharacterDatabase>((m_dir / "database").string());
         WriteText(Config(), "<?xml version=\"1.0\"?>\n<Zavoren><Users/></Zavoren>\n");
     }
