@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ReviewSchedule.h"
 #include "User.h"
 
 #include <cstdint>
@@ -42,8 +43,10 @@ public:
     /// Writes an imported learner's record and makes the history it carries their whole
     /// history; as SaveUser otherwise.
     virtual bool ImportUser(User& user) = 0;
-    /// Opens the history database if it is not open yet.
+    /// Opens the history database if it is not open yet, and checks it whole.
     virtual void OpenHistory() = 0;
+    /// Each character's memory as the learner's whole history leaves it.
+    virtual LearnerMemories Memories(const User& learner) = 0;
     /// Why the history is no longer kept in its database, once: the failure not yet told, or
     /// an empty reason.
     virtual HistoryProblem TakeHistoryProblem() = 0;

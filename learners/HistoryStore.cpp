@@ -52,6 +52,20 @@ const char* const Migrations[] = {
     " sum(kind IN ('passed', 'failed')), sum(CASE WHEN kind IN ('passed', 'failed') THEN max(mistakes, 0) ELSE 0 END),"
     " sum(kind = 'failed') FROM events GROUP BY learner, category, character;"
     "UPDATE characters SET (last_at, last_kind) = (SELECT at, kind FROM events WHERE id = last_event);",
+    // 3: each character's memory (MemoryLedger) as the events up to last_event of
+    // memories_through leave it, so that what is due is read without going over the events;
+    // worked out afresh from the events when they have moved on without it.
+    "CREATE TABLE memories ("
+    " learner TEXT NOT NULL,"
+    " category INTEGER NOT NULL,"
+    " character INTEGER NOT NULL,"
+    " stability REAL NOT NULL,"
+    " difficulty REAL NOT NULL,"
+    " last_day INTEGER NOT NULL,"
+    " PRIMARY KEY (learner, category, character)) WITHOUT ROWID;"
+    "CREATE TABLE memories_through ("
+    " learner TEXT PRIMARY KEY,"
+    " last_event INTEGER NOT NULL) WITHOUT ROWID;",
 };
 static_assert(std::size(Migrations) == HistoryStore::SchemaVersion);
 
@@ -159,21 +173,6 @@ int OpenChecked(const std::string& path, sqlite3*& db, std::string& error)
     if ((code = run("PRAGMA journal_mode = WAL")) != SQLITE_OK
         || (code = run("PRAGMA synchronous = FULL")) != SQLITE_OK || (code = run("PRAGMA cache_size = -512")) != SQLITE_OK)
         return code;
-    if (version > 0) {
-        // A look over every page and index (about 30 ms for ten years of daily practice, once
-        // per session, after the first page is shown): damage found now is reported now, not
-        // at the first save, and never spread by writing into it.
-        Statement check(db, "PRAGMA integrity_check(1)");
-        if (!check.Ok() || sqlite3_step(check.Get()) != SQLITE_ROW) {
-            error = Reason(db);
-            return SQLITE_CORRUPT;
-        }
-        const auto* verdict = reinterpret_cast<const char*>(sqlite3_column_text(check.Get(), 0));
-        if (!verdict || std::string(verdict) != "ok") {
-            error = verdict ? verdict : "the file is damaged";
-            return SQLITE_CORRUPT;
-        }
-    }
     for (int v = version; v < HistoryStore::SchemaVersion; ++v) {
         const std::string migration = std::string("BEGIN IMMEDIATE;") + Migrations[v]
             + "PRAGMA user_version = " + std::to_string(v + 1) + ";COMMIT;";
@@ -255,7 +254,8 @@ bool HistoryStore::Insert(const std::string& learner, const std::vector<LearnerE
 bool HistoryStore::Delete(const std::string& learner)
 {
     for (const char* sql : {"DELETE FROM events WHERE learner = ?", "DELETE FROM characters WHERE learner = ?",
-             "DELETE FROM imported WHERE learner = ?"}) {
+             "DELETE FROM imported WHERE learner = ?", "DELETE FROM memories WHERE learner = ?",
+             "DELETE FROM memories_through WHERE learner = ?"}) {
         Statement remove(m_db, sql);
         if (!remove.Ok() || sqlite3_bind_text(remove.Get(), 1, learner.c_str(), -1, SQLITE_STATIC) != SQLITE_OK
             || sqlite3_step(remove.Get()) != SQLITE_DONE)
@@ -266,7 +266,131 @@ bool HistoryStore::Delete(const std::string& learner)
 
 bool HistoryStore::Record(const std::string& learner, const std::vector<LearnerEvent>& events, std::string& error)
 {
-    return InTransaction([&] { return Insert(learner, events); }, error);
+    return InTransaction(
+        [&] {
+            // The kept memories move on with the events only when they followed them until now
+            // (a learner without events has none to follow).
+            const long long before = LastEvent(learner);
+            const bool current = before == 0 || (before > 0 && MemoriesThrough(learner) == before);
+            return Insert(learner, events) && (!current || UpdateMemories(learner, events));
+        },
+        error);
+}
+
+long long HistoryStore::LastEvent(const std::string& learner) const
+{
+    long long last = -1;
+    SelectLearner("SELECT coalesce(max(id), 0) FROM events WHERE learner = ?", learner,
+        [&last](sqlite3_stmt* s) { last = sqlite3_column_int64(s, 0); }, m_ignored);
+    return last;
+}
+
+long long HistoryStore::MemoriesThrough(const std::string& learner) const
+{
+    long long through = -1;
+    SelectLearner("SELECT last_event FROM memories_through WHERE learner = ?", learner,
+        [&through](sqlite3_stmt* s) { through = sqlite3_column_int64(s, 0); }, m_ignored);
+    return through;
+}
+
+bool HistoryStore::UpdateMemories(const std::string& learner, const std::vector<LearnerEvent>& events)
+{
+    // The memories of the characters these events grade, as they stand, then moved on by them.
+    MemoryLedger ledger;
+    std::vector<CharacterMemory> touched;
+    Statement read(m_db,
+        "SELECT stability, difficulty, last_day FROM memories WHERE learner = ? AND category = ? AND character = ?");
+    if (!read.Ok())
+        return false;
+    for (const LearnerEvent& e : events) {
+        sqlite3_stmt* s = read.Get();
+        sqlite3_bind_text(s, 1, learner.c_str(), -1, SQLITE_STATIC);
+        sqlite3_bind_int(s, 2, e.categoryId);
+        sqlite3_bind_int(s, 3, e.id);
+        if (sqlite3_step(s) == SQLITE_ROW)
+            touched.push_back({e.categoryId, e.id, {sqlite3_column_double(s, 0), sqlite3_column_double(s, 1)},
+                sqlite3_column_int(s, 2)});
+        sqlite3_reset(s);
+    }
+    ledger.Load(touched);
+    for (const LearnerEvent& e : events)
+        ledger.Apply(e);
+    for (const LearnerEvent& e : events)
+        if (!WriteMemory(learner, {e.categoryId, e.id}, ledger.Find({e.categoryId, e.id})))
+            return false;
+    return SetMemoriesThrough(learner, LastEvent(learner));
+}
+
+bool HistoryStore::WriteMemory(const std::string& learner, std::pair<std::uint16_t, std::uint16_t> key,
+    const CharacterMemory* memory)
+{
+    Statement write(m_db,
+        memory ? "INSERT OR REPLACE INTO memories VALUES (?, ?, ?, ?, ?, ?)"
+               : "DELETE FROM memories WHERE learner = ? AND category = ? AND character = ?");
+    sqlite3_stmt* s = write.Get();
+    if (!write.Ok() || sqlite3_bind_text(s, 1, learner.c_str(), -1, SQLITE_STATIC) != SQLITE_OK
+        || sqlite3_bind_int(s, 2, key.first) != SQLITE_OK || sqlite3_bind_int(s, 3, key.second) != SQLITE_OK)
+        return false;
+    if (memory
+        && (sqlite3_bind_double(s, 4, memory->memory.stability) != SQLITE_OK
+            || sqlite3_bind_double(s, 5, memory->memory.difficulty) != SQLITE_OK
+            || sqlite3_bind_int(s, 6, memory->lastDay) != SQLITE_OK))
+        return false;
+    return sqlite3_step(s) == SQLITE_DONE;
+}
+
+bool HistoryStore::SetMemoriesThrough(const std::string& learner, long long lastEvent)
+{
+    Statement write(m_db, "INSERT OR REPLACE INTO memories_through VALUES (?, ?)");
+    return write.Ok() && sqlite3_bind_text(write.Get(), 1, learner.c_str(), -1, SQLITE_STATIC) == SQLITE_OK
+        && sqlite3_bind_int64(write.Get(), 2, lastEvent) == SQLITE_OK && sqlite3_step(write.Get()) == SQLITE_DONE;
+}
+
+bool HistoryStore::Memories(const std::string& learner, LearnerMemories& memories, std::string& error)
+{
+    memories = {};
+    const long long last = LastEvent(learner);
+    if (last < 0) {
+        error = Reason(m_db);
+        return false;
+    }
+    if (last > 0)
+        SelectLearner("SELECT at FROM events WHERE learner = ? ORDER BY id LIMIT 1", learner,
+            [&memories](sqlite3_stmt* s) { memories.firstDay = EventDay(Text(s, 0)); }, m_ignored);
+    if (MemoriesThrough(learner) == last) {
+        return SelectLearner(
+            "SELECT category, character, stability, difficulty, last_day FROM memories WHERE learner = ?"
+            " ORDER BY category, character",
+            learner,
+            [&memories](sqlite3_stmt* s) {
+                memories.memories.push_back({static_cast<std::uint16_t>(sqlite3_column_int(s, 0)),
+                    static_cast<std::uint16_t>(sqlite3_column_int(s, 1)),
+                    {sqlite3_column_double(s, 2), sqlite3_column_double(s, 3)}, sqlite3_column_int(s, 4)});
+            },
+            error);
+    }
+    // The events moved on without the memories (brought over, imported, or written by another
+    // program): worked out afresh, and kept when the file can be written.
+    std::vector<LearnerEvent> events;
+    if (!Events(learner, events, error))
+        return false;
+    const int firstDay = memories.firstDay;
+    memories = MemoryLedger::Fold(events);
+    memories.firstDay = firstDay;
+    std::string ignored;
+    InTransaction(
+        [&] {
+            Statement clear(m_db, "DELETE FROM memories WHERE learner = ?");
+            if (!clear.Ok() || sqlite3_bind_text(clear.Get(), 1, learner.c_str(), -1, SQLITE_STATIC) != SQLITE_OK
+                || sqlite3_step(clear.Get()) != SQLITE_DONE)
+                return false;
+            for (const CharacterMemory& c : memories.memories)
+                if (!WriteMemory(learner, {c.categoryId, c.id}, &c))
+                    return false;
+            return SetMemoriesThrough(learner, last);
+        },
+        ignored);
+    return true;
 }
 
 bool HistoryStore::Replace(const std::string& learner, const std::vector<LearnerEvent>& events, std::string& error)
@@ -371,6 +495,25 @@ bool HistoryStore::Characters(
         error);
 }
 
+bool HistoryStore::Check(std::string& error)
+{
+    // Every page and index (about 30 ms for ten years of daily practice): damage found now is
+    // told now, not at a later write, and never spread by writing into it.
+    Statement check(m_db, "PRAGMA integrity_check(1)");
+    if (!check.Ok() || sqlite3_step(check.Get()) != SQLITE_ROW) {
+        error = Reason(m_db);
+        m_damaged = LastFailureWasDamage();
+        return false;
+    }
+    const std::string verdict = Text(check.Get(), 0);
+    if (verdict != "ok") {
+        error = verdict.empty() ? "the file is damaged" : verdict;
+        m_damaged = true;
+        return false;
+    }
+    return true;
+}
+
 std::string HistoryStore::PutAside(const std::string& path)
 {
     return RenameAside(path);
@@ -378,5 +521,5 @@ std::string HistoryStore::PutAside(const std::string& path)
 
 bool HistoryStore::LastFailureWasDamage() const
 {
-    return IsDamage(sqlite3_extended_errcode(m_db));
+    return m_damaged || IsDamage(sqlite3_extended_errcode(m_db));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "LearnerEvent.h"
+#include "ReviewSchedule.h"
 
 #include <cstdint>
 #include <functional>
@@ -21,12 +22,12 @@ struct sqlite3_stmt;
 class HistoryStore {
 public:
     /// The schema this program writes; a file of a newer one is not opened.
-    static constexpr int SchemaVersion = 2;
+    static constexpr int SchemaVersion = 3;
     /// How long a write waits for another program holding the file, milliseconds.
     static constexpr int BusyTimeoutMs = 2000;
 
-    /// Opens the database at `path`, creating it when missing. A file that is damaged or not a
-    /// database is renamed aside with the date (`path.damaged-YYYYMMDD-HHMMSS`), never
+    /// Opens the database at `path`, creating it when missing, without looking over every page
+    /// (Check does). A file that is damaged or not a database is renamed aside with the date (`path.damaged-YYYYMMDD-HHMMSS`), never
     /// overwritten or deleted, and its new name given in `keptAs`. Null with the reason in
     /// `error` when it cannot be used.
     static std::unique_ptr<HistoryStore> Open(
@@ -68,6 +69,15 @@ public:
     /// pass over the events.
     bool Characters(const std::string& learner, std::vector<CharacterSummary>& characters, std::string& error) const;
 
+    /// Each character's memory as the learner's events leave it, and the day of their first
+    /// event: read from the table kept beside the events, or worked out afresh from them when
+    /// they moved on without it (and kept so when the file can be written).
+    bool Memories(const std::string& learner, LearnerMemories& memories, std::string& error);
+
+    /// Runs SQLite's full check of the file; false with the first fault found (the file is
+    /// then damaged).
+    bool Check(std::string& error);
+
     /// Whether the last failure said the file is damaged or is no database.
     bool LastFailureWasDamage() const;
     /// Renames a damaged file at `path` aside with the date and time, with its journal; the
@@ -84,6 +94,18 @@ private:
     bool SelectLearner(const char* sql, const std::string& learner, const std::function<void(sqlite3_stmt*)>& row,
         std::string& error) const;
     bool Delete(const std::string& learner);
+    /// The id of the learner's last event (0 for none), -1 when it cannot be read.
+    long long LastEvent(const std::string& learner) const;
+    /// The last event the kept memories follow, -1 for none.
+    long long MemoriesThrough(const std::string& learner) const;
+    /// Moves the kept memories on by the events just added.
+    bool UpdateMemories(const std::string& learner, const std::vector<LearnerEvent>& events);
+    /// Writes one character's memory, or removes it for none.
+    bool WriteMemory(const std::string& learner, std::pair<std::uint16_t, std::uint16_t> key,
+        const CharacterMemory* memory);
+    bool SetMemoriesThrough(const std::string& learner, long long lastEvent);
 
     sqlite3* m_db;
+    bool m_damaged = false; ///< the check found the file damaged
+    mutable std::string m_ignored; ///< the reason of a failure that the caller reads otherwise
 };

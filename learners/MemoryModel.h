@@ -15,6 +15,7 @@ public:
     struct Memory {
         double stability = 0;
         double difficulty = 0;
+        bool operator==(const Memory&) const = default;
     };
 
     /// The 21 published default weights of FSRS-6, as ts-fsrs 5.4.2 ("using FSRS-6.0") gives

@@ -392,7 +392,7 @@ void XmlConfigStore::BringOverHistories()
         history.parent().remove_child(history);
 }
 
-HistoryStore* XmlConfigStore::Histories()
+HistoryStore* XmlConfigStore::Histories(bool checked)
 {
     if (m_historyState == HistoryState::NotOpened) {
         std::string error;
@@ -404,6 +404,12 @@ HistoryStore* XmlConfigStore::Histories()
             HistoryFailed(error);
             m_historyProblem.keptAs = keptAs;
         }
+    }
+    if (m_historyState == HistoryState::Open && checked && !m_historyChecked) {
+        m_historyChecked = true;
+        std::string error;
+        if (!m_histories->Check(error))
+            HistoryFailed(error);
     }
     return m_historyState == HistoryState::Open ? m_histories.get() : nullptr;
 }
@@ -474,4 +480,30 @@ void XmlConfigStore::OpenHistory()
 HistoryProblem XmlConfigStore::TakeHistoryProblem()
 {
     return std::exchange(m_historyProblem, HistoryProblem{});
+}
+
+LearnerMemories XmlConfigStore::Memories(const User& learner)
+{
+    // Read before the file's full check, which waits until the first page is up: a read does
+    // not spread damage, and a fault it meets is told like any other.
+    LearnerMemories memories;
+    if (HistoryStore* histories = Histories(false)) {
+        std::string error;
+        if (!histories->Memories(learner.Name() ? learner.Name() : "", memories, error)) {
+            memories = {};
+            HistoryFailed(error);
+        }
+    }
+    if (learner.History().empty())
+        return memories;
+    // What could not go to the database follows what did.
+    MemoryLedger ledger;
+    ledger.Load(memories.memories);
+    for (const LearnerEvent& e : learner.History()) {
+        ledger.Apply(e);
+        if (const int day = EventDay(e.at); day >= 0 && (memories.firstDay < 0 || day < memories.firstDay))
+            memories.firstDay = day;
+    }
+    memories.memories = ledger.Memories();
+    return memories;
 }

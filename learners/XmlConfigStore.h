@@ -51,6 +51,7 @@ public:
     bool ImportUser(User& user) override;
     void OpenHistory() override;
     HistoryProblem TakeHistoryProblem() override;
+    LearnerMemories Memories(const User& learner) override;
 
     /// Re-reads the names of all learners and the current learner from the document.
     void ReadUserList();
@@ -69,8 +70,9 @@ private:
     pugi::xml_node FindUser(const std::string& name) const;
     /// Brings the History elements of every learner over to the database, then drops them.
     void BringOverHistories();
-    /// The database when it is open and kept; opened on first call.
-    HistoryStore* Histories();
+    /// The database when it is open and kept; opened on first call, and checked whole first
+    /// unless `checked` is false.
+    HistoryStore* Histories(bool checked = true);
     /// The database failed: from now on the history stays in config.xml; tells why once.
     void HistoryFailed(const std::string& reason);
 
@@ -86,5 +88,6 @@ private:
     std::string m_historyPath;
     enum class HistoryState { NotOpened, Open, InConfig } m_historyState = HistoryState::NotOpened;
     std::unique_ptr<HistoryStore> m_histories;
+    bool m_historyChecked = false;
     HistoryProblem m_historyProblem;
 };
