@@ -32,6 +32,13 @@ HomePage::HomePage(CharacterDatabase& database, Prompt& prompt, QWidget* parent)
             OnOpen();
     });
     connect(OpenButton(), &QPushButton::clicked, this, &HomePage::OnOpen);
+    // How many are due in all, beside the Open button (in the cell of the space before it, so
+    // that the page without it is laid out as always).
+    m_dueTotal = new QLabel(this);
+    m_dueTotal->setObjectName(QStringLiteral("dueTotal"));
+    m_dueTotal->setWordWrap(true);
+    m_dueTotal->hide();
+    m_ui->grid->addWidget(m_dueTotal, 3, 0, 1, 2);
     UpdateButtons();
 }
 
@@ -50,10 +57,12 @@ QPushButton* HomePage::OpenButton() const
     return m_ui->openButton;
 }
 
-QString HomePage::CategoryText(const char* name, std::size_t learned, std::size_t total)
+QString HomePage::CategoryText(const char* name, std::size_t learned, std::size_t total, int due)
 {
     QString text = QString::fromUtf8(name ? name : "");
-    if (learned > 0)
+    if (learned > 0 && due > 0)
+        text += tr(" (%1 of %2, %3 due)").arg(learned).arg(total).arg(due);
+    else if (learned > 0)
         text += tr(" (%1 of %2)").arg(learned).arg(total);
     return text;
 }
@@ -62,7 +71,8 @@ void HomePage::FillItem(QTreeWidgetItem* item, std::uint16_t categoryId)
 {
     const auto category = m_database.LoadCategory(categoryId);
     const std::size_t learned = m_user->GetProgress(category->Id()).LearnedCount();
-    item->setText(0, CategoryText(category->Name(), learned, category->CharacterCount()));
+    const int due = m_reviews ? m_reviews->DueCount(category->Id()) : 0;
+    item->setText(0, CategoryText(category->Name(), learned, category->CharacterCount(), due));
     item->setIcon(0,
         learned > 0 ? m_progressIcon : m_newIcon);
     item->setData(0, Qt::UserRole, categoryId);
@@ -72,6 +82,8 @@ void HomePage::FillItem(QTreeWidgetItem* item, std::uint16_t categoryId)
 void HomePage::SetUser(User* user)
 {
     m_user = user;
+    m_reviews.reset(); // they were the previous learner's
+    ShowDueTotal();
     if (!user) {
         // The list keeps the previous learner's items.
         ShowFitted(UserNameLabel(), TextOrNotAvailable(nullptr), 1);
@@ -100,6 +112,34 @@ void HomePage::RefreshSelectedCategory()
     } catch (const ZavorenCommon::DatabaseLoadException& e) {
         m_prompt.StoreError(this, DatabaseErrorTitle, e.what());
     }
+}
+
+void HomePage::SetReviews(std::optional<ReviewSchedule> reviews)
+{
+    m_reviews = std::move(reviews);
+    if (m_user) {
+        try {
+            for (int i = 0; i < CategoryList()->topLevelItemCount(); ++i) {
+                QTreeWidgetItem* item = CategoryList()->topLevelItem(i);
+                FillItem(item, static_cast<std::uint16_t>(item->data(0, Qt::UserRole).toUInt()));
+            }
+        } catch (const ZavorenCommon::DatabaseLoadException& e) {
+            m_prompt.StoreError(this, DatabaseErrorTitle, e.what());
+        }
+    }
+    ShowDueTotal();
+}
+
+void HomePage::ShowDueTotal()
+{
+    if (!m_reviews || !m_user || m_reviews->Reviews().empty()) {
+        m_dueTotal->hide();
+        return;
+    }
+    const int due = m_reviews->DueTotal();
+    m_dueTotal->setText(due > 0 ? tr("Due for review today: %1").arg(due) : tr("Nothing is due for review today."));
+    m_dueTotal->setAccessibleName(m_dueTotal->text());
+    m_dueTotal->show();
 }
 
 void HomePage::UpdateButtons()

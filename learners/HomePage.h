@@ -1,5 +1,9 @@
 #pragma once
 
+#include "ReviewSchedule.h"
+
+#include <optional>
+
 #include <QIcon>
 
 #include "Page.h"
@@ -30,11 +34,15 @@ public:
     void SetUser(User* user);
     /// Brings the selected category's text and picture up to date.
     void RefreshSelectedCategory();
+    /// What is due for review, shown with each category and in all; none (the aid off): the
+    /// page as it always was.
+    void SetReviews(std::optional<ReviewSchedule> reviews);
     /// The category chosen by the last Open.
     std::uint16_t ChosenCategory() const { return m_chosenCategory; }
 
-    /// The text shown for a category: its name, and " (learned of total)" once one is learned.
-    static QString CategoryText(const char* name, std::size_t learned, std::size_t total);
+    /// The text shown for a category: its name, and " (learned of total)" once one is learned,
+    /// " (learned of total, due due)" when some of them are due for review.
+    static QString CategoryText(const char* name, std::size_t learned, std::size_t total, int due = 0);
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -45,6 +53,7 @@ private:
     QPushButton* OpenButton() const;
     void FillItem(QTreeWidgetItem* item, std::uint16_t categoryId);
     void UpdateButtons();
+    void ShowDueTotal();
     void OnOpen();
 
     std::unique_ptr<Ui::HomePage> m_ui;
@@ -54,4 +63,6 @@ private:
     std::uint16_t m_chosenCategory = 0;
     QIcon m_progressIcon;
     QIcon m_newIcon;
+    std::optional<ReviewSchedule> m_reviews;
+    QLabel* m_dueTotal = nullptr;
 };

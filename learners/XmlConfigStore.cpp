@@ -487,7 +487,10 @@ LearnerMemories XmlConfigStore::Memories(const User& learner)
     // Read before the file's full check, which waits until the first page is up: a read does
     // not spread damage, and a fault it meets is told like any other.
     LearnerMemories memories;
-    if (HistoryStore* histories = Histories(false)) {
+    // No file yet: no history to read, and none made only to read it.
+    std::error_code missing;
+    const bool none = m_historyState == HistoryState::NotOpened && !std::filesystem::exists(m_historyPath, missing);
+    if (HistoryStore* histories = none ? nullptr : Histories(false)) {
         std::string error;
         if (!histories->Memories(learner.Name() ? learner.Name() : "", memories, error)) {
             memories = {};

@@ -30,10 +30,19 @@ std::vector<std::uint16_t> PickLessonCharacters(const std::vector<std::uint16_t>
     return taken;
 }
 
-std::vector<std::uint16_t> Retest(CategoryProgress& progress, Random15& random)
+std::vector<std::uint16_t> Retest(
+    CategoryProgress& progress, Random15& random, const std::vector<std::uint16_t>& dueFirst)
 {
     std::vector<std::uint16_t> sent;
-    for (int i = 0; i < RetestSize; ++i) {
+    for (std::uint16_t code : dueFirst) {
+        if (static_cast<int>(sent.size()) == RetestSize)
+            break;
+        if (!progress.IsLearned(code))
+            continue;
+        progress.MoveToUntested(code);
+        sent.push_back(code);
+    }
+    for (int i = static_cast<int>(sent.size()); i < RetestSize; ++i) {
         const std::size_t count = progress.LearnedCount();
         if (count == 0)
             break;

@@ -31,6 +31,8 @@ CategoryControlState DecideCategoryControls(
 std::vector<std::uint16_t> PickLessonCharacters(const std::vector<std::uint16_t>& categoryCodes,
     const CategoryProgress& progress, std::size_t stripCount, std::size_t max);
 
-/// Sends five random learned characters back to the untested list (each draw over the list as
-/// it stands after the previous moves); returns them in the order drawn.
-std::vector<std::uint16_t> Retest(CategoryProgress& progress, Random15& random);
+/// Sends five learned characters back to the untested list: those of `dueFirst` that are
+/// learned, in its order, then random ones (each draw over the list as it stands after the
+/// previous moves) up to five; returns them in the order sent.
+std::vector<std::uint16_t> Retest(
+    CategoryProgress& progress, Random15& random, const std::vector<std::uint16_t>& dueFirst = {});

@@ -42,7 +42,7 @@ void ProgressRecorder::TestTaken(
 
 std::vector<std::uint16_t> ProgressRecorder::Retest(Random15& random)
 {
-    const std::vector<std::uint16_t> sent = ::Retest(Progress(), random);
+    const std::vector<std::uint16_t> sent = ::Retest(Progress(), random, m_dueFirst);
     for (std::uint16_t code : sent)
         Record(LearnerEvent::Retest, code);
     Keep();

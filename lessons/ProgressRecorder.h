@@ -35,9 +35,13 @@ public:
     /// each character's mistakes.
     void TestTaken(const std::vector<std::uint16_t>& passed, const std::vector<std::uint16_t>& failed,
         const MistakeCount& mistakes);
-    /// Retest: five random learned characters go back to the untested list (each draw over the
-    /// list as it stands after the previous moves); each is a "retest" event. Returns them.
+    /// Retest: five learned characters go back to the untested list, the due ones first (see
+    /// SetDueFirst), then random ones (each draw over the list as it stands after the previous
+    /// moves); each is a "retest" event. Returns them.
     std::vector<std::uint16_t> Retest(Random15& random);
+    /// The category's characters due for review, the first to send back on Retest (none: all
+    /// random).
+    void SetDueFirst(std::vector<std::uint16_t> codes) { m_dueFirst = std::move(codes); }
     /// Forget: these characters leave the learned list; each that was learned is a "forget"
     /// event. Returns those that left it.
     std::vector<std::uint16_t> Forget(const std::vector<std::uint16_t>& codes);
@@ -55,6 +59,7 @@ private:
     std::uint16_t m_categoryId;
     EventClock m_clock;
     KeepEvents m_keep;
+    std::vector<std::uint16_t> m_dueFirst;
     std::vector<LearnerEvent> m_action;
     std::string m_actionTime;
 };

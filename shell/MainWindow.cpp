@@ -143,8 +143,10 @@ void MainWindow::SetLearner(std::unique_ptr<User> learner, SaveOpenLearner save)
         hide();
         return;
     }
+    m_home->SetReviews(Reviews());
     show();
     ShowPage(m_home);
+    TellHistoryProblem();
     // The history is not needed to show the home page: its database is opened once the page
     // has been painted for the first time.
     if (!m_historyOpened)
@@ -247,9 +249,24 @@ void MainWindow::FitToPage()
 
 void MainWindow::ShowCategoryPage()
 {
-    if (m_categoryId)
-        m_category->SetCategory(*m_categoryId, Recorder());
+    if (m_categoryId) {
+        auto recorder = Recorder();
+        if (recorder)
+            if (const auto reviews = Reviews())
+                recorder->SetDueFirst(reviews->DueFirst(*m_categoryId));
+        m_category->SetCategory(*m_categoryId, std::move(recorder));
+    }
     ShowPage(m_category);
+    TellHistoryProblem();
+}
+
+std::optional<ReviewSchedule> MainWindow::Reviews()
+{
+    if (!m_learner || !m_preferences.reviewWhenDue)
+        return std::nullopt;
+    const int today = EventDay(m_clock ? m_clock() : LocalTimeNow());
+    return ReviewSchedule(*m_learner, m_store.Memories(*m_learner),
+        MemoryModel(m_preferences.retention, m_preferences.maximumInterval), today);
 }
 
 std::optional<ProgressRecorder> MainWindow::Recorder()
@@ -287,7 +304,10 @@ void MainWindow::OnPageEvent(Page* page, quint16 code, quint16 argument)
             break;
         case CategoryPage::Back:
             m_home->RefreshSelectedCategory();
+            if (m_preferences.reviewWhenDue)
+                m_home->SetReviews(Reviews());
             ShowPage(m_home);
+            TellHistoryProblem();
             break;
         }
     } else if (page == m_lesson) {
@@ -325,6 +345,13 @@ void MainWindow::ChangePreferences()
     for (Page* page : {static_cast<Page*>(m_lesson), static_cast<Page*>(m_test)})
         m_pages->Refit(page);
     FitToPage();
+    // The reviews follow the new schedule at once.
+    if (m_learner) {
+        m_home->SetReviews(Reviews());
+        if (m_pages->Shown() == m_category)
+            ShowCategoryPage();
+        TellHistoryProblem();
+    }
 }
 
 void MainWindow::ImportLearner()

@@ -6,6 +6,7 @@
 #include "ProgressRecorder.h"
 #include "ProgressViewer.h"
 #include "Random15.h"
+#include "ReviewSchedule.h"
 #include "UrlOpener.h"
 #include "User.h"
 
@@ -73,6 +74,8 @@ private:
     void ApplyTestOutcome();
     /// The rules for the learner's progress in the open category; none without both.
     std::optional<ProgressRecorder> Recorder();
+    /// What is due for review today for the open learner; none without one or with the aid off.
+    std::optional<ReviewSchedule> Reviews();
 
     /// Tools > Preferences…: the writing aids, switched on the lesson and the drawing test.
     void ChangePreferences();

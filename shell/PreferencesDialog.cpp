@@ -1,7 +1,13 @@
 #include "PreferencesDialog.h"
 
+#include "MemoryModel.h"
+
 #include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QDoubleSpinBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QSpinBox>
 #include <QVBoxLayout>
 
 PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWidget* parent) : QDialog(parent)
@@ -20,10 +26,47 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
     m_hint->setChecked(preferences.hintAfterMisses);
     m_onScreen->setChecked(preferences.keepOnScreen);
     m_ownFrame->setChecked(preferences.ownFrame);
-    for (QCheckBox* box : {m_explain, m_grid, m_hint, m_ownFrame, m_onScreen}) {
+    m_reviews = new QCheckBox(tr("Review characters when they are due"), this);
+    m_reviews->setToolTip(tr("Each learned character comes back for a test when you are about to forget it"));
+    m_reviews->setChecked(preferences.reviewWhenDue);
+    for (QCheckBox* box : {m_explain, m_grid, m_hint, m_ownFrame, m_onScreen, m_reviews}) {
         box->setAccessibleName(box->text());
         layout->addWidget(box);
     }
+    // The schedule of the reviews, indented under their box.
+    auto* schedule = new QFormLayout;
+    schedule->setContentsMargins(24, 0, 0, 0);
+    m_retention = new QDoubleSpinBox(this);
+    m_retention->setObjectName(QStringLiteral("retentionBox"));
+    m_retention->setRange(MemoryModel::LowestRetention, MemoryModel::HighestRetention);
+    m_retention->setDecimals(2);
+    m_retention->setSingleStep(0.01);
+    m_retention->setValue(preferences.retention);
+    m_retention->setAccessibleName(tr("Desired retention"));
+    auto* retentionLabel = new QLabel(tr("Desired &retention:"), this);
+    retentionLabel->setBuddy(m_retention);
+    schedule->addRow(retentionLabel, m_retention);
+    auto* meaning = new QLabel(tr("higher: more reviews, fewer characters forgotten"), this);
+    meaning->setObjectName(QStringLiteral("retentionMeaning"));
+    meaning->setWordWrap(true);
+    m_retention->setAccessibleDescription(meaning->text());
+    schedule->addRow(meaning);
+    m_interval = new QSpinBox(this);
+    m_interval->setObjectName(QStringLiteral("intervalBox"));
+    m_interval->setRange(MemoryModel::ShortestMaximumInterval, MemoryModel::LongestMaximumInterval);
+    m_interval->setValue(preferences.maximumInterval);
+    m_interval->setSuffix(tr(" days"));
+    m_interval->setAccessibleName(tr("Maximum interval"));
+    auto* intervalLabel = new QLabel(tr("&Maximum interval:"), this);
+    intervalLabel->setBuddy(m_interval);
+    schedule->addRow(intervalLabel, m_interval);
+    layout->addLayout(schedule);
+    auto follow = [this, retentionLabel, meaning, intervalLabel](bool on) {
+        for (QWidget* w : std::initializer_list<QWidget*>{m_retention, m_interval, retentionLabel, meaning, intervalLabel})
+            w->setEnabled(on);
+    };
+    connect(m_reviews, &QCheckBox::toggled, this, follow);
+    follow(m_reviews->isChecked());
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -32,6 +75,9 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
 
 CoachingPreferences PreferencesDialog::Chosen() const
 {
-    return {m_explain->isChecked(), m_grid->isChecked(), m_hint->isChecked(), m_onScreen->isChecked(),
-        m_ownFrame->isChecked()};
+    CoachingPreferences chosen{m_explain->isChecked(), m_grid->isChecked(), m_hint->isChecked(),
+        m_onScreen->isChecked(), m_ownFrame->isChecked(), m_reviews->isChecked()};
+    chosen.retention = m_retention->value();
+    chosen.maximumInterval = m_interval->value();
+    return chosen;
 }

@@ -5,8 +5,10 @@
 #include <QDialog>
 
 class QCheckBox;
+class QDoubleSpinBox;
+class QSpinBox;
 
-/// Tools > Preferences: the writing aids, each a check box.
+/// Tools > Preferences: the aids, each a check box, and the schedule of the reviews.
 class PreferencesDialog : public QDialog {
     Q_OBJECT
 public:
@@ -21,4 +23,7 @@ private:
     QCheckBox* m_hint = nullptr;
     QCheckBox* m_onScreen = nullptr;
     QCheckBox* m_ownFrame = nullptr;
+    QCheckBox* m_reviews = nullptr;
+    QDoubleSpinBox* m_retention = nullptr;
+    QSpinBox* m_interval = nullptr;
 };

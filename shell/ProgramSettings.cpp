@@ -1,5 +1,9 @@
 #include "ProgramSettings.h"
 
+#include "MemoryModel.h"
+
+#include <algorithm>
+
 #include <QSettings>
 #include <QtEndian>
 
@@ -16,6 +20,9 @@ const char* const GridKey = "Preferences/PracticeGrid";
 const char* const HintKey = "Preferences/HintAfterThreeMisses";
 const char* const OnScreenKey = "Preferences/KeepWindowOnScreen";
 const char* const OwnFrameKey = "Preferences/JudgePlaceByOwnCharacter";
+const char* const ReviewKey = "Preferences/ReviewWhenDue";
+const char* const RetentionKey = "Preferences/DesiredRetention";
+const char* const IntervalKey = "Preferences/MaximumInterval";
 
 constexpr int PlacementFields = 4;
 constexpr int PlacementBytes = 4 * PlacementFields;
@@ -70,6 +77,16 @@ CoachingPreferences ProgramSettings::Coaching() const
     p.hintAfterMisses = settings.value(QLatin1String(HintKey), p.hintAfterMisses).toBool();
     p.keepOnScreen = settings.value(QLatin1String(OnScreenKey), p.keepOnScreen).toBool();
     p.ownFrame = settings.value(QLatin1String(OwnFrameKey), p.ownFrame).toBool();
+    p.reviewWhenDue = settings.value(QLatin1String(ReviewKey), p.reviewWhenDue).toBool();
+    // A value edited out of range by hand is brought back into it.
+    bool ok = false;
+    const double retention = settings.value(QLatin1String(RetentionKey), p.retention).toDouble(&ok);
+    if (ok)
+        p.retention = std::clamp(retention, MemoryModel::LowestRetention, MemoryModel::HighestRetention);
+    const int interval = settings.value(QLatin1String(IntervalKey), p.maximumInterval).toInt(&ok);
+    if (ok)
+        p.maximumInterval
+            = std::clamp(interval, MemoryModel::ShortestMaximumInterval, MemoryModel::LongestMaximumInterval);
     return p;
 }
 
@@ -81,4 +98,7 @@ void ProgramSettings::StoreCoaching(const CoachingPreferences& preferences)
     settings.setValue(QLatin1String(HintKey), preferences.hintAfterMisses);
     settings.setValue(QLatin1String(OnScreenKey), preferences.keepOnScreen);
     settings.setValue(QLatin1String(OwnFrameKey), preferences.ownFrame);
+    settings.setValue(QLatin1String(ReviewKey), preferences.reviewWhenDue);
+    settings.setValue(QLatin1String(RetentionKey), preferences.retention);
+    settings.setValue(QLatin1String(IntervalKey), preferences.maximumInterval);
 }

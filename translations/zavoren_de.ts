@@ -277,6 +277,18 @@ Möchten Sie einen Minidump davon erhalten?</translation>
         <source> (%1 of %2)</source>
         <translation> (%1 von %2)</translation>
     </message>
+    <message>
+        <source> (%1 of %2, %3 due)</source>
+        <translation> (%1 von %2, %3 fällig)</translation>
+    </message>
+    <message>
+        <source>Due for review today: %1</source>
+        <translation>Heute zur Wiederholung fällig: %1</translation>
+    </message>
+    <message>
+        <source>Nothing is due for review today.</source>
+        <translation>Heute ist nichts zur Wiederholung fällig.</translation>
+    </message>
 </context>
 <context>
     <name>InputCanvas</name>
@@ -529,6 +541,38 @@ Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</transl
     <message>
         <source>A character written a little off-centre, smaller or larger is fine: each stroke is placed against the strokes you have already written</source>
         <translation>Ein etwas außermittig, kleiner oder größer geschriebenes Zeichen ist in Ordnung: Jeder Strich wird an den schon geschriebenen Strichen gemessen</translation>
+    </message>
+    <message>
+        <source>Review characters when they are due</source>
+        <translation>Zeichen wiederholen, wenn sie fällig sind</translation>
+    </message>
+    <message>
+        <source>Each learned character comes back for a test when you are about to forget it</source>
+        <translation>Jedes gelernte Zeichen kommt wieder zum Test, wenn Sie es bald vergessen würden</translation>
+    </message>
+    <message>
+        <source>Desired retention</source>
+        <translation>Gewünschte Behaltensrate</translation>
+    </message>
+    <message>
+        <source>Desired &amp;retention:</source>
+        <translation>Gewünschte &amp;Behaltensrate:</translation>
+    </message>
+    <message>
+        <source>higher: more reviews, fewer characters forgotten</source>
+        <translation>höher: mehr Wiederholungen, weniger vergessene Zeichen</translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation> Tage</translation>
+    </message>
+    <message>
+        <source>Maximum interval</source>
+        <translation>Längster Abstand</translation>
+    </message>
+    <message>
+        <source>&amp;Maximum interval:</source>
+        <translation>Längster &amp;Abstand:</translation>
     </message>
 </context>
 <context>

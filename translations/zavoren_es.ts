@@ -277,6 +277,18 @@ Error fatal en Zavoren.<byte value="xd"/>
         <source> (%1 of %2)</source>
         <translation> (%1 de %2)</translation>
     </message>
+    <message>
+        <source> (%1 of %2, %3 due)</source>
+        <translation> (%1 de %2, %3 por repasar)</translation>
+    </message>
+    <message>
+        <source>Due for review today: %1</source>
+        <translation>Por repasar hoy: %1</translation>
+    </message>
+    <message>
+        <source>Nothing is due for review today.</source>
+        <translation>Hoy no hay nada que repasar.</translation>
+    </message>
 </context>
 <context>
     <name>InputCanvas</name>
@@ -529,6 +541,38 @@ Sí lo sustituye; No importa al alumno con otro nombre.</translation>
     <message>
         <source>A character written a little off-centre, smaller or larger is fine: each stroke is placed against the strokes you have already written</source>
         <translation>Un carácter escrito un poco descentrado, más pequeño o más grande está bien: cada trazo se sitúa respecto a los trazos que ya has escrito</translation>
+    </message>
+    <message>
+        <source>Review characters when they are due</source>
+        <translation>Repasar los caracteres cuando toca</translation>
+    </message>
+    <message>
+        <source>Each learned character comes back for a test when you are about to forget it</source>
+        <translation>Cada carácter aprendido vuelve a examen cuando está a punto de olvidarlo</translation>
+    </message>
+    <message>
+        <source>Desired retention</source>
+        <translation>Retención deseada</translation>
+    </message>
+    <message>
+        <source>Desired &amp;retention:</source>
+        <translation>&amp;Retención deseada:</translation>
+    </message>
+    <message>
+        <source>higher: more reviews, fewer characters forgotten</source>
+        <translation>más alta: más repasos, menos caracteres olvidados</translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation> días</translation>
+    </message>
+    <message>
+        <source>Maximum interval</source>
+        <translation>Intervalo máximo</translation>
+    </message>
+    <message>
+        <source>&amp;Maximum interval:</source>
+        <translation>Intervalo &amp;máximo:</translation>
     </message>
 </context>
 <context>

@@ -277,6 +277,18 @@ Voulez-vous en obtenir un minidump ?</translation>
         <source> (%1 of %2)</source>
         <translation> (%1 sur %2)</translation>
     </message>
+    <message>
+        <source> (%1 of %2, %3 due)</source>
+        <translation> (%1 sur %2, %3 à réviser)</translation>
+    </message>
+    <message>
+        <source>Due for review today: %1</source>
+        <translation>À réviser aujourd’hui : %1</translation>
+    </message>
+    <message>
+        <source>Nothing is due for review today.</source>
+        <translation>Rien à réviser aujourd’hui.</translation>
+    </message>
 </context>
 <context>
     <name>InputCanvas</name>
@@ -529,6 +541,38 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
     <message>
         <source>A character written a little off-centre, smaller or larger is fine: each stroke is placed against the strokes you have already written</source>
         <translation>Un caractère écrit un peu décentré, plus petit ou plus grand convient : chaque trait est placé par rapport aux traits déjà écrits</translation>
+    </message>
+    <message>
+        <source>Review characters when they are due</source>
+        <translation>Réviser les caractères quand il le faut</translation>
+    </message>
+    <message>
+        <source>Each learned character comes back for a test when you are about to forget it</source>
+        <translation>Chaque caractère appris revient en test quand vous êtes sur le point de l’oublier</translation>
+    </message>
+    <message>
+        <source>Desired retention</source>
+        <translation>Rétention souhaitée</translation>
+    </message>
+    <message>
+        <source>Desired &amp;retention:</source>
+        <translation>&amp;Rétention souhaitée :</translation>
+    </message>
+    <message>
+        <source>higher: more reviews, fewer characters forgotten</source>
+        <translation>plus haut : plus de révisions, moins de caractères oubliés</translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation> jours</translation>
+    </message>
+    <message>
+        <source>Maximum interval</source>
+        <translation>Intervalle maximal</translation>
+    </message>
+    <message>
+        <source>&amp;Maximum interval:</source>
+        <translation>Intervalle &amp;maximal :</translation>
     </message>
 </context>
 <context>

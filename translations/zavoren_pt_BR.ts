@@ -277,6 +277,18 @@ Deseja obter um minidump?</translation>
         <source> (%1 of %2)</source>
         <translation> (%1 de %2)</translation>
     </message>
+    <message>
+        <source> (%1 of %2, %3 due)</source>
+        <translation> (%1 de %2, %3 para revisar)</translation>
+    </message>
+    <message>
+        <source>Due for review today: %1</source>
+        <translation>Para revisar hoje: %1</translation>
+    </message>
+    <message>
+        <source>Nothing is due for review today.</source>
+        <translation>Nada para revisar hoje.</translation>
+    </message>
 </context>
 <context>
     <name>InputCanvas</name>
@@ -529,6 +541,38 @@ Sim substitui; Não importa o aluno com outro nome.</translation>
     <message>
         <source>A character written a little off-centre, smaller or larger is fine: each stroke is placed against the strokes you have already written</source>
         <translation>Um caractere escrito um pouco fora do centro, menor ou maior está certo: cada traço é situado em relação aos traços que você já escreveu</translation>
+    </message>
+    <message>
+        <source>Review characters when they are due</source>
+        <translation>Revisar os caracteres na hora certa</translation>
+    </message>
+    <message>
+        <source>Each learned character comes back for a test when you are about to forget it</source>
+        <translation>Cada caractere aprendido volta para um teste quando você está prestes a esquecê-lo</translation>
+    </message>
+    <message>
+        <source>Desired retention</source>
+        <translation>Retenção desejada</translation>
+    </message>
+    <message>
+        <source>Desired &amp;retention:</source>
+        <translation>&amp;Retenção desejada:</translation>
+    </message>
+    <message>
+        <source>higher: more reviews, fewer characters forgotten</source>
+        <translation>mais alta: mais revisões, menos caracteres esquecidos</translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation> dias</translation>
+    </message>
+    <message>
+        <source>Maximum interval</source>
+        <translation>Intervalo máximo</translation>
+    </message>
+    <message>
+        <source>&amp;Maximum interval:</source>
+        <translation>Intervalo &amp;máximo:</translation>
     </message>
 </context>
 <context>

@@ -277,6 +277,18 @@ Do you want to get minidump for it?</source>
         <source> (%1 of %2)</source>
         <translation> (%1 из %2)</translation>
     </message>
+    <message>
+        <source> (%1 of %2, %3 due)</source>
+        <translation> (%1 из %2, к повторению %3)</translation>
+    </message>
+    <message>
+        <source>Due for review today: %1</source>
+        <translation>К повторению сегодня: %1</translation>
+    </message>
+    <message>
+        <source>Nothing is due for review today.</source>
+        <translation>Сегодня повторять нечего.</translation>
+    </message>
 </context>
 <context>
     <name>InputCanvas</name>
@@ -529,6 +541,38 @@ Yes replaces it; No imports the learner under another name.</source>
     <message>
         <source>A character written a little off-centre, smaller or larger is fine: each stroke is placed against the strokes you have already written</source>
         <translation>Знак, написанный чуть не по центру, меньше или больше, — не ошибка: каждая черта оценивается относительно уже написанных черт</translation>
+    </message>
+    <message>
+        <source>Review characters when they are due</source>
+        <translation>Повторять иероглифы, когда пора</translation>
+    </message>
+    <message>
+        <source>Each learned character comes back for a test when you are about to forget it</source>
+        <translation>Каждый выученный иероглиф возвращается на проверку, когда вы вот-вот его забудете</translation>
+    </message>
+    <message>
+        <source>Desired retention</source>
+        <translation>Желаемое запоминание</translation>
+    </message>
+    <message>
+        <source>Desired &amp;retention:</source>
+        <translation>Желаемое &amp;запоминание:</translation>
+    </message>
+    <message>
+        <source>higher: more reviews, fewer characters forgotten</source>
+        <translation>выше: больше повторений, меньше забытых иероглифов</translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation> дн.</translation>
+    </message>
+    <message>
+        <source>Maximum interval</source>
+        <translation>Наибольший интервал</translation>
+    </message>
+    <message>
+        <source>&amp;Maximum interval:</source>
+        <translation>Наибольший &amp;интервал:</translation>
     </message>
 </context>
 <context>

@@ -16,7 +16,13 @@ struct CoachingPreferences {
     /// Judge each stroke's place and size in the learner's own character (fitted to the strokes
     /// already accepted), not only against the model's place on the canvas.
     bool ownFrame = true;
+    /// Say how many learned characters are due for review (home page), send the due ones back
+    /// first on Retest, and show the reviews in the progress window and Kanji Info.
+    bool reviewWhenDue = true;
+    /// The reviews' desired retention (0.80 to 0.97) and longest interval in days (30 to 3650).
+    double retention = 0.90;
+    int maximumInterval = 365;
 
-    static CoachingPreferences AllOff() { return {false, false, false, false, false}; }
+    static CoachingPreferences AllOff() { return {false, false, false, false, false, false}; }
     bool operator==(const CoachingPreferences&) const = default;
 };

@@ -582,7 +582,8 @@ private slots:
                     const QStringList captions{QStringLiteral("Explain refused strokes"), QStringLiteral("Practice grid"),
                         QStringLiteral("Show where a stroke starts after three misses"),
                         QStringLiteral("Judge place by my own character"),
-                        QStringLiteral("Bring the window onto the screen at start")};
+                        QStringLiteral("Bring the window onto the screen at start"),
+                        QStringLiteral("Review characters when they are due")};
                     const QList<QCheckBox*> boxes = dialog.findChildren<QCheckBox*>();
                     QCOMPARE(boxes.size(), captions.size());
                     for (int i = 0; i < boxes.size(); ++i) {
