@@ -1,5 +1,7 @@
 #include "CategoryRules.h"
 
+#include <algorithm>
+
 CategoryControlState DecideCategoryControls(
     std::size_t categorySize, const CategoryProgress& progress, bool firstSelectedIsLearned)
 {
@@ -33,23 +35,31 @@ std::vector<std::uint16_t> PickLessonCharacters(const std::vector<std::uint16_t>
 std::vector<std::uint16_t> Retest(
     CategoryProgress& progress, Random15& random, const std::vector<std::uint16_t>& dueFirst)
 {
-    std::vector<std::uint16_t> sent;
+    // The due ones leave the learned list first, so that the draws are over the others.
+    std::vector<std::uint16_t> due;
     for (std::uint16_t code : dueFirst) {
-        if (static_cast<int>(sent.size()) == RetestSize)
+        if (static_cast<int>(due.size()) == RetestSize)
             break;
-        if (!progress.IsLearned(code))
+        if (!progress.IsLearned(code) || std::find(due.begin(), due.end(), code) != due.end())
             continue;
-        progress.MoveToUntested(code);
-        sent.push_back(code);
+        progress.RemoveLearned(code);
+        due.push_back(code);
     }
-    for (int i = static_cast<int>(sent.size()); i < RetestSize; ++i) {
+    std::vector<std::uint16_t> drawn;
+    for (int i = static_cast<int>(due.size()); i < RetestSize; ++i) {
         const std::size_t count = progress.LearnedCount();
         if (count == 0)
             break;
         const auto index = static_cast<std::size_t>(static_cast<std::int64_t>(random.Next()) * count / 32768);
         const std::uint16_t code = progress.LearnedAt(index);
         progress.MoveToUntested(code);
-        sent.push_back(code);
+        drawn.push_back(code);
     }
-    return sent;
+    // Then to the front of the untested list, the first of them first: they are tested first.
+    for (auto it = due.rbegin(); it != due.rend(); ++it) {
+        progress.AddLearned(*it);
+        progress.MoveToUntested(*it);
+    }
+    due.insert(due.end(), drawn.begin(), drawn.end());
+    return due;
 }

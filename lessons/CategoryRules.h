@@ -31,8 +31,11 @@ CategoryControlState DecideCategoryControls(
 std::vector<std::uint16_t> PickLessonCharacters(const std::vector<std::uint16_t>& categoryCodes,
     const CategoryProgress& progress, std::size_t stripCount, std::size_t max);
 
-/// Sends five learned characters back to the untested list: those of `dueFirst` that are
-/// learned, in its order, then random ones (each draw over the list as it stands after the
-/// previous moves) up to five; returns them in the order sent.
+/// Sends five learned characters back to the untested list. Without `dueFirst`: five drawn at
+/// random, each draw over the learned list as it stands after the previous moves, each put in
+/// front of the untested list. With it: its learned characters (at most five) first, and random
+/// ones drawn from the others up to five; the due ones end in front of the untested list in the
+/// order of `dueFirst`, so that they are tested first. Returns the due ones, then the drawn ones
+/// in the order drawn.
 std::vector<std::uint16_t> Retest(
     CategoryProgress& progress, Random15& random, const std::vector<std::uint16_t>& dueFirst = {});

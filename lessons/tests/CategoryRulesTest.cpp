@@ -53,6 +53,37 @@ TEST(CategoryRules, LessonTakesFiveOrFewerAndNeverPassesTenUntested)
     EXPECT_EQ(PickLessonCharacters({3, 4}, CategoryProgress(), 0, 5), (Codes{3, 4}));
 }
 
+TEST(CategoryRules, RetestSendsTheDueFirstAndDrawsTheRestFromTheOthers)
+{
+    for (std::uint32_t seed = 1; seed < 50; ++seed) {
+        CategoryProgress p;
+        for (std::uint16_t i = 10; i < 30; ++i)
+            p.AddLearned(i);
+        p.AddUntested(0);
+        Random15 random(seed);
+        // 99 is not learned and 12 is named twice: neither is sent twice or at all.
+        const auto sent = Retest(p, random, {25, 12, 99, 17, 12});
+        ASSERT_EQ(sent.size(), 5u);
+        EXPECT_EQ((std::vector<std::uint16_t>(sent.begin(), sent.begin() + 3)), (std::vector<std::uint16_t>{25, 12, 17}));
+        // Tested first, in that order; then the two drawn, other learned ones; then the list as it was.
+        EXPECT_EQ((std::vector<std::uint16_t>(p.Untested().begin(), p.Untested().begin() + 3)),
+            (std::vector<std::uint16_t>{25, 12, 17}));
+        for (std::size_t i = 3; i < 5; ++i) {
+            EXPECT_TRUE(p.UntestedAt(i) >= 10 && p.UntestedAt(i) < 30);
+            EXPECT_TRUE(p.UntestedAt(i) != 25 && p.UntestedAt(i) != 12 && p.UntestedAt(i) != 17);
+        }
+        EXPECT_EQ(p.UntestedAt(5), 0);
+        EXPECT_EQ(p.LearnedCount(), 15u);
+    }
+    // More than five due: the first five only, nothing drawn.
+    CategoryProgress p;
+    for (std::uint16_t i = 0; i < 10; ++i)
+        p.AddLearned(i);
+    Random15 random(7);
+    EXPECT_EQ(Retest(p, random, {9, 8, 7, 6, 5, 4}), (std::vector<std::uint16_t>{9, 8, 7, 6, 5}));
+    EXPECT_EQ(p.Untested(), (std::vector<std::uint16_t>{9, 8, 7, 6, 5}));
+}
+
 TEST(CategoryRules, RetestMovesFiveDifferentLearnedCharactersToTheFront)
 {
     for (std::uint32_t seed = 1; seed < 50; ++seed) {

@@ -19,6 +19,7 @@
 #include "RecordingOpener.h"
 #include "RecordingPrompt.h"
 #include "ShellTestSupport.h"
+#include "WindowActions.h"
 #include "WindowFixture.h"
 #include "TestContainer.h"
 #include "TestSupport.h"
@@ -56,63 +57,6 @@ using namespace testsupport;
 using Codes = std::vector<std::uint16_t>;
 
 namespace {
-
-void ClickRadio(QRadioButton* b)
-{
-    QTest::mouseClick(b, Qt::LeftButton, Qt::NoModifier, QPoint(8, b->height() / 2));
-}
-
-void Tick(QCheckBox* box)
-{
-    QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2));
-}
-
-void WriteAll(InputCanvas* canvas, const Form& glyph)
-{
-    for (std::uint16_t k = 0; k < glyph.StrokeCount(); ++k)
-        DrawInk(canvas, StrokeAsMouse(glyph, k, canvas->ClientRect().width()));
-}
-
-/// Answers every question of the test shown right, until it finishes.
-void AnswerTestRight(MainWindow& window)
-{
-    TestContainer* test = ChildOf<TestContainer>(window);
-    CharacterDatabase& db = StandardDatabase();
-    for (int guard = 0; guard < 100 && ShownPage(window) == test; ++guard) {
-        const auto character = db.LoadCharacter(*test->Schedule().CurrentCode());
-        if (test->ShownPage() == test->ReadingPage()) {
-            ReadingTestPage* page = test->ReadingPage();
-            for (int i = 0; i < 5; ++i) {
-                if (page->Choices().on[static_cast<std::size_t>(i)]
-                    == (character->OnReading() ? character->OnReading() : ""))
-                    ClickRadio(page->OnButton(i));
-                if (page->Choices().kun[static_cast<std::size_t>(i)]
-                    == (character->KunReading() ? character->KunReading() : ""))
-                    ClickRadio(page->KunButton(i));
-            }
-        } else {
-            WriteAll(Named<InputCanvas>(test->DrawingPage(), "inputCanvas"), *test->DrawingPage()->Glyph());
-        }
-        QVERIFY(Named<QPushButton>(test, "nextButton")->isEnabled());
-        QTest::mouseClick(Named<QPushButton>(test, "nextButton"), Qt::LeftButton);
-    }
-}
-
-void OpenCategory(MainWindow& window, int row)
-{
-    HomePage* home = ChildOf<HomePage>(window);
-    QTreeWidget* list = Named<QTreeWidget>(home, "categoryList");
-    const QRect r = list->visualItemRect(list->topLevelItem(row));
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, r.center());
-    QTest::mouseClick(Named<QPushButton>(home, "openButton"), Qt::LeftButton);
-}
-
-/// Sorted, for comparing lists whose order is another's.
-Codes Sorted(Codes codes)
-{
-    std::sort(codes.begin(), codes.end());
-    return codes;
-}
 
 /// Progress windows made by the view linked into the tests, as the module makes them.
 class StaticProgressViews : public ProgressViewFactory {

@@ -65,6 +65,9 @@ public:
         return m_history.path.empty() ? m_dir.filePath(QStringLiteral("history.db")).toStdString() : m_history.path;
     }
 
+    /// Moves the clock that dates events and says what day it is (FixedClock() at first).
+    void SetNow(std::string at) { m_now = std::move(at); }
+
     /// Starts as the program does: the learner chosen at start opens on the home page.
     bool Start() { return m_window->ChooseLearnerAtStart() && m_window->ShowChosenLearner(); }
     /// Closes the window (it saves) and the store.
@@ -99,7 +102,7 @@ private:
         m_store = std::make_unique<XmlConfigStore>(
             ConfigPath(), StandardDatabase(), m_history.database ? HistoryPath() : std::string());
         m_window = std::make_unique<MainWindow>(
-            StandardDatabase(), *m_store, m_prompt, FixedSeed, m_urls.Opener(), FixedClock, m_views);
+            StandardDatabase(), *m_store, m_prompt, FixedSeed, m_urls.Opener(), [this] { return m_now; }, m_views);
     }
 
     QTemporaryDir m_dir;
@@ -107,6 +110,7 @@ private:
     RecordingOpener m_urls;
     ProgressViewSource m_views;
     HistoryPlace m_history;
+    std::string m_now = FixedClock();
     std::unique_ptr<XmlConfigStore> m_store;
     std::unique_ptr<MainWindow> m_window;
 };
