@@ -279,6 +279,39 @@ void BM_OpenHistoryOfFiveTenYearLearners(benchmark::State& state)
 }
 BENCHMARK(BM_OpenHistoryOfFiveTenYearLearners)->Unit(benchmark::kMillisecond);
 
+/// The due counts of every category for a ten-year learner, as the home page works them out:
+/// the memories read from history.db, then the schedule of every learned character.
+void BM_DueCountsOfTenYearLearner(benchmark::State& state)
+{
+    TenYearsFixture& f = TenYears();
+    XmlConfigStore store(f.Config(), *f.database, f.History());
+    auto learner = store.LoadUser("Learner 4");
+    store.Memories(*learner); // worked out once from the events after they were brought over
+    const int today = DayOfDate(2026, 11, 23);
+    int due = 0;
+    for (auto _ : state) {
+        const ReviewSchedule schedule(*learner, store.Memories(*learner), MemoryModel(), today);
+        for (std::uint16_t c = 0; c < f.database->CategoryCount(); ++c)
+            due += schedule.DueCount(c);
+    }
+    benchmark::DoNotOptimize(due);
+    state.counters["learned"] = static_cast<double>(
+        ReviewSchedule(*learner, store.Memories(*learner), MemoryModel(), today).Reviews().size());
+}
+BENCHMARK(BM_DueCountsOfTenYearLearner)->Unit(benchmark::kMillisecond);
+
+/// history.db opened for the home page, without its full check, as at start.
+void BM_OpenHistoryForTheHomePage(benchmark::State& state)
+{
+    TenYearsFixture& f = TenYears();
+    for (auto _ : state) {
+        XmlConfigStore store(f.Config(), *f.database, f.History());
+        auto learner = store.LoadUser("Learner 4");
+        benchmark::DoNotOptimize(store.Memories(*learner).memories.size());
+    }
+}
+BENCHMARK(BM_OpenHistoryForTheHomePage)->Unit(benchmark::kMillisecond);
+
 /// A ten-year learner's whole history read from history.db (the progress window, an export).
 void BM_ReadTenYearHistory(benchmark::State& state)
 {

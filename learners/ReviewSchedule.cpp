@@ -70,13 +70,22 @@ LearnerMemories MemoryLedger::Fold(const std::vector<LearnerEvent>& history)
 ReviewSchedule::ReviewSchedule(const User& learner, const LearnerMemories& memories, const MemoryModel& model, int today)
     : m_today(today)
 {
-    MemoryLedger ledger;
-    ledger.Load(memories.memories);
+    // The memories by category and character, for a binary search per learned character.
+    std::vector<const CharacterMemory*> known;
+    known.reserve(memories.memories.size());
+    for (const CharacterMemory& c : memories.memories)
+        known.push_back(&c);
+    auto key = [](const CharacterMemory* c) { return std::pair(c->categoryId, c->id); };
+    if (!std::is_sorted(known.begin(), known.end(), [&](auto a, auto b) { return key(a) < key(b); }))
+        std::sort(known.begin(), known.end(), [&](auto a, auto b) { return key(a) < key(b); });
     const int firstDay = memories.firstDay >= 0 ? std::min(memories.firstDay, today) : today;
     const MemoryModel::Memory ungraded = model.First(MemoryModel::Grade::Good);
     for (const CategoryProgress& record : learner.Progress())
         for (std::uint16_t id : record.Learned()) {
-            const CharacterMemory* c = ledger.Find({record.CategoryId(), id});
+            const auto wanted = std::pair(record.CategoryId(), id);
+            const auto found = std::lower_bound(
+                known.begin(), known.end(), wanted, [&](const CharacterMemory* c, const auto& k) { return key(c) < k; });
+            const CharacterMemory* c = found != known.end() && key(*found) == wanted ? *found : nullptr;
             const MemoryModel::Memory memory = c ? c->memory : ungraded;
             const int lastDay = c ? c->lastDay : firstDay;
             m_reviews.push_back({record.CategoryId(), id, model.Recall(today - lastDay, memory.stability),
