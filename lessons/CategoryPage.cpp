@@ -177,6 +177,9 @@ void CategoryPage::ShowInfo(CharacterGrid* grid)
     if (selected.empty())
         return;
     KanjiInfoDialog dialog(m_database, m_prompt, this);
+    if (m_reviews && m_recorder)
+        if (const ReviewSchedule::Review* review = m_reviews->Find(m_recorder->Progress().CategoryId(), selected.front()))
+            dialog.SetNextReview(review->dueDay, m_reviews->Today());
     if (dialog.SetCode(selected.front()))
         dialog.exec();
     grid->setFocus();

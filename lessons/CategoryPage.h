@@ -6,6 +6,7 @@
 #include "Page.h"
 #include "ProgressRecorder.h"
 #include "Random15.h"
+#include "ReviewSchedule.h"
 
 #include <QHash>
 
@@ -40,6 +41,8 @@ public:
     /// `recorder` (none: a category without a learner). Returns false after an error box when
     /// the category cannot be read.
     bool SetCategory(std::uint16_t categoryId, std::optional<ProgressRecorder> recorder);
+    /// When the learned characters are due for review, told in Kanji Info (none: nothing told).
+    void SetReviews(std::optional<ReviewSchedule> reviews) { m_reviews = std::move(reviews); }
     /// Up to `max` characters for a lesson from the Lesson button.
     std::vector<std::uint16_t> PickLessonCharacters(std::size_t max) const;
     /// Refreshes grid, strip and buttons from the learner's record.
@@ -76,6 +79,7 @@ private:
     SeedSource m_seeds;
     std::unique_ptr<Category> m_category;
     std::optional<ProgressRecorder> m_recorder;
+    std::optional<ReviewSchedule> m_reviews;
     /// The learner's record of the category, or null without a learner.
     CategoryProgress* Progress() const { return m_recorder ? &m_recorder->Progress() : nullptr; }
     QMenu* m_learnedMenu = nullptr;

@@ -9,6 +9,11 @@
 #include "Prompt.h"
 #include "ui_KanjiInfoDialog.h"
 
+#include "LearnerEvent.h"
+
+#include <QDate>
+#include <QLocale>
+
 namespace {
 /// Width of the texts' column in dialog units, and the lines each text may take before it is
 /// shortened (its tooltip holds all of it).
@@ -29,6 +34,12 @@ KanjiInfoDialog::KanjiInfoDialog(CharacterDatabase& database, Prompt& prompt, QW
         if (m_glyph)
             Display()->StartAnimation(m_glyph->GetForm(0));
     });
+    // When the character is next due for review: under the texts, only when it is told.
+    m_nextReview = new QLabel(this);
+    m_nextReview->setObjectName(QStringLiteral("nextReview"));
+    m_nextReview->setWordWrap(true);
+    m_nextReview->hide();
+    m_ui->texts->insertWidget(m_ui->texts->indexOf(m_ui->meaning) + 1, m_nextReview);
     connect(CloseButton(), &QPushButton::clicked, this, [this] {
         Display()->StopAnimation();
         done(Closed);
@@ -66,6 +77,18 @@ bool KanjiInfoDialog::SetCode(std::uint16_t code)
     m_character = std::move(loaded.character);
     m_glyph = std::move(loaded.glyph);
     return true;
+}
+
+void KanjiInfoDialog::SetNextReview(int dueDay, int today)
+{
+    if (dueDay <= today) {
+        m_nextReview->setText(tr("Next review: due now"));
+    } else {
+        const QDate date = QDate::fromString(QString::fromStdString(DayText(dueDay)), Qt::ISODate);
+        m_nextReview->setText(tr("Next review: %1").arg(QLocale().toString(date, QLocale::ShortFormat)));
+    }
+    m_nextReview->setAccessibleName(m_nextReview->text());
+    m_nextReview->show();
 }
 
 void KanjiInfoDialog::showEvent(QShowEvent* event)

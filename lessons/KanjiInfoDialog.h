@@ -27,6 +27,9 @@ public:
 
     /// Loads the character and its glyph; false (after an error box) when the database fails.
     bool SetCode(std::uint16_t code);
+    /// Says when the character is next due for review (a day number, EventDay); not called, the
+    /// dialog says nothing of reviews.
+    void SetNextReview(int dueDay, int today);
 
 
     void reject() override;
@@ -40,6 +43,7 @@ private:
     QLabel* KunReadingLabel() const;
     QLabel* MeaningLabel() const;
     QPushButton* CloseButton() const;
+    QLabel* m_nextReview = nullptr;
     std::unique_ptr<Ui::KanjiInfoDialog> m_ui;
     CharacterDatabase& m_database;
     Prompt& m_prompt;

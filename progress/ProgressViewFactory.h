@@ -1,6 +1,7 @@
 #pragma once
 
 #include "LearnerEvent.h"
+#include "ReviewSchedule.h"
 
 #include <QtPlugin>
 
@@ -19,12 +20,14 @@ public:
     virtual ~ProgressViewFactory() = default;
 
     /// A window (not yet shown, deleted when closed) on `learner`'s progress and whole
-    /// `history` up to the date of `now` (an event time), owned by `parent`. Characters open in
-    /// Kanji Info through `database` and `prompt`; `learner` must outlive the window.
+    /// `history` up to the date of `now` (an event time), with their `reviews` when the aid is
+    /// on, owned by `parent`. Characters open in Kanji Info through `database` and `prompt`;
+    /// `learner` must outlive the window.
     virtual QWidget* CreateProgressView(CharacterDatabase& database, Prompt& prompt, const User& learner,
-        std::vector<LearnerEvent> history, const std::string& now, QWidget* parent)
+        std::vector<LearnerEvent> history, const std::string& now, std::optional<ReviewSchedule> reviews,
+        QWidget* parent)
         = 0;
 };
 
-#define ZavorenProgressViewFactory_iid "io.github.zavoren.Zavoren.ProgressViewFactory/1.1"
+#define ZavorenProgressViewFactory_iid "io.github.zavoren.Zavoren.ProgressViewFactory/1.2"
 Q_DECLARE_INTERFACE(ProgressViewFactory, ZavorenProgressViewFactory_iid)

@@ -19,6 +19,10 @@
 #include <QLabel>
 #include <QLineSeries>
 #include <QListWidget>
+#include <QLocale>
+#include <QPainter>
+#include <QShortcut>
+#include <QStyledItemDelegate>
 #include <QProgressBar>
 #include <QTabWidget>
 #include <QTableWidget>
@@ -38,6 +42,64 @@ QDate DateOfDay(int day)
     return QDate(1970, 1, 1).addDays(day);
 }
 
+/// The day number of a date.
+int DateOfDayNumber(const QDate& date)
+{
+    return static_cast<int>(QDate(1970, 1, 1).daysTo(date));
+}
+
+/// A table cell shown as text and sorted by a number of its own.
+class NumberItem : public QTableWidgetItem {
+public:
+    NumberItem(const QString& text, double number) : QTableWidgetItem(text) { setData(Qt::UserRole, number); }
+    bool operator<(const QTableWidgetItem& other) const override
+    {
+        return data(Qt::UserRole).toDouble() < other.data(Qt::UserRole).toDouble();
+    }
+};
+
+/// The Reviews table's characters drawn as their glyphs, each when first shown.
+class GlyphDelegate : public QStyledItemDelegate {
+public:
+    GlyphDelegate(CharacterDatabase& database, QObject* parent) : QStyledItemDelegate(parent), m_database(database) { }
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::paint(painter, option, index);
+        const auto id = static_cast<std::uint16_t>(index.data(Qt::UserRole + 1).toUInt());
+        const QRgb ink = option.palette.color(
+            option.state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Text).rgb();
+        const QString key = QStringLiteral("%1-%2-%3").arg(id).arg(ink).arg(painter->device()->devicePixelRatioF());
+        QPixmap glyph;
+        if (!m_glyphs.contains(key)) {
+            const qreal ratio = painter->device()->devicePixelRatioF();
+            QImage image(QSize(GlyphSide / 2, GlyphSide / 2) * ratio, QImage::Format_ARGB32_Premultiplied);
+            image.fill(Qt::transparent);
+            try {
+                const auto character = m_database.LoadCharacter(id);
+                const auto element = m_database.LoadElement(character->ElementId());
+                if (element && element->FormCount() > 0)
+                    DrawFormSmooth(image, image.rect(), element->GetForm(0), ink, 1.5 * ratio);
+            } catch (const ZavorenCommon::DatabaseLoadException&) {
+                // Shown without its glyph.
+            }
+            image.setDevicePixelRatio(ratio);
+            m_glyphs.insert(key, QPixmap::fromImage(image));
+        }
+        glyph = m_glyphs.value(key);
+        const QRect cell = option.rect;
+        painter->drawPixmap(cell.left() + 4, cell.top() + (cell.height() - GlyphSide / 2) / 2, glyph);
+    }
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const QSize text = QStyledItemDelegate::sizeHint(option, index);
+        return QSize(GlyphSide / 2 + 8, std::max(text.height(), GlyphSide / 2 + 4));
+    }
+
+private:
+    CharacterDatabase& m_database;
+    mutable QHash<QString, QPixmap> m_glyphs;
+};
+
 QChartView* MakeChartView(QChart* chart, const QString& name, QWidget* parent)
 {
     auto* view = new QChartView(chart, parent);
@@ -50,8 +112,9 @@ QChartView* MakeChartView(QChart* chart, const QString& name, QWidget* parent)
 } // namespace
 
 ProgressWindow::ProgressWindow(CharacterDatabase& database, Prompt& prompt, const User& learner,
-    std::vector<LearnerEvent> history, const std::string& now, QWidget* parent)
-    : QWidget(parent, Qt::Window), m_database(database), m_prompt(prompt), m_learner(learner)
+    std::vector<LearnerEvent> history, const std::string& now, std::optional<ReviewSchedule> reviews, QWidget* parent)
+    : QWidget(parent, Qt::Window), m_database(database), m_prompt(prompt), m_learner(learner),
+      m_reviews(std::move(reviews))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(QStringLiteral("ProgressWindow"));
@@ -81,9 +144,28 @@ ProgressWindow::ProgressWindow(CharacterDatabase& database, Prompt& prompt, cons
     m_tabs->addTab(BuildTestsTab(), tr("&Tests"));
     m_tabs->addTab(BuildCategoriesTab(), tr("&Categories"));
     m_tabs->addTab(BuildTroubleTab(), tr("T&rouble characters"));
+    if (m_reviews)
+        m_tabs->addTab(BuildReviewsTab(), tr("Re&views"));
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_tabs);
+    // Escape and the platform's close shortcut close it, like the program's dialogs.
+    for (const QKeySequence& keys : QList<QKeySequence>{QKeySequence(Qt::Key_Escape), QKeySequence::Close}) {
+        auto* close = new QShortcut(keys, this);
+        connect(close, &QShortcut::activated, this, &QWidget::close);
+    }
     FollowPalette();
+}
+
+void ProgressWindow::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    // The first time, centred over the window it belongs to.
+    if (!m_placed && parentWidget()) {
+        m_placed = true;
+        QRect frame = frameGeometry();
+        frame.moveCenter(parentWidget()->window()->frameGeometry().center());
+        move(frame.topLeft());
+    }
 }
 
 ProgressWindow::~ProgressWindow() = default;
@@ -142,14 +224,17 @@ void ProgressWindow::ShowLearned(int pickerIndex)
         most = std::max(most, perDay[i]);
     }
     m_learned->replace(points);
+    // A line through one day draws nothing: each day's value is marked too while there are few.
+    m_learned->setPointsVisible(perDay.size() <= 31);
     QChart* chart = m_learnedView->chart();
     const auto axes = chart->axes();
     for (QAbstractAxis* axis : axes) {
         if (auto* days = qobject_cast<QDateTimeAxis*>(axis)) {
-            const QDateTime first(DateOfDay(m_stats->FirstDay()), QTime(0, 0));
+            // At least a week, so that the two ends of the axis are not the same day.
+            const QDateTime first(DateOfDay(std::min(m_stats->FirstDay(), m_stats->Today() - 6)), QTime(0, 0));
             const QDateTime last(DateOfDay(m_stats->Today()), QTime(23, 59));
             days->setRange(first, last);
-            days->setTickCount(std::min(7, std::max(2, static_cast<int>(perDay.size()))));
+            days->setTickCount(std::min(7, std::max(2, m_stats->Today() - DateOfDayNumber(first.date()) + 1)));
         } else if (auto* count = qobject_cast<QValueAxis*>(axis)) {
             count->setRange(0, std::max(5, most + most / 10 + 1));
             count->applyNiceNumbers(); // whole numbers of characters on the ticks
@@ -255,10 +340,14 @@ QWidget* ProgressWindow::BuildTroubleTab()
     m_trouble->setGridSize(QSize(GlyphSide + 72, GlyphSide + 44));
     m_trouble->setWordWrap(true);
     for (const LearnerStatistics::Trouble& t : m_stats->TroubleCharacters(TroubleCount)) {
-        const QString counts = (t.mistakes == 1 ? tr("1 mistake") : tr("%1 mistakes").arg(t.mistakes))
+        QString counts = (t.mistakes == 1 ? tr("1 mistake") : tr("%1 mistakes").arg(t.mistakes))
             + QLatin1Char('\n') + (t.failures == 1 ? tr("1 test failed") : tr("%1 tests failed").arg(t.failures));
+        if (m_reviews)
+            if (const ReviewSchedule::Review* review = m_reviews->Find(t.categoryId, t.id))
+                counts += QLatin1Char('\n') + tr("recall %1 %").arg(qRound(review->recall * 100));
         auto* item = new QListWidgetItem(counts, m_trouble);
         item->setData(Qt::UserRole, t.id);
+        item->setData(Qt::UserRole + 1, t.categoryId);
         item->setTextAlignment(Qt::AlignHCenter | Qt::AlignTop);
         item->setData(Qt::AccessibleTextRole, counts);
         try {
@@ -302,9 +391,106 @@ void ProgressWindow::OpenKanjiInfo(QListWidgetItem* item)
 {
     if (!item)
         return;
+    ShowKanjiInfo(static_cast<std::uint16_t>(item->data(Qt::UserRole + 1).toUInt()),
+        static_cast<std::uint16_t>(item->data(Qt::UserRole).toUInt()));
+}
+
+void ProgressWindow::ShowKanjiInfo(std::uint16_t categoryId, std::uint16_t id)
+{
     KanjiInfoDialog dialog(m_database, m_prompt, this);
-    if (dialog.SetCode(static_cast<std::uint16_t>(item->data(Qt::UserRole).toUInt())))
+    if (m_reviews)
+        if (const ReviewSchedule::Review* review = m_reviews->Find(categoryId, id))
+            dialog.SetNextReview(review->dueDay, m_reviews->Today());
+    if (dialog.SetCode(id))
         dialog.exec();
+}
+
+QWidget* ProgressWindow::BuildReviewsTab()
+{
+    auto* tab = new QWidget;
+    auto* layout = new QVBoxLayout(tab);
+    // The characters falling due on each of the next 30 days.
+    constexpr int Days = 30;
+    const std::vector<int> perDay = m_reviews->DuePerDay(Days);
+    auto* chart = new QChart;
+    chart->setTitle(tr("Reviews due on each of the next 30 days"));
+    chart->legend()->hide();
+    auto* series = new QBarSeries(chart);
+    auto* due = new QBarSet(tr("Due"), series);
+    due->setObjectName(QStringLiteral("dueBars"));
+    QStringList labels;
+    int most = 0;
+    for (int i = 0; i < Days; ++i) {
+        *due << perDay[static_cast<std::size_t>(i)];
+        most = std::max(most, perDay[static_cast<std::size_t>(i)]);
+        const QDate date = DateOfDay(m_reviews->Today() + 1 + i);
+        labels << (i % 5 == 0 ? QLocale().toString(date, QStringLiteral("d MMM")) : QString::number(date.day()));
+    }
+    series->append(due);
+    chart->addSeries(series);
+    auto* days = new QBarCategoryAxis(chart);
+    days->append(labels);
+    auto* count = new QValueAxis(chart);
+    count->setLabelFormat(QStringLiteral("%d"));
+    count->setRange(0, std::max(5, most + most / 10 + 1));
+    count->applyNiceNumbers();
+    count->setTitleText(tr("Characters"));
+    chart->addAxis(days, Qt::AlignBottom);
+    chart->addAxis(count, Qt::AlignLeft);
+    series->attachAxis(days);
+    series->attachAxis(count);
+    auto* view = MakeChartView(chart, tr("Reviews due on each of the next 30 days"), tab);
+    view->setObjectName(QStringLiteral("reviewsChart"));
+    view->setMinimumSize(560, 220);
+    int inMonth = 0;
+    for (int n : perDay)
+        inMonth += n;
+    view->setAccessibleDescription(tr("Due today: %1; in the next 30 days: %2").arg(m_reviews->DueTotal()).arg(inMonth));
+    layout->addWidget(view);
+
+    // Every learned character: its predicted recall today and its next review.
+    m_reviewTable = new QTableWidget(static_cast<int>(m_reviews->Reviews().size()), 4, tab);
+    m_reviewTable->setObjectName(QStringLiteral("reviewsTable"));
+    m_reviewTable->setAccessibleName(tr("Learned characters and their reviews"));
+    m_reviewTable->setHorizontalHeaderLabels({tr("Character"), tr("Category"), tr("Recall today"), tr("Next review")});
+    m_reviewTable->verticalHeader()->hide();
+    m_reviewTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_reviewTable->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_reviewTable->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_reviewTable->setItemDelegateForColumn(0, new GlyphDelegate(m_database, m_reviewTable));
+    int row = 0;
+    for (const ReviewSchedule::Review& r : m_reviews->Reviews()) {
+        QString meaning;
+        try {
+            const auto character = m_database.LoadCharacter(r.id);
+            meaning = QString::fromUtf8(character->Meaning() ? character->Meaning() : "");
+        } catch (const ZavorenCommon::DatabaseLoadException&) {
+        }
+        auto* glyph = new QTableWidgetItem(QString());
+        glyph->setData(Qt::UserRole, r.categoryId);
+        glyph->setData(Qt::UserRole + 1, r.id);
+        glyph->setData(Qt::AccessibleTextRole, meaning);
+        glyph->setToolTip(meaning);
+        m_reviewTable->setItem(row, 0, glyph);
+        const QString category = r.categoryId < m_categoryNames.size() ? m_categoryNames[r.categoryId] : QString();
+        m_reviewTable->setItem(row, 1, new NumberItem(category, r.categoryId));
+        m_reviewTable->setItem(row, 2, new NumberItem(QStringLiteral("%1 %").arg(qRound(r.recall * 100)), r.recall));
+        const QString next = r.Due(m_reviews->Today()) ? tr("due now")
+                                                       : QLocale().toString(DateOfDay(r.dueDay), QLocale::ShortFormat);
+        m_reviewTable->setItem(row, 3, new NumberItem(next, r.dueDay));
+        ++row;
+    }
+    m_reviewTable->setSortingEnabled(true);
+    m_reviewTable->sortByColumn(2, Qt::AscendingOrder); // the least likely to be recalled first
+    m_reviewTable->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
+    m_reviewTable->verticalHeader()->setDefaultSectionSize(GlyphSide / 2 + 6);
+    connect(m_reviewTable, &QTableWidget::cellActivated, this, [this](int r, int) {
+        const QTableWidgetItem* item = m_reviewTable->item(r, 0);
+        ShowKanjiInfo(static_cast<std::uint16_t>(item->data(Qt::UserRole).toUInt()),
+            static_cast<std::uint16_t>(item->data(Qt::UserRole + 1).toUInt()));
+    });
+    layout->addWidget(m_reviewTable);
+    return tab;
 }
 
 void ProgressWindow::changeEvent(QEvent* event)

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "LearnerStatistics.h"
+#include "ReviewSchedule.h"
+
+#include <optional>
 
 #include <QWidget>
 
@@ -24,20 +27,25 @@ class User;
 class ProgressWindow : public QWidget {
     Q_OBJECT
 public:
-    /// Shows `learner`, whose whole history is `history`, up to the date of `now`, an event time.
+    /// Shows `learner`, whose whole history is `history`, up to the date of `now`, an event time;
+    /// with `reviews` (the aid on), a Reviews tab and each character's predicted recall.
     ProgressWindow(CharacterDatabase& database, Prompt& prompt, const User& learner, std::vector<LearnerEvent> history,
-        const std::string& now, QWidget* parent = nullptr);
+        const std::string& now, std::optional<ReviewSchedule> reviews = std::nullopt, QWidget* parent = nullptr);
     ~ProgressWindow() override;
 
 
 protected:
     void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     QWidget* BuildLearnedTab();
     QWidget* BuildTestsTab();
     QWidget* BuildCategoriesTab();
     QWidget* BuildTroubleTab();
+    QWidget* BuildReviewsTab();
+    /// Opens Kanji Info on a character of the category, with its next review when it has one.
+    void ShowKanjiInfo(std::uint16_t categoryId, std::uint16_t id);
     void ShowLearned(int pickerIndex);
     void DrawTroubleGlyphs();
     void OpenKanjiInfo(QListWidgetItem* item);
@@ -57,4 +65,7 @@ private:
     QBarSet* m_failed = nullptr;
     QTableWidget* m_table = nullptr;
     QListWidget* m_trouble = nullptr;
+    std::optional<ReviewSchedule> m_reviews;
+    QTableWidget* m_reviewTable = nullptr;
+    bool m_placed = false;
 };

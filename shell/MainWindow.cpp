@@ -74,8 +74,9 @@ void MainWindow::BuildMenu()
         if (!m_learner)
             return;
         std::vector<LearnerEvent> history = m_store.History(*m_learner);
+        auto reviews = Reviews();
         TellHistoryProblem();
-        m_progress.Open(m_learner.get(), std::move(history), this);
+        m_progress.Open(m_learner.get(), std::move(history), std::move(reviews), this);
     });
     m_learnerActions << add(tools, tr("Export learner…"), "exportAction", [this] {
         LearnerTransfer(m_database, m_store, m_prompt, this).ExportAsked(m_learner.get());
@@ -251,9 +252,10 @@ void MainWindow::ShowCategoryPage()
 {
     if (m_categoryId) {
         auto recorder = Recorder();
-        if (recorder)
-            if (const auto reviews = Reviews())
-                recorder->SetDueFirst(reviews->DueFirst(*m_categoryId));
+        auto reviews = Reviews();
+        if (recorder && reviews)
+            recorder->SetDueFirst(reviews->DueFirst(*m_categoryId));
+        m_category->SetReviews(std::move(reviews));
         m_category->SetCategory(*m_categoryId, std::move(recorder));
     }
     ShowPage(m_category);

@@ -14,7 +14,8 @@ void ProgressViewer::Close()
     delete m_window;
 }
 
-void ProgressViewer::Open(const User* learner, std::vector<LearnerEvent> history, QWidget* parent)
+void ProgressViewer::Open(
+    const User* learner, std::vector<LearnerEvent> history, std::optional<ReviewSchedule> reviews, QWidget* parent)
 {
     Close();
     if (!learner)
@@ -24,7 +25,7 @@ void ProgressViewer::Open(const User* learner, std::vector<LearnerEvent> history
     try {
         if (factory)
             m_window = factory->CreateProgressView(
-                m_database, m_prompt, *learner, std::move(history), m_clock ? m_clock() : LocalTimeNow(), parent);
+                m_database, m_prompt, *learner, std::move(history), m_clock ? m_clock() : LocalTimeNow(), std::move(reviews), parent);
     } catch (const std::exception& e) {
         factory = nullptr;
         error = QString::fromUtf8(e.what());

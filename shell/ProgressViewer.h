@@ -22,9 +22,10 @@ public:
     /// Windows come from `source`; "today" is `clock`'s time.
     ProgressViewer(CharacterDatabase& database, Prompt& prompt, EventClock clock, ProgressViewSource source);
 
-    /// Opens the window on `learner` and their whole `history` over `parent`, closing the one
-    /// open (no learner: nothing opens).
-    void Open(const User* learner, std::vector<LearnerEvent> history, QWidget* parent);
+    /// Opens the window on `learner`, their whole `history` and their `reviews` (none with the
+    /// aid off) over `parent`, closing the one open (no learner: nothing opens).
+    void Open(const User* learner, std::vector<LearnerEvent> history, std::optional<ReviewSchedule> reviews,
+        QWidget* parent);
     /// Closes the window open, if any.
     void Close();
 

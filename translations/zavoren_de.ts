@@ -327,6 +327,14 @@ Möchten Sie einen Minidump davon erhalten?</translation>
         <source>&amp;Close</source>
         <translation>&amp;Schließen</translation>
     </message>
+    <message>
+        <source>Next review: due now</source>
+        <translation>Nächste Wiederholung: jetzt</translation>
+    </message>
+    <message>
+        <source>Next review: %1</source>
+        <translation>Nächste Wiederholung: %1</translation>
+    </message>
 </context>
 <context>
     <name>LearnerTransfer</name>
@@ -723,6 +731,46 @@ Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</transl
     <message>
         <source>%1 tests failed</source>
         <translation>%1 Tests nicht bestanden</translation>
+    </message>
+    <message>
+        <source>Re&amp;views</source>
+        <translation>&amp;Wiederholungen</translation>
+    </message>
+    <message>
+        <source>recall %1 %</source>
+        <translation>Erinnerung %1 %</translation>
+    </message>
+    <message>
+        <source>Reviews due on each of the next 30 days</source>
+        <translation>Fällige Wiederholungen an jedem der nächsten 30 Tage</translation>
+    </message>
+    <message>
+        <source>Due</source>
+        <translation>Fällig</translation>
+    </message>
+    <message>
+        <source>Due today: %1; in the next 30 days: %2</source>
+        <translation>Heute fällig: %1; in den nächsten 30 Tagen: %2</translation>
+    </message>
+    <message>
+        <source>Learned characters and their reviews</source>
+        <translation>Gelernte Zeichen und ihre Wiederholungen</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>Recall today</source>
+        <translation>Erinnerung heute</translation>
+    </message>
+    <message>
+        <source>Next review</source>
+        <translation>Nächste Wiederholung</translation>
+    </message>
+    <message>
+        <source>due now</source>
+        <translation>jetzt</translation>
     </message>
 </context>
 <context>

@@ -327,6 +327,14 @@ Error fatal en Zavoren.<byte value="xd"/>
         <source>&amp;Close</source>
         <translation>&amp;Cerrar</translation>
     </message>
+    <message>
+        <source>Next review: due now</source>
+        <translation>Próximo repaso: ahora</translation>
+    </message>
+    <message>
+        <source>Next review: %1</source>
+        <translation>Próximo repaso: %1</translation>
+    </message>
 </context>
 <context>
     <name>LearnerTransfer</name>
@@ -723,6 +731,46 @@ Sí lo sustituye; No importa al alumno con otro nombre.</translation>
     <message>
         <source>%1 tests failed</source>
         <translation>%1 pruebas falladas</translation>
+    </message>
+    <message>
+        <source>Re&amp;views</source>
+        <translation>Re&amp;pasos</translation>
+    </message>
+    <message>
+        <source>recall %1 %</source>
+        <translation>recuerdo %1 %</translation>
+    </message>
+    <message>
+        <source>Reviews due on each of the next 30 days</source>
+        <translation>Repasos previstos en cada uno de los próximos 30 días</translation>
+    </message>
+    <message>
+        <source>Due</source>
+        <translation>Por repasar</translation>
+    </message>
+    <message>
+        <source>Due today: %1; in the next 30 days: %2</source>
+        <translation>Por repasar hoy: %1; en los próximos 30 días: %2</translation>
+    </message>
+    <message>
+        <source>Learned characters and their reviews</source>
+        <translation>Caracteres aprendidos y sus repasos</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>Carácter</translation>
+    </message>
+    <message>
+        <source>Recall today</source>
+        <translation>Recuerdo hoy</translation>
+    </message>
+    <message>
+        <source>Next review</source>
+        <translation>Próximo repaso</translation>
+    </message>
+    <message>
+        <source>due now</source>
+        <translation>ahora</translation>
     </message>
 </context>
 <context>

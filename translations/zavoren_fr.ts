@@ -327,6 +327,14 @@ Voulez-vous en obtenir un minidump ?</translation>
         <source>&amp;Close</source>
         <translation>&amp;Fermer</translation>
     </message>
+    <message>
+        <source>Next review: due now</source>
+        <translation>Prochaine révision : maintenant</translation>
+    </message>
+    <message>
+        <source>Next review: %1</source>
+        <translation>Prochaine révision : %1</translation>
+    </message>
 </context>
 <context>
     <name>LearnerTransfer</name>
@@ -723,6 +731,46 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
     <message>
         <source>%1 tests failed</source>
         <translation>%1 tests échoués</translation>
+    </message>
+    <message>
+        <source>Re&amp;views</source>
+        <translation>Ré&amp;visions</translation>
+    </message>
+    <message>
+        <source>recall %1 %</source>
+        <translation>rappel %1 %</translation>
+    </message>
+    <message>
+        <source>Reviews due on each of the next 30 days</source>
+        <translation>Révisions prévues chacun des 30 prochains jours</translation>
+    </message>
+    <message>
+        <source>Due</source>
+        <translation>À réviser</translation>
+    </message>
+    <message>
+        <source>Due today: %1; in the next 30 days: %2</source>
+        <translation>À réviser aujourd’hui : %1 ; dans les 30 prochains jours : %2</translation>
+    </message>
+    <message>
+        <source>Learned characters and their reviews</source>
+        <translation>Caractères appris et leurs révisions</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>Caractère</translation>
+    </message>
+    <message>
+        <source>Recall today</source>
+        <translation>Rappel aujourd’hui</translation>
+    </message>
+    <message>
+        <source>Next review</source>
+        <translation>Prochaine révision</translation>
+    </message>
+    <message>
+        <source>due now</source>
+        <translation>maintenant</translation>
     </message>
 </context>
 <context>

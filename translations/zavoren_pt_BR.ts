@@ -327,6 +327,14 @@ Deseja obter um minidump?</translation>
         <source>&amp;Close</source>
         <translation>&amp;Fechar</translation>
     </message>
+    <message>
+        <source>Next review: due now</source>
+        <translation>Próxima revisão: agora</translation>
+    </message>
+    <message>
+        <source>Next review: %1</source>
+        <translation>Próxima revisão: %1</translation>
+    </message>
 </context>
 <context>
     <name>LearnerTransfer</name>
@@ -723,6 +731,46 @@ Sim substitui; Não importa o aluno com outro nome.</translation>
     <message>
         <source>%1 tests failed</source>
         <translation>%1 testes com falha</translation>
+    </message>
+    <message>
+        <source>Re&amp;views</source>
+        <translation>Re&amp;visões</translation>
+    </message>
+    <message>
+        <source>recall %1 %</source>
+        <translation>lembrança %1 %</translation>
+    </message>
+    <message>
+        <source>Reviews due on each of the next 30 days</source>
+        <translation>Revisões previstas em cada um dos próximos 30 dias</translation>
+    </message>
+    <message>
+        <source>Due</source>
+        <translation>Para revisar</translation>
+    </message>
+    <message>
+        <source>Due today: %1; in the next 30 days: %2</source>
+        <translation>Para revisar hoje: %1; nos próximos 30 dias: %2</translation>
+    </message>
+    <message>
+        <source>Learned characters and their reviews</source>
+        <translation>Caracteres aprendidos e suas revisões</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>Caractere</translation>
+    </message>
+    <message>
+        <source>Recall today</source>
+        <translation>Lembrança hoje</translation>
+    </message>
+    <message>
+        <source>Next review</source>
+        <translation>Próxima revisão</translation>
+    </message>
+    <message>
+        <source>due now</source>
+        <translation>agora</translation>
     </message>
 </context>
 <context>

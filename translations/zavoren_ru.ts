@@ -327,6 +327,14 @@ Do you want to get minidump for it?</source>
         <source>&amp;Close</source>
         <translation>&amp;Закрыть</translation>
     </message>
+    <message>
+        <source>Next review: due now</source>
+        <translation>Следующее повторение: сейчас</translation>
+    </message>
+    <message>
+        <source>Next review: %1</source>
+        <translation>Следующее повторение: %1</translation>
+    </message>
 </context>
 <context>
     <name>LearnerTransfer</name>
@@ -723,6 +731,46 @@ Yes replaces it; No imports the learner under another name.</source>
     <message>
         <source>%1 tests failed</source>
         <translation>не сдано тестов: %1</translation>
+    </message>
+    <message>
+        <source>Re&amp;views</source>
+        <translation>&amp;Повторения</translation>
+    </message>
+    <message>
+        <source>recall %1 %</source>
+        <translation>вспомните с вероятностью %1 %</translation>
+    </message>
+    <message>
+        <source>Reviews due on each of the next 30 days</source>
+        <translation>Повторения на каждый из следующих 30 дней</translation>
+    </message>
+    <message>
+        <source>Due</source>
+        <translation>К повторению</translation>
+    </message>
+    <message>
+        <source>Due today: %1; in the next 30 days: %2</source>
+        <translation>К повторению сегодня: %1; в следующие 30 дней: %2</translation>
+    </message>
+    <message>
+        <source>Learned characters and their reviews</source>
+        <translation>Выученные иероглифы и их повторения</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>Знак</translation>
+    </message>
+    <message>
+        <source>Recall today</source>
+        <translation>Вспомните сегодня</translation>
+    </message>
+    <message>
+        <source>Next review</source>
+        <translation>Следующее повторение</translation>
+    </message>
+    <message>
+        <source>due now</source>
+        <translation>сейчас</translation>
     </message>
 </context>
 <context>

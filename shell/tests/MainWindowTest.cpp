@@ -62,9 +62,10 @@ namespace {
 class StaticProgressViews : public ProgressViewFactory {
 public:
     QWidget* CreateProgressView(CharacterDatabase& database, Prompt& prompt, const User& learner,
-        std::vector<LearnerEvent> history, const std::string& now, QWidget* parent) override
+        std::vector<LearnerEvent> history, const std::string& now, std::optional<ReviewSchedule> reviews,
+        QWidget* parent) override
     {
-        return new ProgressWindow(database, prompt, learner, std::move(history), now, parent);
+        return new ProgressWindow(database, prompt, learner, std::move(history), now, std::move(reviews), parent);
     }
     ProgressViewSource Source()
     {
