@@ -202,7 +202,7 @@ Do you want to get minidump for it?</source>
     <name>DisplayCanvas</name>
     <message>
         <source>Character</source>
-        <translation>Знак</translation>
+        <translation>Иероглиф</translation>
     </message>
     <message>
         <source>Click to see the character written stroke by stroke</source>
@@ -758,7 +758,7 @@ Yes replaces it; No imports the learner under another name.</source>
     </message>
     <message>
         <source>Character</source>
-        <translation>Знак</translation>
+        <translation>Иероглиф</translation>
     </message>
     <message>
         <source>Recall today</source>

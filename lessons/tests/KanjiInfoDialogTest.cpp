@@ -1,11 +1,14 @@
 #include "Named.h"
 #include "KanjiInfoDialog.h"
+#include "LearnerEvent.h"
 #include "DisplayCanvas.h"
 #include "RecordingPrompt.h"
 #include "TestSupport.h"
 
 #include <QLabel>
 #include <QPushButton>
+#include <QDate>
+#include <QLocale>
 #include <QTest>
 #include <QTimer>
 
@@ -36,6 +39,34 @@ private slots:
         QCOMPARE(Named<QLabel>(&dialog, "meaning")->text(), QStringLiteral("ten"));
         QVERIFY(CountNot(Named<DisplayCanvas>(&dialog, "displayCanvas")->BackBuffer(), qRgb(255, 255, 255)) > 0);
         QCOMPARE(Named<DisplayCanvas>(&dialog, "displayCanvas")->width(), Named<DisplayCanvas>(&dialog, "displayCanvas")->height());
+    }
+
+    void theNextReviewIsToldOnlyWhenGiven()
+    {
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+        KanjiInfoDialog plain(*m_db, m_prompt);
+        QVERIFY(plain.SetCode(0));
+        plain.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&plain));
+        QVERIFY(!Named<QLabel>(&plain, "nextReview")->isVisible());
+        const QSize without = plain.size();
+
+        const int today = DayOfDate(2026, 11, 23);
+        KanjiInfoDialog later(*m_db, m_prompt);
+        QVERIFY(later.SetCode(0));
+        later.SetNextReview(today + 10, today);
+        later.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&later));
+        QLabel* next = Named<QLabel>(&later, "nextReview");
+        QVERIFY(next->isVisible());
+        QCOMPARE(next->text(), QStringLiteral("Next review: %1").arg(QLocale().toString(QDate(2026, 12, 3), QLocale::ShortFormat)));
+        QCOMPARE(next->accessibleName(), next->text());
+        QVERIFY(later.height() >= without.height());
+
+        KanjiInfoDialog due(*m_db, m_prompt);
+        QVERIFY(due.SetCode(0));
+        due.SetNextReview(today - 3, today);
+        QCOMPARE(Named<QLabel>(&due, "nextReview")->text(), QStringLiteral("Next review: due now"));
     }
 
     void clickingTwiceRestartsTheAnimation()

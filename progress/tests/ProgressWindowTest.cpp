@@ -8,9 +8,13 @@
 #include "KanjiInfoDialog.h"
 #include "ModalAnswerer.h"
 #include "RecordingPrompt.h"
+#include "ReviewSchedule.h"
 #include "User.h"
 
 #include <QBarSet>
+#include <QDateTimeAxis>
+#include <QHeaderView>
+#include <QPointer>
 #include <QChart>
 #include <QChartView>
 #include <QApplication>
@@ -167,6 +171,120 @@ private slots:
         QCOMPARE(Named<QChartView>(&window, "learnedChart")->chart()->backgroundBrush().color(), paper);
         QVERIFY(Contrast(Named<QChartView>(&window, "learnedChart")->chart()->titleBrush().color(), paper) >= 7.0);
         QVERIFY(Contrast(Named<QLineSeries>(Named<QChartView>(&window, "learnedChart")->chart(), "learnedSeries")->pen().color(), paper) >= 3.0);
+    }
+
+    void aFirstDayShowsItsValueOnAWeekLongAxis()
+    {
+        // Five characters learned today, and nothing before.
+        User first;
+        first.SetName("Ben");
+        std::vector<LearnerEvent> history;
+        const auto grade1 = m_db->LoadCategory(0)->Characters();
+        for (std::size_t i = 0; i < 5; ++i) {
+            first.GetProgress(0).AddLearned(grade1[i]);
+            history.push_back({At(Today, "T10:00:00+01:00"), LearnerEvent::Passed, 0, grade1[i], 0});
+        }
+        ProgressWindow window(*m_db, m_prompt, first, history, Now);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        auto* series = Named<QLineSeries>(Named<QChartView>(&window, "learnedChart")->chart(), "learnedSeries");
+        QCOMPARE(series->count(), 1);
+        QCOMPARE(series->at(0).y(), 5.0);
+        QVERIFY(series->pointsVisible()); // a marker where a line of one point draws nothing
+        QDateTimeAxis* days = nullptr;
+        for (QAbstractAxis* axis : Named<QChartView>(&window, "learnedChart")->chart()->axes())
+            if (auto* d = qobject_cast<QDateTimeAxis*>(axis))
+                days = d;
+        QVERIFY(days);
+        QVERIFY(days->min().date().daysTo(days->max().date()) >= 6);
+        // And its marker is drawn: ink of the series' colour near the right end of the plot.
+        const QImage picture = Named<QChartView>(&window, "learnedChart")->grab().toImage();
+        const QColor line = series->color();
+        int marked = 0;
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = picture.width() / 2; x < picture.width(); ++x) {
+                const QColor c = picture.pixelColor(x, y);
+                marked += std::abs(c.red() - line.red()) + std::abs(c.green() - line.green())
+                        + std::abs(c.blue() - line.blue()) < 60;
+            }
+        QVERIFY2(marked > 10, qPrintable(QString::number(marked)));
+    }
+
+    void escapeAndTheCloseShortcutCloseItCentredOverItsOwner()
+    {
+        QWidget owner;
+        owner.setGeometry(300, 200, 800, 600);
+        owner.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&owner));
+        for (const QKeySequence& keys : {QKeySequence(Qt::Key_Escape), QKeySequence(QKeySequence::Close)}) {
+            if (keys.isEmpty())
+                continue; // a platform without a close shortcut
+            QPointer<ProgressWindow> window(new ProgressWindow(*m_db, m_prompt, m_learner, m_learner.History(), Now,
+                std::nullopt, &owner));
+            window->setAttribute(Qt::WA_DeleteOnClose, true);
+            window->show();
+            QVERIFY(QTest::qWaitForWindowExposed(window));
+            QVERIFY((window->frameGeometry().center() - owner.frameGeometry().center()).manhattanLength() <= 2);
+            QTest::keySequence(window, keys);
+            QTRY_VERIFY(!window);
+        }
+    }
+
+    void theReviewsTabShowsWhatFallsDueAndEachCharactersRecall()
+    {
+        const ReviewSchedule reviews(m_learner, MemoryLedger::Fold(m_learner.History()), MemoryModel(), Today);
+        {
+            // The aid off: no such tab.
+            ProgressWindow window(*m_db, m_prompt, m_learner, m_learner.History(), Now);
+            QCOMPARE(Named<QTabWidget>(&window, "progressTabs")->count(), 4);
+        }
+        ProgressWindow window(*m_db, m_prompt, m_learner, m_learner.History(), Now, reviews);
+        window.resize(720, 560);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        auto* tabs = Named<QTabWidget>(&window, "progressTabs");
+        QCOMPARE(tabs->count(), 5);
+        QCOMPARE(tabs->tabText(4), QStringLiteral("Re&views"));
+        tabs->setCurrentIndex(4);
+        // One bar a day for 30 days, as the schedule says.
+        auto* bars = Named<QBarSet>(Named<QChartView>(&window, "reviewsChart")->chart(), "dueBars");
+        const std::vector<int> perDay = reviews.DuePerDay(30);
+        QCOMPARE(bars->count(), 30);
+        for (int i = 0; i < 30; ++i)
+            QCOMPARE(bars->at(i), double(perDay[static_cast<std::size_t>(i)]));
+        // Every learned character, the least likely recalled first; sorted again by due date.
+        auto* table = Named<QTableWidget>(&window, "reviewsTable");
+        QCOMPARE(table->rowCount(), int(reviews.Reviews().size()));
+        QVERIFY(table->rowCount() > 50);
+        for (int r = 1; r < table->rowCount(); ++r)
+            QVERIFY(table->item(r - 1, 2)->data(Qt::UserRole).toDouble() <= table->item(r, 2)->data(Qt::UserRole).toDouble());
+        QTest::mouseClick(table->horizontalHeader()->viewport(), Qt::LeftButton, Qt::NoModifier,
+            QPoint(table->horizontalHeader()->sectionViewportPosition(3) + 5, table->horizontalHeader()->height() / 2));
+        for (int r = 1; r < table->rowCount(); ++r)
+            QVERIFY(table->item(r - 1, 3)->data(Qt::UserRole).toInt() <= table->item(r, 3)->data(Qt::UserRole).toInt());
+        // Due ones say so; each row's recall is the schedule's.
+        const auto* first = table->item(0, 0);
+        const auto* review = reviews.Find(static_cast<std::uint16_t>(first->data(Qt::UserRole).toUInt()),
+            static_cast<std::uint16_t>(first->data(Qt::UserRole + 1).toUInt()));
+        QVERIFY(review);
+        QCOMPARE(table->item(0, 2)->text(), QStringLiteral("%1 %").arg(qRound(review->recall * 100)));
+        if (review->Due(Today))
+            QCOMPARE(table->item(0, 3)->text(), QStringLiteral("due now"));
+        // Activated: Kanji Info with the next review.
+        ModalAnswerer<KanjiInfoDialog> info([](KanjiInfoDialog& dialog) {
+            QVERIFY(Named<QLabel>(&dialog, "nextReview")->isVisible());
+            QVERIFY(Named<QLabel>(&dialog, "nextReview")->text().startsWith(QStringLiteral("Next review: ")));
+            dialog.reject();
+        });
+        table->setCurrentCell(0, 1);
+        QTest::keyClick(table, Qt::Key_Return);
+        QCOMPARE(info.Shown(), 1);
+        // The trouble list adds each learned character's recall.
+        auto* trouble = Named<QListWidget>(&window, "troubleList");
+        bool withRecall = false;
+        for (int i = 0; i < trouble->count(); ++i)
+            withRecall = withRecall || trouble->item(i)->text().contains(QStringLiteral("recall "));
+        QVERIFY(withRecall);
     }
 
     void theModuleMakesTheWindow()
