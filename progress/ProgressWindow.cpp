@@ -9,6 +9,7 @@
 #include <QBarCategoryAxis>
 #include <QBarSeries>
 #include <QBarSet>
+#include <QCategoryAxis>
 #include <QChart>
 #include <QChartView>
 #include <QComboBox>
@@ -418,18 +419,20 @@ QWidget* ProgressWindow::BuildReviewsTab()
     auto* series = new QBarSeries(chart);
     auto* due = new QBarSet(tr("Due"), series);
     due->setObjectName(QStringLiteral("dueBars"));
-    QStringList labels;
     int most = 0;
     for (int i = 0; i < Days; ++i) {
         *due << perDay[static_cast<std::size_t>(i)];
         most = std::max(most, perDay[static_cast<std::size_t>(i)]);
-        const QDate date = DateOfDay(m_reviews->Today() + 1 + i);
-        labels << (i % 5 == 0 ? QLocale().toString(date, QStringLiteral("d MMM")) : QString::number(date.day()));
     }
     series->append(due);
     chart->addSeries(series);
-    auto* days = new QBarCategoryAxis(chart);
-    days->append(labels);
+    // Bar i stands at i: labelled by days from today, every fifth day, with the date aside.
+    auto* days = new QCategoryAxis(chart);
+    days->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
+    days->setRange(-0.5, Days - 0.5);
+    for (int i = 0; i < Days; i += (i == 0 ? 4 : 5))
+        days->append(QLocale().toString(DateOfDay(m_reviews->Today() + 1 + i), QStringLiteral("d MMM")), i);
+    days->setTitleText(tr("Day"));
     auto* count = new QValueAxis(chart);
     count->setLabelFormat(QStringLiteral("%d"));
     count->setRange(0, std::max(5, most + most / 10 + 1));
@@ -440,6 +443,7 @@ QWidget* ProgressWindow::BuildReviewsTab()
     series->attachAxis(days);
     series->attachAxis(count);
     auto* view = MakeChartView(chart, tr("Reviews due on each of the next 30 days"), tab);
+    m_reviewsView = view;
     view->setObjectName(QStringLiteral("reviewsChart"));
     view->setMinimumSize(560, 220);
     int inMonth = 0;
@@ -504,7 +508,7 @@ void ProgressWindow::FollowPalette()
 {
     // The charts draw in the window's colours, so that a dark palette gives dark charts.
     const QPalette& p = palette();
-    for (QChartView* view : {m_learnedView, m_testsView}) {
+    for (QChartView* view : {m_learnedView, m_testsView, m_reviewsView}) {
         if (!view)
             continue;
         QChart* chart = view->chart();
@@ -520,8 +524,10 @@ void ProgressWindow::FollowPalette()
         }
         view->setBackgroundBrush(p.color(QPalette::Window));
     }
-    if (m_learned)
+    if (m_learned) {
         m_learned->setPen(QPen(p.color(QPalette::Highlight), 2));
+        m_learned->setBrush(p.color(QPalette::Highlight)); // the day markers
+    }
     if (m_trouble)
         DrawTroubleGlyphs();
 }

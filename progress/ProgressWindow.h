@@ -67,5 +67,6 @@ private:
     QListWidget* m_trouble = nullptr;
     std::optional<ReviewSchedule> m_reviews;
     QTableWidget* m_reviewTable = nullptr;
+    QChartView* m_reviewsView = nullptr;
     bool m_placed = false;
 };

@@ -171,6 +171,13 @@ private slots:
         QCOMPARE(Named<QChartView>(&window, "learnedChart")->chart()->backgroundBrush().color(), paper);
         QVERIFY(Contrast(Named<QChartView>(&window, "learnedChart")->chart()->titleBrush().color(), paper) >= 7.0);
         QVERIFY(Contrast(Named<QLineSeries>(Named<QChartView>(&window, "learnedChart")->chart(), "learnedSeries")->pen().color(), paper) >= 3.0);
+        // The Reviews tab too.
+        ProgressWindow withReviews(*m_db, m_prompt, m_learner, m_learner.History(), Now,
+            ReviewSchedule(m_learner, MemoryLedger::Fold(m_learner.History()), MemoryModel(), Today));
+        for (const char* name : {"reviewsChart", "reviewsTable"})
+            QVERIFY2(!Named<QWidget>(&withReviews, name)->accessibleName().isEmpty(), name);
+        withReviews.setPalette(DarkPalette());
+        QCOMPARE(Named<QChartView>(&withReviews, "reviewsChart")->chart()->backgroundBrush().color(), paper);
     }
 
     void aFirstDayShowsItsValueOnAWeekLongAxis()

@@ -1,6 +1,7 @@
 // Renders the program's pages offscreen into PNG files, so that a change to a page can be looked
 // at: home, category (with learned and untested characters), lesson (mid-character, after a
-// refused stroke), reading test, drawing test, Kanji Info, User Manager, About, Preferences, the four
+// refused stroke), reading test, drawing test, Kanji Info (also with its next review), User
+// Manager, About, Preferences, the home page with reviews, the five
 // parts of the progress window, and the start-up window as it shows and half-way through loading.
 //   render_pages DATABASE OUTPUT_FOLDER [--dark] [--screen]
 // Run with QT_QPA_PLATFORM=offscreen, and QT_SCALE_FACTOR=2 for a device pixel ratio of 2;
@@ -215,11 +216,28 @@ int main(int argc, char** argv)
         if (n % 5 != 0 && !learner.GetProgress(0).IsLearned(id))
             learner.GetProgress(0).AddLearned(id);
     }
-    ProgressWindow progress(db, prompt, learner, learner.History(), "2026-11-22T20:00:00+01:00");
+    // With the reviews: what is due after that year, on the home page, in Kanji Info and in the
+    // progress window's Reviews tab.
+    // The last ten days, reviews of twenty characters, so that some fall due within the month.
+    for (std::size_t k = 0; k < 20; ++k)
+        learner.AddEvent({DayText(today - static_cast<int>(k % 10)) + "T19:00:00+01:00", LearnerEvent::Passed, 0,
+            grade1[k], static_cast<int>(k % 2)});
+    const ReviewSchedule reviews(learner, MemoryLedger::Fold(learner.History()), MemoryModel(), today);
+    home.SetUser(&learner);
+    home.SetReviews(reviews);
+    ok &= Save(home, out, QStringLiteral("home-reviews"));
+    KanjiInfoDialog dueInfo(db, prompt);
+    dueInfo.SetCode(grade1[0]);
+    if (const ReviewSchedule::Review* review = reviews.Find(0, grade1[0]))
+        dueInfo.SetNextReview(review->dueDay, today);
+    ok &= Save(dueInfo, out, QStringLiteral("kanji-info-review"));
+
+    ProgressWindow progress(db, prompt, learner, learner.History(), "2026-11-22T20:00:00+01:00", reviews);
     progress.setAttribute(Qt::WA_DeleteOnClose, false);
-    progress.resize(720, 520);
-    const char* const tabs[] = {"progress-learned", "progress-tests", "progress-categories", "progress-trouble"};
-    for (int i = 0; i < 4; ++i) {
+    progress.resize(720, 560);
+    const char* const tabs[]
+        = {"progress-learned", "progress-tests", "progress-categories", "progress-trouble", "progress-reviews"};
+    for (int i = 0; i < 5; ++i) {
         Named<QTabWidget>(&progress, "progressTabs")->setCurrentIndex(i);
         ok &= Save(progress, out, QString::fromLatin1(tabs[i]));
     }
