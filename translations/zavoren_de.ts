@@ -772,6 +772,10 @@ Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</transl
         <source>due now</source>
         <translation>jetzt</translation>
     </message>
+    <message>
+        <source>Day</source>
+        <translation>Tag</translation>
+    </message>
 </context>
 <context>
     <name>ReadingTestPage</name>

@@ -772,6 +772,10 @@ Sí lo sustituye; No importa al alumno con otro nombre.</translation>
         <source>due now</source>
         <translation>ahora</translation>
     </message>
+    <message>
+        <source>Day</source>
+        <translation>Día</translation>
+    </message>
 </context>
 <context>
     <name>ReadingTestPage</name>

@@ -772,6 +772,10 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
         <source>due now</source>
         <translation>maintenant</translation>
     </message>
+    <message>
+        <source>Day</source>
+        <translation>Jour</translation>
+    </message>
 </context>
 <context>
     <name>ReadingTestPage</name>

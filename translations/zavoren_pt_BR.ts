@@ -772,6 +772,10 @@ Sim substitui; Não importa o aluno com outro nome.</translation>
         <source>due now</source>
         <translation>agora</translation>
     </message>
+    <message>
+        <source>Day</source>
+        <translation>Dia</translation>
+    </message>
 </context>
 <context>
     <name>ReadingTestPage</name>

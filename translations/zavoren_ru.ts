@@ -772,6 +772,10 @@ Yes replaces it; No imports the learner under another name.</source>
         <source>due now</source>
         <translation>сейчас</translation>
     </message>
+    <message>
+        <source>Day</source>
+        <translation>День</translation>
+    </message>
 </context>
 <context>
     <name>ReadingTestPage</name>
