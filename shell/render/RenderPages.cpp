@@ -223,9 +223,10 @@ int main(int argc, char** argv)
         learner.AddEvent({DayText(today - static_cast<int>(k % 10)) + "T19:00:00+01:00", LearnerEvent::Passed, 0,
             grade1[k], static_cast<int>(k % 2)});
     const ReviewSchedule reviews(learner, MemoryLedger::Fold(learner.History()), MemoryModel(), today);
-    home.SetUser(&learner);
-    home.SetReviews(reviews);
-    ok &= Save(home, out, QStringLiteral("home-reviews"));
+    HomePage homeWithReviews(db, prompt);
+    homeWithReviews.SetUser(&learner);
+    homeWithReviews.SetReviews(reviews);
+    ok &= Save(homeWithReviews, out, QStringLiteral("home-reviews"));
     KanjiInfoDialog dueInfo(db, prompt);
     dueInfo.SetCode(grade1[0]);
     if (const ReviewSchedule::Review* review = reviews.Find(0, grade1[0]))
