@@ -78,4 +78,19 @@ void BM_ProgressWindowFirstPaintHistoryFromDatabase(benchmark::State& state)
 }
 BENCHMARK(BM_ProgressWindowFirstPaintHistoryFromDatabase)->Unit(benchmark::kMillisecond);
 
+void BM_ProgressWindowFirstPaintWithReviews(benchmark::State& state)
+{
+    Fixture& f = Shared();
+    SilentPrompt prompt;
+    const int today = DayOfDate(2026, 11, 23);
+    for (auto _ : state) {
+        ReviewSchedule reviews(f.learner, f.store->Memories(f.learner), MemoryModel(), today);
+        ProgressWindow window(f.database, prompt, f.learner, f.store->History(f.learner), "2026-11-23T20:00:00+01:00",
+            std::move(reviews));
+        window.resize(720, 520);
+        benchmark::DoNotOptimize(window.grab());
+    }
+}
+BENCHMARK(BM_ProgressWindowFirstPaintWithReviews)->Unit(benchmark::kMillisecond);
+
 } // namespace
