@@ -3,6 +3,7 @@
 
 #include "AtomicFile.h"
 #include "ConfigException.h"
+#include "MemoryCache.h"
 #include "DatabaseLoadException.h"
 #include "TextRules.h"
 #include "UserRecordXml.h"
@@ -138,6 +139,25 @@ void XmlConfigStore::Open(const DatabaseSource& database)
         throw ConfigException(e.what());
     }
     ReadUserList();
+}
+
+XmlConfigStore::~XmlConfigStore()
+{
+    if (m_historyState != HistoryState::Open || m_currentUserName.empty())
+        return;
+    try {
+        LearnerMemories memories;
+        std::string error;
+        if (!m_histories->Memories(m_currentUserName, memories, error))
+            return;
+        // Closed first: the journal goes back into the file, and the stamp is the closed file's.
+        m_histories.reset();
+        const MemoryCache::Stamp stamp = MemoryCache::StampOf(m_historyPath);
+        if (stamp[0] >= 0) // a database in a file, not in memory
+            MemoryCache::Write(MemoryCache::PathFor(m_historyPath), stamp, m_currentUserName, memories);
+    } catch (const std::exception&) {
+        // Only a faster next start is lost.
+    }
 }
 
 pugi::xml_node XmlConfigStore::UsersNode() const
@@ -490,7 +510,14 @@ LearnerMemories XmlConfigStore::Memories(const User& learner)
     // No file yet: no history to read, and none made only to read it.
     std::error_code missing;
     const bool none = m_historyState == HistoryState::NotOpened && !std::filesystem::exists(m_historyPath, missing);
-    if (HistoryStore* histories = none ? nullptr : Histories(false)) {
+    // Not opened yet (at start): the memories kept at the last close, while they still hold.
+    std::optional<LearnerMemories> kept;
+    if (!none && m_historyState == HistoryState::NotOpened)
+        kept = MemoryCache::Read(MemoryCache::PathFor(m_historyPath), MemoryCache::StampOf(m_historyPath),
+            learner.Name() ? learner.Name() : "");
+    if (kept) {
+        memories = std::move(*kept);
+    } else if (HistoryStore* histories = none ? nullptr : Histories(false)) {
         std::string error;
         if (!histories->Memories(learner.Name() ? learner.Name() : "", memories, error)) {
             memories = {};

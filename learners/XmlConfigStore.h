@@ -38,6 +38,9 @@ public:
     XmlConfigStore(std::string path, DatabaseSource database, std::string historyPath = {});
     /// Opens the file; `database` supplies the category count.
     XmlConfigStore(std::string path, CharacterDatabase& database, std::string historyPath = {});
+    /// Closes the history database and keeps the current learner's memories beside it
+    /// (MemoryCache) for the next start.
+    ~XmlConfigStore() override;
 
     std::unique_ptr<User> LoadUser(const std::string& name) override;
     bool AddUser(const std::string& name) override;

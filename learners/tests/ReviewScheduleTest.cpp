@@ -2,8 +2,11 @@
 
 #include "ReviewSchedule.h"
 
+#include "FileCharacterDatabase.h"
 #include "HistoryStore.h"
+#include "MemoryCache.h"
 #include "StoreFiles.h"
+#include "XmlConfigStore.h"
 
 #include <gtest/gtest.h>
 
@@ -155,5 +158,62 @@ TEST(ReviewSchedule, TheKeptMemoriesFollowTheEventsAsAFoldOfThemWould)
     EXPECT_TRUE(kept.memories.empty());
     EXPECT_EQ(kept.firstDay, -1);
     store.reset();
+    std::filesystem::remove_all(dir);
+}
+
+TEST(MemoryCache, TheMemoriesKeptAtCloseServeOnlyWhileTheHistoryIsUntouched)
+{
+    const auto dir = StoreFiles::MakeTemporaryFolder("zavoren-memory-cache");
+    StoreFiles::WriteSmallDatabase(dir / "database", 1, 3);
+    FileCharacterDatabase database((dir / "database").string());
+    const std::string config = (dir / "config.xml").string();
+    const std::string history = (dir / "history.db").string();
+    StoreFiles::WriteText(config, "<Zavoren><Users currentUser=\"Anna\"><User name=\"Anna\"/><User name=\"Ben\"/></Users></Zavoren>");
+    const std::vector<LearnerEvent> events = {At(0, LearnerEvent::Passed, 1, 0), At(2, LearnerEvent::Passed, 2, 1)};
+    {
+        XmlConfigStore store(config, database, history);
+        store.Record(*store.LoadUser("Anna"), events);
+    } // closed: the cache is written beside the history
+    const std::string cache = MemoryCache::PathFor(history);
+    ASSERT_TRUE(std::filesystem::exists(cache));
+    const LearnerMemories folded = MemoryLedger::Fold(events);
+    auto stamp = MemoryCache::StampOf(history);
+    auto read = MemoryCache::Read(cache, stamp, "Anna");
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->memories, folded.memories);
+    EXPECT_EQ(read->firstDay, folded.firstDay);
+    EXPECT_FALSE(MemoryCache::Read(cache, stamp, "Ben")); // another learner's
+    MemoryCache::Stamp moved = stamp;
+    moved[1] += 4096;
+    EXPECT_FALSE(MemoryCache::Read(cache, moved, "Anna")); // the history changed since
+
+    // The store takes the kept memories while they hold: a cache written with other memories
+    // (and the same stamp) is what it returns.
+    LearnerMemories other = folded;
+    other.memories[0].memory.stability = 123.0;
+    ASSERT_TRUE(MemoryCache::Write(cache, stamp, "Anna", other));
+    {
+        XmlConfigStore store(config, database, history);
+        auto anna = store.LoadUser("Anna");
+        EXPECT_DOUBLE_EQ(store.Memories(*anna).memories[0].memory.stability, 123.0);
+        // Once the history has moved on, the database's own.
+        store.Record(*anna, {At(3, LearnerEvent::Failed, 1, 2)});
+        std::vector<LearnerEvent> all = events;
+        all.push_back(At(3, LearnerEvent::Failed, 1, 2));
+        EXPECT_EQ(store.Memories(*anna).memories, MemoryLedger::Fold(all).memories);
+    }
+    // Written again at close, and whole; a damaged one is not read.
+    read = MemoryCache::Read(cache, MemoryCache::StampOf(history), "Anna");
+    ASSERT_TRUE(read);
+    EXPECT_NE(read->memories[0].memory.stability, 123.0);
+    std::string bytes = StoreFiles::ReadText(cache);
+    for (std::size_t at : {std::size_t(0), bytes.size() / 2, bytes.size() - 1}) {
+        std::string damaged = bytes;
+        damaged[at] = static_cast<char>(damaged[at] ^ 0x40);
+        StoreFiles::WriteText(cache, damaged);
+        EXPECT_FALSE(MemoryCache::Read(cache, MemoryCache::StampOf(history), "Anna")) << at;
+    }
+    StoreFiles::WriteText(cache, bytes.substr(0, bytes.size() - 9));
+    EXPECT_FALSE(MemoryCache::Read(cache, MemoryCache::StampOf(history), "Anna"));
     std::filesystem::remove_all(dir);
 }
