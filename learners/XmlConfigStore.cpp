@@ -515,15 +515,24 @@ LearnerMemories XmlConfigStore::Memories(const User& learner)
     if (!none && m_historyState == HistoryState::NotOpened)
         kept = MemoryCache::Read(MemoryCache::PathFor(m_historyPath), MemoryCache::StampOf(m_historyPath),
             learner.Name() ? learner.Name() : "");
+    if (kept)
+        m_lastRead = {learner.Name() ? learner.Name() : "", *kept};
+    const std::string name = learner.Name() ? learner.Name() : "";
     if (kept) {
         memories = std::move(*kept);
     } else if (HistoryStore* histories = none ? nullptr : Histories(false)) {
         std::string error;
-        if (!histories->Memories(learner.Name() ? learner.Name() : "", memories, error)) {
+        if (histories->Memories(name, memories, error)) {
+            m_lastRead = {name, memories};
+        } else {
             memories = {};
             HistoryFailed(error);
         }
     }
+    // The database given up during the session: what it held when last read, with what the
+    // session kept in config.xml since.
+    if (m_historyState == HistoryState::InConfig && m_lastRead.first == name && !name.empty())
+        memories = m_lastRead.second;
     if (learner.History().empty())
         return memories;
     // What could not go to the database follows what did.

@@ -92,5 +92,7 @@ private:
     enum class HistoryState { NotOpened, Open, InConfig } m_historyState = HistoryState::NotOpened;
     std::unique_ptr<HistoryStore> m_histories;
     bool m_historyChecked = false;
+    /// The memories last read for a learner, kept for when the database is given up.
+    std::pair<std::string, LearnerMemories> m_lastRead;
     HistoryProblem m_historyProblem;
 };

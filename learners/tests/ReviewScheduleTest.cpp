@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sqlite3.h>
+
 namespace {
 
 const int Day0 = DayOfDate(2026, 11, 1);
@@ -215,5 +217,32 @@ TEST(MemoryCache, TheMemoriesKeptAtCloseServeOnlyWhileTheHistoryIsUntouched)
     }
     StoreFiles::WriteText(cache, bytes.substr(0, bytes.size() - 9));
     EXPECT_FALSE(MemoryCache::Read(cache, MemoryCache::StampOf(history), "Anna"));
+    std::filesystem::remove_all(dir);
+}
+
+TEST(MemoryCache, ADatabaseGivenUpDuringTheSessionKeepsWhatItHeld)
+{
+    const auto dir = StoreFiles::MakeTemporaryFolder("zavoren-memories-given-up");
+    StoreFiles::WriteSmallDatabase(dir / "database", 1, 3);
+    FileCharacterDatabase database((dir / "database").string());
+    const std::string config = (dir / "config.xml").string();
+    const std::string history = (dir / "history.db").string();
+    StoreFiles::WriteText(config, "<Zavoren><Users currentUser=\"Anna\"><User name=\"Anna\"/></Users></Zavoren>");
+    XmlConfigStore store(config, database, history);
+    auto anna = store.LoadUser("Anna");
+    std::vector<LearnerEvent> all = {At(0, LearnerEvent::Passed, 1, 0), At(1, LearnerEvent::Passed, 2, 0)};
+    store.Record(*anna, all);
+    EXPECT_EQ(store.Memories(*anna).memories, MemoryLedger::Fold(all).memories);
+    // Another program holds the file: the next action goes to config.xml, told once.
+    sqlite3* other = nullptr;
+    ASSERT_EQ(sqlite3_open(history.c_str(), &other), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+    store.Record(*anna, {At(4, LearnerEvent::Failed, 2, 2)});
+    all.push_back(At(4, LearnerEvent::Failed, 2, 2));
+    EXPECT_FALSE(store.TakeHistoryProblem().reason.empty());
+    sqlite3_exec(other, "ROLLBACK", nullptr, nullptr, nullptr);
+    sqlite3_close(other);
+    // The memories are still the whole history's.
+    EXPECT_EQ(store.Memories(*anna).memories, MemoryLedger::Fold(all).memories);
     std::filesystem::remove_all(dir);
 }
