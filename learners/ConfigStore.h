@@ -43,8 +43,11 @@ public:
     /// Writes an imported learner's record and makes the history it carries their whole
     /// history; as SaveUser otherwise.
     virtual bool ImportUser(User& user) = 0;
-    /// Opens the history database if it is not open yet, and checks it whole.
+    /// Opens the history database if it is not open yet, and starts checking it whole in the
+    /// background (a failure it finds is told by TakeHistoryProblem once it is over).
     virtual void OpenHistory() = 0;
+    /// Whether the check OpenHistory started is still running.
+    virtual bool HistoryBeingChecked() = 0;
     /// Each character's memory as the learner's whole history leaves it.
     virtual LearnerMemories Memories(const User& learner) = 0;
     /// Why the history is no longer kept in its database, once: the failure not yet told, or

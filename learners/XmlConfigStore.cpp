@@ -143,9 +143,11 @@ void XmlConfigStore::Open(const DatabaseSource& database)
 
 XmlConfigStore::~XmlConfigStore()
 {
-    if (m_historyState != HistoryState::Open || m_currentUserName.empty())
-        return;
     try {
+        // The check's own connection closed first, so that the file is stamped as it stays.
+        CollectCheck(true);
+        if (m_historyState != HistoryState::Open || m_currentUserName.empty())
+            return;
         LearnerMemories memories;
         std::string error;
         if (!m_histories->Memories(m_currentUserName, memories, error))
@@ -425,20 +427,23 @@ HistoryStore* XmlConfigStore::Histories(bool checked)
             m_historyProblem.keptAs = keptAs;
         }
     }
-    if (m_historyState == HistoryState::Open && checked && !m_historyChecked) {
-        m_historyChecked = true;
-        std::string error;
-        if (!m_histories->Check(error))
-            HistoryFailed(error);
+    if (m_historyState == HistoryState::Open && checked) {
+        CollectCheck(true);
+        if (m_historyState == HistoryState::Open && !m_historyChecked) {
+            m_historyChecked = true;
+            std::string error;
+            if (!m_histories->Check(error))
+                HistoryFailed(error);
+        }
     }
     return m_historyState == HistoryState::Open ? m_histories.get() : nullptr;
 }
 
-void XmlConfigStore::HistoryFailed(const std::string& reason)
+void XmlConfigStore::HistoryFailed(const std::string& reason, bool damagedFile)
 {
     if (m_historyState == HistoryState::InConfig)
         return;
-    const bool damaged = m_histories && m_histories->LastFailureWasDamage();
+    const bool damaged = damagedFile || (m_histories && m_histories->LastFailureWasDamage());
     m_histories.reset();
     m_historyState = HistoryState::InConfig;
     m_historyProblem.reason = reason;
@@ -494,11 +499,41 @@ bool XmlConfigStore::ImportUser(User& user)
 
 void XmlConfigStore::OpenHistory()
 {
-    Histories();
+    if (!Histories(false) || m_historyChecked || m_checking.valid())
+        return;
+    // The check reads every page (tens of milliseconds for years of practice): on a connection
+    // of its own, beside the one the program goes on using.
+    m_checking = std::async(std::launch::async, [path = m_historyPath] {
+        CheckOutcome outcome;
+        auto checker = HistoryStore::Open(path, outcome.error);
+        if (!checker)
+            return outcome;
+        outcome.ok = checker->Check(outcome.error);
+        outcome.damaged = !outcome.ok && checker->LastFailureWasDamage();
+        return outcome;
+    });
+}
+
+void XmlConfigStore::CollectCheck(bool wait)
+{
+    if (!m_checking.valid()
+        || (!wait && m_checking.wait_for(std::chrono::seconds(0)) != std::future_status::ready))
+        return;
+    const CheckOutcome outcome = m_checking.get();
+    m_historyChecked = true;
+    if (!outcome.ok)
+        HistoryFailed(outcome.error, outcome.damaged);
+}
+
+bool XmlConfigStore::HistoryBeingChecked()
+{
+    CollectCheck(false);
+    return m_checking.valid();
 }
 
 HistoryProblem XmlConfigStore::TakeHistoryProblem()
 {
+    CollectCheck(false);
     return std::exchange(m_historyProblem, HistoryProblem{});
 }
 

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <functional>
+#include <future>
 #include <string>
 #include <vector>
 
@@ -53,6 +54,7 @@ public:
     std::vector<LearnerEvent> History(const User& learner) override;
     bool ImportUser(User& user) override;
     void OpenHistory() override;
+    bool HistoryBeingChecked() override;
     HistoryProblem TakeHistoryProblem() override;
     LearnerMemories Memories(const User& learner) override;
 
@@ -76,8 +78,12 @@ private:
     /// The database when it is open and kept; opened on first call, and checked whole first
     /// unless `checked` is false.
     HistoryStore* Histories(bool checked = true);
-    /// The database failed: from now on the history stays in config.xml; tells why once.
-    void HistoryFailed(const std::string& reason);
+    /// The database failed: from now on the history stays in config.xml; tells why once. A
+    /// `damaged` file (or one its connection found damaged) is put aside.
+    void HistoryFailed(const std::string& reason, bool damaged = false);
+    /// Takes the outcome of the full check running on its own thread, when it is over (or at
+    /// once, waiting for it, when `wait`).
+    void CollectCheck(bool wait);
 
     pugi::xml_document m_document;
     std::vector<std::string> m_userNames;
@@ -92,6 +98,13 @@ private:
     enum class HistoryState { NotOpened, Open, InConfig } m_historyState = HistoryState::NotOpened;
     std::unique_ptr<HistoryStore> m_histories;
     bool m_historyChecked = false;
+    /// The full check, on a connection and a thread of its own.
+    struct CheckOutcome {
+        bool ok = false;
+        bool damaged = false;
+        std::string error;
+    };
+    std::future<CheckOutcome> m_checking;
     /// The memories last read for a learner, kept for when the database is given up.
     std::pair<std::string, LearnerMemories> m_lastRead;
     HistoryProblem m_historyProblem;

@@ -164,6 +164,16 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
                 return;
             m_store.OpenHistory();
             TellHistoryProblem();
+            // Its full check goes on in the background: what it finds is told when it is over.
+            auto* watch = new QTimer(this);
+            connect(watch, &QTimer::timeout, this, [this, watch] {
+                if (m_store.HistoryBeingChecked())
+                    return;
+                watch->stop();
+                watch->deleteLater();
+                TellHistoryProblem();
+            });
+            watch->start(50);
         });
     }
     return QMainWindow::eventFilter(watched, event);

@@ -13,6 +13,9 @@
 
 #include <sqlite3.h>
 
+#include <chrono>
+#include <thread>
+
 namespace fs = std::filesystem;
 using namespace StoreFiles;
 
@@ -296,5 +299,47 @@ TEST_F(StoredHistoryTest, ADatabaseDamagedAfterOpeningIsPutAsideAtTheWriteThatFi
     EXPECT_FALSE(problem.reason.empty());
     EXPECT_FALSE(problem.keptAs.empty()) << problem.reason;
     EXPECT_TRUE(fs::exists(problem.keptAs));
+    EXPECT_EQ(anna->History().size(), 1u);
+}
+
+TEST_F(StoredHistoryTest, TheFullCheckRunsBesideTheProgramAndTellsWhatItFinds)
+{
+    {
+        auto store = Open();
+        ASSERT_TRUE(store->AddUser("Anna"));
+        std::vector<LearnerEvent> many;
+        for (std::uint16_t i = 0; i < 3000; ++i)
+            many.push_back(Event("lesson", i));
+        store->Record(*store->LoadUser("Anna"), many);
+    }
+    // A healthy file: the check ends with nothing to tell, and the store goes on.
+    {
+        auto store = Open();
+        store->OpenHistory();
+        while (store->HistoryBeingChecked())
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        EXPECT_TRUE(store->TakeHistoryProblem().reason.empty());
+        auto anna = store->LoadUser("Anna");
+        store->Record(*anna, {Event("lesson", 1)});
+        EXPECT_TRUE(anna->History().empty());
+    }
+    // Pages damaged past the first ones: opening works, the check finds it and the file goes aside.
+    const auto size = fs::file_size(Histories());
+    {
+        std::fstream file(Histories(), std::ios::in | std::ios::out | std::ios::binary);
+        file.seekp(3 * 4096);
+        file << std::string(size - 3 * 4096, '\x5A');
+    }
+    auto store = Open();
+    store->OpenHistory();
+    while (store->HistoryBeingChecked())
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    const HistoryProblem problem = store->TakeHistoryProblem();
+    EXPECT_FALSE(problem.reason.empty());
+    ASSERT_FALSE(problem.keptAs.empty()) << problem.reason;
+    EXPECT_TRUE(fs::exists(problem.keptAs));
+    // From now on the history is kept with the learner.
+    auto anna = store->LoadUser("Anna");
+    store->Record(*anna, {Event("lesson", 2)});
     EXPECT_EQ(anna->History().size(), 1u);
 }

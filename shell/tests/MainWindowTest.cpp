@@ -315,6 +315,32 @@ private slots:
         QCOMPARE(saved->History().size(), 5u);
     }
 
+    void damageFoundByTheCheckAfterTheFirstPaintIsTold()
+    {
+        QTemporaryDir folder;
+        const std::string history = folder.filePath(QStringLiteral("history.db")).toStdString();
+        {
+            std::string error;
+            auto histories = HistoryStore::Open(history, error);
+            std::vector<LearnerEvent> many;
+            for (std::uint16_t i = 0; i < 3000; ++i)
+                many.push_back({FixedClock(), LearnerEvent::Lesson, 0, i, -1});
+            QVERIFY(histories->Record("Anna", many, error));
+        }
+        {
+            std::fstream file(history, std::ios::in | std::ios::out | std::ios::binary);
+            file.seekp(3 * 4096);
+            file << std::string(8 * 4096, '\x5A');
+        }
+        WindowFixture f(LearnerWithFiveToTest("Anna"), NoProgressModule, HistoryPlace{true, history});
+        QVERIFY(f.Start());
+        QVERIFY(QTest::qWaitForWindowExposed(&f.Window()));
+        QTRY_COMPARE(f.Prompt().messages.size(), 1);
+        QVERIFY(f.Prompt().messages[0].startsWith(QStringLiteral("Learning history: The learning history cannot be kept: ")));
+        QVERIFY(f.Prompt().messages[0].contains(QStringLiteral("The damaged file is kept as \"") + QString::fromStdString(history) + QStringLiteral(".damaged-")));
+        QVERIFY(!QFile::exists(QString::fromStdString(history))); // put aside, not written over
+    }
+
     void closingDuringATestAppliesTheAnswersSoFar()
     {
         const Codes grade1 = StandardDatabase().LoadCategory(0)->Characters();
