@@ -3,6 +3,7 @@
 // from history.db first (as the program opens the window now).
 
 #include "FileCharacterDatabase.h"
+#include "HistoryStore.h"
 #include "ProgressWindow.h"
 #include "Prompt.h"
 #include "TenYears.h"
@@ -92,5 +93,28 @@ void BM_ProgressWindowFirstPaintWithReviews(benchmark::State& state)
     }
 }
 BENCHMARK(BM_ProgressWindowFirstPaintWithReviews)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+namespace {
+
+/// The full check of the ten-year learner's history.db alone (once a session, after the first
+/// paint, on a thread of its own).
+void BM_CheckTenYearHistory(benchmark::State& state)
+{
+    Fixture& f = Shared();
+    for (auto _ : state) {
+        std::string error;
+        auto histories = HistoryStore::Open((f.dir / "history.db").string(), error);
+        if (!histories || !histories->Check(error))
+            state.SkipWithError(error.c_str());
+    }
+    // What the check reads: the file and its journal (the fixture's store keeps it open).
+    std::error_code none;
+    const auto wal = fs::file_size(f.dir / "history.db-wal", none);
+    state.counters["history_bytes"]
+        = static_cast<double>(fs::file_size(f.dir / "history.db") + (none ? 0 : wal));
+}
+BENCHMARK(BM_CheckTenYearHistory)->Unit(benchmark::kMillisecond);
 
 } // namespace

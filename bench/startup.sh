@@ -29,6 +29,9 @@ measure() {
 
 median() { sort -n | awk '{ v[NR] = $1 } END { if (NR % 2) print v[(NR + 1) / 2]; else print (v[NR / 2] + v[NR / 2 + 1]) / 2 }'; }
 
+# The median of a column (1: time, 2: peak RSS) of a file of runs.
+column_median() { cut -d' ' -f"$2" "$1" | median; }
+
 # A data folder for the program: settings and runtime folders of its own, and DATABASE linked.
 prepare() {
     local data=$1 database=$2
@@ -60,10 +63,10 @@ compare() {
         (cd "$data" && measure "$floor") >> "$work/floor.txt"
     done
     local pt ft pr fr
-    pt=$(cut -d' ' -f1 "$work/program.txt" | median)
-    ft=$(cut -d' ' -f1 "$work/floor.txt" | median)
-    pr=$(cut -d' ' -f2 "$work/program.txt" | median)
-    fr=$(cut -d' ' -f2 "$work/floor.txt" | median)
+    pt=$(column_median "$work/program.txt" 1)
+    ft=$(column_median "$work/floor.txt" 1)
+    pr=$(column_median "$work/program.txt" 2)
+    fr=$(column_median "$work/floor.txt" 2)
     awk -v l="$label" -v pt="$pt" -v ft="$ft" -v pr="$pr" -v fr="$fr" 'BEGIN {
         printf "%-9s program %7.1f ms  floor %7.1f ms  ratio %.2f   peak RSS program %5.1f MB  floor %5.1f MB\n",
             l, pt / 1000, ft / 1000, pt / ft, pr / 1024, fr / 1024 }'
@@ -89,10 +92,10 @@ compare_learners() {
         run_in "$years" >> "$work/years.txt"
     done
     local nt yt nr yr
-    nt=$(cut -d' ' -f1 "$work/new.txt" | median)
-    yt=$(cut -d' ' -f1 "$work/years.txt" | median)
-    nr=$(cut -d' ' -f2 "$work/new.txt" | median)
-    yr=$(cut -d' ' -f2 "$work/years.txt" | median)
+    nt=$(column_median "$work/new.txt" 1)
+    yt=$(column_median "$work/years.txt" 1)
+    nr=$(column_median "$work/new.txt" 2)
+    yr=$(column_median "$work/years.txt" 2)
     awk -v b="$before" -v a="$(stat -c %s "$years/config.xml")" -v h="$(stat -c %s "$years/history.db")" \
         -v f="${first% *}" -v fr="${first#* }" 'BEGIN {
         printf "first start of the ten-year learner (history brought over): %.1f ms, peak RSS %.1f MB; config.xml %.2f MB -> %.3f MB, history.db %.2f MB\n",

@@ -315,9 +315,11 @@ void MainWindow::OnPageEvent(Page* page, quint16 code, quint16 argument)
             ShowPage(m_test);
             break;
         case CategoryPage::Back:
-            m_home->RefreshSelectedCategory();
+            // With the reviews every category's due count may have moved, not only this one's.
             if (m_preferences.reviewWhenDue)
                 m_home->SetReviews(Reviews());
+            else
+                m_home->RefreshSelectedCategory();
             ShowPage(m_home);
             TellHistoryProblem();
             break;

@@ -163,17 +163,37 @@ TEST(ReviewSchedule, TheKeptMemoriesFollowTheEventsAsAFoldOfThemWould)
     std::filesystem::remove_all(dir);
 }
 
-TEST(MemoryCache, TheMemoriesKeptAtCloseServeOnlyWhileTheHistoryIsUntouched)
+namespace {
+
+/// A folder with a small character database, a config.xml of Anna (current) and Ben, and room
+/// for history.db.
+class KeptMemories : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        dir = StoreFiles::MakeTemporaryFolder("zavoren-memory-cache");
+        config = (dir / "config.xml").string();
+        history = (dir / "history.db").string();
+        StoreFiles::WriteSmallDatabase(dir / "database", 1, 3);
+        database = std::make_unique<FileCharacterDatabase>((dir / "database").string());
+        StoreFiles::WriteText(
+            config, "<Zavoren><Users currentUser=\"Anna\"><User name=\"Anna\"/><User name=\"Ben\"/></Users></Zavoren>");
+    }
+    void TearDown() override { std::filesystem::remove_all(dir); }
+
+    std::filesystem::path dir;
+    std::unique_ptr<FileCharacterDatabase> database;
+    std::string config;
+    std::string history;
+};
+
+} // namespace
+
+TEST_F(KeptMemories, TheMemoriesKeptAtCloseServeOnlyWhileTheHistoryIsUntouched)
 {
-    const auto dir = StoreFiles::MakeTemporaryFolder("zavoren-memory-cache");
-    StoreFiles::WriteSmallDatabase(dir / "database", 1, 3);
-    FileCharacterDatabase database((dir / "database").string());
-    const std::string config = (dir / "config.xml").string();
-    const std::string history = (dir / "history.db").string();
-    StoreFiles::WriteText(config, "<Zavoren><Users currentUser=\"Anna\"><User name=\"Anna\"/><User name=\"Ben\"/></Users></Zavoren>");
     const std::vector<LearnerEvent> events = {At(0, LearnerEvent::Passed, 1, 0), At(2, LearnerEvent::Passed, 2, 1)};
     {
-        XmlConfigStore store(config, database, history);
+        XmlConfigStore store(config, *database, history);
         store.Record(*store.LoadUser("Anna"), events);
     } // closed: the cache is written beside the history
     const std::string cache = MemoryCache::PathFor(history);
@@ -195,7 +215,7 @@ TEST(MemoryCache, TheMemoriesKeptAtCloseServeOnlyWhileTheHistoryIsUntouched)
     other.memories[0].memory.stability = 123.0;
     ASSERT_TRUE(MemoryCache::Write(cache, stamp, "Anna", other));
     {
-        XmlConfigStore store(config, database, history);
+        XmlConfigStore store(config, *database, history);
         auto anna = store.LoadUser("Anna");
         EXPECT_DOUBLE_EQ(store.Memories(*anna).memories[0].memory.stability, 123.0);
         // Once the history has moved on, the database's own.
@@ -217,18 +237,11 @@ TEST(MemoryCache, TheMemoriesKeptAtCloseServeOnlyWhileTheHistoryIsUntouched)
     }
     StoreFiles::WriteText(cache, bytes.substr(0, bytes.size() - 9));
     EXPECT_FALSE(MemoryCache::Read(cache, MemoryCache::StampOf(history), "Anna"));
-    std::filesystem::remove_all(dir);
 }
 
-TEST(MemoryCache, ADatabaseGivenUpDuringTheSessionKeepsWhatItHeld)
+TEST_F(KeptMemories, ADatabaseGivenUpDuringTheSessionKeepsWhatItHeld)
 {
-    const auto dir = StoreFiles::MakeTemporaryFolder("zavoren-memories-given-up");
-    StoreFiles::WriteSmallDatabase(dir / "database", 1, 3);
-    FileCharacterDatabase database((dir / "database").string());
-    const std::string config = (dir / "config.xml").string();
-    const std::string history = (dir / "history.db").string();
-    StoreFiles::WriteText(config, "<Zavoren><Users currentUser=\"Anna\"><User name=\"Anna\"/></Users></Zavoren>");
-    XmlConfigStore store(config, database, history);
+    XmlConfigStore store(config, *database, history);
     auto anna = store.LoadUser("Anna");
     std::vector<LearnerEvent> all = {At(0, LearnerEvent::Passed, 1, 0), At(1, LearnerEvent::Passed, 2, 0)};
     store.Record(*anna, all);
@@ -244,5 +257,4 @@ TEST(MemoryCache, ADatabaseGivenUpDuringTheSessionKeepsWhatItHeld)
     sqlite3_close(other);
     // The memories are still the whole history's.
     EXPECT_EQ(store.Memories(*anna).memories, MemoryLedger::Fold(all).memories);
-    std::filesystem::remove_all(dir);
 }
