@@ -18,6 +18,10 @@ inline constexpr const char* NoElement = QT_TRANSLATE_NOOP("ZavorenCommon", "Ele
 inline constexpr const char* LoadElement = QT_TRANSLATE_NOOP("ZavorenCommon", "Unable to load element");
 inline constexpr const char* NoCategory = QT_TRANSLATE_NOOP("ZavorenCommon", "No such category");
 inline constexpr const char* LoadCategory = QT_TRANSLATE_NOOP("ZavorenCommon", "Unable to load category");
+inline constexpr const char* OpenLexicon = QT_TRANSLATE_NOOP("ZavorenCommon", "Unable to open lexicon");
+inline constexpr const char* DamagedLexicon = QT_TRANSLATE_NOOP("ZavorenCommon", "The lexicon file is damaged");
+inline constexpr const char* ForeignLexicon
+    = QT_TRANSLATE_NOOP("ZavorenCommon", "The lexicon was made for another database");
 inline constexpr const char* NoConfig
     = QT_TRANSLATE_NOOP("ZavorenCommon", "Config file does not exist. Try to reinstall Zavoren.");
 // "attirbutes" is deliberate: the message is the program's own text, misspelling included.

@@ -1,5 +1,7 @@
 #include "GlyphRendering.h"
 
+#include <algorithm>
+
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
@@ -100,6 +102,44 @@ void DrawFormSmooth(QImage& image, const QRect& target, const Form& form, QRgb i
     }
 
     FilterEnlargedGlyph(big, image, target, ink);
+}
+
+void DrawStrokesFitted(QImage& image, const Form& form, std::uint64_t strokes, int margin, QRgb ink, qreal penWidth)
+{
+    Form part(form.Width(), form.Height());
+    float left = form.Width(), top = form.Height(), right = 0, bottom = 0;
+    auto take = [&](Point p) {
+        left = std::min(left, p.x);
+        right = std::max(right, p.x);
+        top = std::min(top, p.y);
+        bottom = std::max(bottom, p.y);
+    };
+    for (std::uint16_t i = 0; i < form.StrokeCount() && i < 64; ++i) {
+        if (!(strokes >> i & 1))
+            continue;
+        const Stroke& stroke = form.GetStroke(i);
+        part.AppendStroke(stroke);
+        take(stroke.Start());
+        for (const Segment& segment : stroke.Segments()) {
+            take(segment.P1());
+            if (segment.Type() == SegmentType::Bezier) {
+                take(segment.P2());
+                take(segment.P3());
+            }
+        }
+    }
+    const int room = std::min(image.width(), image.height()) - 2 * margin;
+    if (part.StrokeCount() == 0 || room <= 0 || form.Width() == 0 || form.Height() == 0)
+        return;
+    // One scale for both axes, so that a tall part (亻) stays tall; a part that is a single dot
+    // is not blown up past the size of a whole character.
+    const float extent = std::max({right - left, bottom - top, form.Width() / 4.0f});
+    const float scale = room / extent;
+    const float centreX = (left + right) / 2;
+    const float centreY = (top + bottom) / 2;
+    const QRect target(qRound(image.width() / 2.0f - centreX * scale), qRound(image.height() / 2.0f - centreY * scale),
+        qRound(form.Width() * scale), qRound(form.Height() * scale));
+    DrawFormSmooth(image, target, part, ink, penWidth);
 }
 
 void FilterEnlargedGlyph(const QImage& big, QImage& image, const QRect& target, QRgb ink)

@@ -24,6 +24,11 @@ void DrawStroke(QPainter& painter, const QRect& target, const Form& form, std::u
 /// blended onto what the image already shows. Pixels outside the image are skipped.
 void DrawFormSmooth(QImage& image, const QRect& target, const Form& form, QRgb ink, qreal penWidth);
 
+/// Draws, smoothly as DrawFormSmooth does, only the strokes of `form` whose bits are set in
+/// `strokes` (bit k: stroke k), scaled together to fill `image` less `margin` pixels on each
+/// side and centred, keeping their proportions: a part of a character shown on its own.
+void DrawStrokesFitted(QImage& image, const Form& form, std::uint64_t strokes, int margin, QRgb ink, qreal penWidth);
+
 /// The filtering step of DrawFormSmooth: `enlarged` (4W x 4H, a pixel is inked when its alpha is
 /// not 0) is filtered down block by block onto `target` of the 32-bit `image`: full coverage
 /// sets the ink colour, partial coverage blends towards it, none leaves the pixel alone.

@@ -3,6 +3,7 @@
 #include "Category.h"
 #include "CategoryProgress.h"
 #include "Element.h"
+#include "LexiconAccess.h"
 #include "Page.h"
 #include "ProgressRecorder.h"
 #include "Random15.h"
@@ -43,6 +44,8 @@ public:
     bool SetCategory(std::uint16_t categoryId, std::optional<ProgressRecorder> recorder);
     /// When the learned characters are due for review, told in Kanji Info (none: nothing told).
     void SetReviews(std::optional<ReviewSchedule> reviews) { m_reviews = std::move(reviews); }
+    /// Kanji Info shows the words and parts of `context` (no lexicon: none).
+    void SetWords(WordContext context) { m_words = std::move(context); }
     /// Up to `max` characters for a lesson from the Lesson button.
     std::vector<std::uint16_t> PickLessonCharacters(std::size_t max) const;
     /// Refreshes grid, strip and buttons from the learner's record.
@@ -80,6 +83,7 @@ private:
     std::unique_ptr<Category> m_category;
     std::optional<ProgressRecorder> m_recorder;
     std::optional<ReviewSchedule> m_reviews;
+    WordContext m_words;
     /// The learner's record of the category, or null without a learner.
     CategoryProgress* Progress() const { return m_recorder ? &m_recorder->Progress() : nullptr; }
     QMenu* m_learnedMenu = nullptr;

@@ -2,6 +2,7 @@
 
 #include "Character.h"
 #include "Element.h"
+#include "LexiconAccess.h"
 
 #include <QDialog>
 
@@ -15,8 +16,9 @@ namespace Ui {
 class KanjiInfoDialog;
 }
 
-/// Shows one character: its glyph (click to animate), ON reading, KUN reading and meaning.
-/// Ends with 8 (Close) or 2 (Esc).
+/// Shows one character: its glyph (click to animate), ON reading, KUN reading and meaning;
+/// given a lexicon, also up to five words that use it and the parts it is built from (a part
+/// that is itself a character opens its own Kanji Info). Ends with 8 (Close) or 2 (Esc).
 class KanjiInfoDialog : public QDialog {
     Q_OBJECT
 public:
@@ -30,7 +32,12 @@ public:
     /// Says when the character is next due for review (a day number, EventDay); not called, the
     /// dialog says nothing of reviews.
     void SetNextReview(int dueDay, int today);
+    /// Shows the character's words and parts from `context` (set before SetCode); not called,
+    /// or without a lexicon, the dialog shows neither.
+    void SetWords(WordContext context);
 
+    /// Words shown at most.
+    static constexpr std::size_t MaxWords = 5;
 
     void reject() override;
 
@@ -38,12 +45,16 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    void ShowWordsAndParts(std::uint16_t code);
+    void OpenPart(std::uint16_t code);
     DisplayCanvas* Display() const;
     QLabel* OnReadingLabel() const;
     QLabel* KunReadingLabel() const;
     QLabel* MeaningLabel() const;
     QPushButton* CloseButton() const;
     QLabel* m_nextReview = nullptr;
+    QWidget* m_wordsAndParts = nullptr;
+    WordContext m_words;
     std::unique_ptr<Ui::KanjiInfoDialog> m_ui;
     CharacterDatabase& m_database;
     Prompt& m_prompt;

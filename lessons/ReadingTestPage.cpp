@@ -3,6 +3,8 @@
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
 #include "DisplayCanvas.h"
+#include "FeedbackLine.h"
+#include "LexiconAccess.h"
 #include "FittedText.h"
 #include "GlyphLoading.h"
 #include "Page.h"
@@ -41,6 +43,48 @@ ReadingTestPage::ReadingTestPage(CharacterDatabase& database, Prompt& prompt, Se
 
 ReadingTestPage::~ReadingTestPage() = default;
 
+void ReadingTestPage::SetWordAid(LexiconAccess* lexicon)
+{
+    m_lexicon = lexicon;
+    if (lexicon && !m_onWord) {
+        // One line under each set of choices, its room kept while it is empty so that nothing
+        // moves when a word appears.
+        m_onWord = new FeedbackLine(m_ui->onGroup);
+        m_onWord->setObjectName(QStringLiteral("onWord"));
+        m_onWord->setAccessibleName(tr("A word with this ON reading"));
+        m_ui->onChoices->addWidget(m_onWord);
+        m_kunWord = new FeedbackLine(m_ui->kunGroup);
+        m_kunWord->setObjectName(QStringLiteral("kunWord"));
+        m_kunWord->setAccessibleName(tr("A word with this KUN reading"));
+        m_ui->kunChoices->addWidget(m_kunWord);
+    }
+    for (FeedbackLine* line : {m_onWord, m_kunWord}) {
+        if (line) {
+            line->Clear();
+            line->setVisible(lexicon != nullptr);
+        }
+    }
+}
+
+void ReadingTestPage::ShowWord(bool on)
+{
+    FeedbackLine* line = on ? m_onWord : m_kunWord;
+    if (!m_lexicon || !line || !m_character)
+        return;
+    const Lexicon* lexicon = m_lexicon->Get();
+    if (const char* problem = m_lexicon->TakeProblem())
+        m_prompt.Ask(this, QMessageBox::Warning, tr("Words and parts"),
+            tr("Words and parts cannot be shown: %1").arg(StoreText(problem)));
+    if (!lexicon)
+        return;
+    const std::optional<LexiconWord> word
+        = lexicon->ReadingWord(m_character->Id(), on ? Lexicon::Reading::On : Lexicon::Reading::Kun);
+    if (!word)
+        return;
+    auto text = [](std::string_view t) { return QString::fromUtf8(t.data(), static_cast<qsizetype>(t.size())); };
+    line->Say(QStringLiteral("%1  %2 \u2014 %3").arg(text(word->writing), text(word->reading), text(word->meaning)));
+}
+
 QLabel* ReadingTestPage::OnReadingLabel() const
 {
     return m_ui->onReading;
@@ -61,6 +105,9 @@ DisplayCanvas* ReadingTestPage::Display() const
 void ReadingTestPage::SetCharacter(const Character* character)
 {
     m_character = character;
+    for (FeedbackLine* line : {m_onWord, m_kunWord})
+        if (line)
+            line->Clear();
     m_glyph.reset();
     Display()->StopAnimation();
     if (character) {
@@ -122,6 +169,7 @@ void ReadingTestPage::Pick(bool on, int index)
     for (int i = 0; i < 5; ++i)
         if (i != index)
             buttons[static_cast<std::size_t>(i)]->setEnabled(false);
+    ShowWord(on);
     if (m_judge.IsAnswered())
         emit pageEvent(m_judge.IsPerfect() ? AnsweredCleanly : AnsweredWithMistakes, 0);
 }

@@ -10,6 +10,8 @@
 #include <memory>
 
 class CharacterDatabase;
+class FeedbackLine;
+class LexiconAccess;
 class Prompt;
 class DisplayCanvas;
 class QLabel;
@@ -35,6 +37,9 @@ public:
     const ReadingChoices& Choices() const { return m_choices; }
     QRadioButton* OnButton(int i) const { return m_onButtons.at(static_cast<std::size_t>(i)); }
     QRadioButton* KunButton(int i) const { return m_kunButtons.at(static_cast<std::size_t>(i)); }
+    /// After each reading is answered, shows under its choices a common word that uses the
+    /// character with that reading, until the next question. Null (the default): no words.
+    void SetWordAid(LexiconAccess* lexicon);
 
 private:
     QLabel* OnReadingLabel() const;
@@ -42,6 +47,7 @@ private:
     QLabel* MeaningLabel() const;
     DisplayCanvas* Display() const;
     void Pick(bool on, int index);
+    void ShowWord(bool on);
 
     std::unique_ptr<Ui::ReadingTestPage> m_ui;
     CharacterDatabase& m_database;
@@ -54,4 +60,7 @@ private:
     ReadingChoices m_choices;
     ReadingJudge m_judge;
     Random15 m_random;
+    LexiconAccess* m_lexicon = nullptr;
+    FeedbackLine* m_onWord = nullptr;
+    FeedbackLine* m_kunWord = nullptr;
 };

@@ -14,9 +14,11 @@ class ProgressPlugin : public QObject, public ProgressViewFactory {
 public:
     QWidget* CreateProgressView(CharacterDatabase& database, Prompt& prompt, const User& learner,
         std::vector<LearnerEvent> history, const std::string& now, std::optional<ReviewSchedule> reviews,
-        QWidget* parent) override
+        LexiconAccess* words, QWidget* parent) override
     {
-        return new ProgressWindow(database, prompt, learner, std::move(history), now, std::move(reviews), parent);
+        auto* window = new ProgressWindow(database, prompt, learner, std::move(history), now, std::move(reviews), parent);
+        window->SetWords(words);
+        return window;
     }
 };
 

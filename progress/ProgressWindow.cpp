@@ -399,6 +399,8 @@ void ProgressWindow::OpenKanjiInfo(QListWidgetItem* item)
 void ProgressWindow::ShowKanjiInfo(std::uint16_t categoryId, std::uint16_t id)
 {
     KanjiInfoDialog dialog(m_database, m_prompt, this);
+    if (m_words)
+        dialog.SetWords(WordContext{m_words, LearnedBy(m_learner)});
     if (m_reviews)
         if (const ReviewSchedule::Review* review = m_reviews->Find(categoryId, id))
             dialog.SetNextReview(review->dueDay, m_reviews->Today());

@@ -10,6 +10,7 @@
 #include <memory>
 
 class CharacterDatabase;
+class LexiconAccess;
 class Prompt;
 class QBarSet;
 class QChartView;
@@ -32,6 +33,8 @@ public:
     ProgressWindow(CharacterDatabase& database, Prompt& prompt, const User& learner, std::vector<LearnerEvent> history,
         const std::string& now, std::optional<ReviewSchedule> reviews = std::nullopt, QWidget* parent = nullptr);
     ~ProgressWindow() override;
+    /// Kanji Info shows words and parts from `words` (which must outlive the window); null: none.
+    void SetWords(LexiconAccess* words) { m_words = words; }
 
 
 protected:
@@ -66,6 +69,7 @@ private:
     QTableWidget* m_table = nullptr;
     QListWidget* m_trouble = nullptr;
     std::optional<ReviewSchedule> m_reviews;
+    LexiconAccess* m_words = nullptr;
     QTableWidget* m_reviewTable = nullptr;
     QChartView* m_reviewsView = nullptr;
     bool m_placed = false;

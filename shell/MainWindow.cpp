@@ -10,8 +10,10 @@
 #include "HomePage.h"
 #include "LearnerTransfer.h"
 #include "LessonPage.h"
+#include "LexiconAccess.h"
 #include "PageStack.h"
 #include "PreferencesDialog.h"
+#include "ReadingTestPage.h"
 #include "Prompt.h"
 #include "ScreenPlacement.h"
 #include "StoredPicture.h"
@@ -46,6 +48,10 @@ MainWindow::MainWindow(CharacterDatabase& database, ConfigStore& store, Prompt& 
     m_preferences = m_settings.Coaching();
     m_lesson->SetCoaching(m_preferences);
     m_test->DrawingPage()->SetCoaching(m_preferences);
+    // Words and parts come from the file "lexicon" beside the database, read only when a page
+    // first shows one.
+    m_lexicon = std::make_unique<LexiconAccess>("lexicon", database);
+    ApplyWordAids();
     for (Page* page : std::initializer_list<Page*>{m_home, m_lesson, m_test, m_category}) {
         m_pages->Add(page);
         connect(
@@ -56,6 +62,29 @@ MainWindow::MainWindow(CharacterDatabase& database, ConfigStore& store, Prompt& 
 }
 
 MainWindow::~MainWindow() = default;
+
+void MainWindow::SetLexicon(std::unique_ptr<LexiconAccess> lexicon)
+{
+    m_lexicon = std::move(lexicon);
+    ApplyWordAids();
+}
+
+LexiconAccess* MainWindow::KanjiInfoWords() const
+{
+    return m_preferences.wordsAndParts ? m_lexicon.get() : nullptr;
+}
+
+void MainWindow::ApplyWordAids()
+{
+    WordContext context;
+    if (m_preferences.wordsAndParts) {
+        context.lexicon = m_lexicon.get();
+        // Read when Kanji Info opens, so it follows the learner open then.
+        context.learned = [this](std::uint16_t id) { return m_learner && LearnedBy(*m_learner)(id); };
+    }
+    m_category->SetWords(std::move(context));
+    m_test->ReadingPage()->SetWordAid(m_preferences.wordAfterAnswer ? m_lexicon.get() : nullptr);
+}
 
 void MainWindow::BuildMenu()
 {
@@ -76,7 +105,7 @@ void MainWindow::BuildMenu()
         std::vector<LearnerEvent> history = m_store.History(*m_learner);
         auto reviews = Reviews();
         TellHistoryProblem();
-        m_progress.Open(m_learner.get(), std::move(history), std::move(reviews), this);
+        m_progress.Open(m_learner.get(), std::move(history), std::move(reviews), KanjiInfoWords(), this);
     });
     m_learnerActions << add(tools, tr("Export learner…"), "exportAction", [this] {
         LearnerTransfer(m_database, m_store, m_prompt, this).ExportAsked(m_learner.get());
@@ -355,6 +384,7 @@ void MainWindow::ChangePreferences()
     m_settings.StoreCoaching(m_preferences);
     m_lesson->SetCoaching(m_preferences);
     m_test->DrawingPage()->SetCoaching(m_preferences);
+    ApplyWordAids();
     // The feedback line shows or hides under the canvases: the pages take their new sizes.
     for (Page* page : {static_cast<Page*>(m_lesson), static_cast<Page*>(m_test)})
         m_pages->Refit(page);

@@ -22,6 +22,7 @@ class HomePage;
 class LessonPage;
 class Page;
 class PageStack;
+class LexiconAccess;
 class Prompt;
 class TestContainer;
 
@@ -37,6 +38,9 @@ public:
     MainWindow(CharacterDatabase& database, ConfigStore& store, Prompt& prompt, SeedSource seeds, UrlOpener open,
         EventClock clock, ProgressViewSource progressViews, QWidget* parent = nullptr);
     ~MainWindow() override;
+
+    /// Takes words and parts from `lexicon` instead of the file "lexicon" beside the database.
+    void SetLexicon(std::unique_ptr<LexiconAccess> lexicon);
 
     /// Chooses the learner to open: the recorded current one, else the only one, else the User
     /// Manager's choice. False when the User Manager was cancelled (the program ends).
@@ -79,6 +83,10 @@ private:
 
     /// Tools > Preferences…: the writing aids, switched on the lesson and the drawing test.
     void ChangePreferences();
+    /// Gives the lexicon to the pages whose aids show words (and takes it from the others).
+    void ApplyWordAids();
+    /// The lexicon for Kanji Info, or null with its aid off.
+    LexiconAccess* KanjiInfoWords() const;
 
     void ImportLearner();
 
@@ -101,6 +109,7 @@ private:
     std::string m_managerChoice;
     QList<QAction*> m_learnerActions; ///< what needs a learner: enabled only while one is open
     CoachingPreferences m_preferences;
+    std::unique_ptr<LexiconAccess> m_lexicon; ///< opened when a page first needs it
     bool m_closing = false;
     bool m_historyOpened = false; ///< asked for once the home page was first painted
 };

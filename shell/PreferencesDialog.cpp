@@ -29,7 +29,14 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
     m_reviews = new QCheckBox(tr("Review characters when they are due"), this);
     m_reviews->setToolTip(tr("Each learned character comes back for a test when you are about to forget it"));
     m_reviews->setChecked(preferences.reviewWhenDue);
-    for (QCheckBox* box : {m_explain, m_grid, m_hint, m_ownFrame, m_onScreen, m_reviews}) {
+    m_words = new QCheckBox(tr("Show words and parts in Kanji Info"), this);
+    m_words->setToolTip(tr("Common words that use the character, and the parts it is built from"));
+    m_words->setChecked(preferences.wordsAndParts);
+    m_wordAfterAnswer = new QCheckBox(tr("Show a word after each answer"), this);
+    m_wordAfterAnswer->setToolTip(tr("In the reading test, a common word that uses the character with the "
+                                     "reading you have just chosen"));
+    m_wordAfterAnswer->setChecked(preferences.wordAfterAnswer);
+    for (QCheckBox* box : {m_explain, m_grid, m_hint, m_ownFrame, m_onScreen, m_words, m_wordAfterAnswer, m_reviews}) {
         box->setAccessibleName(box->text());
         layout->addWidget(box);
     }
@@ -79,5 +86,7 @@ CoachingPreferences PreferencesDialog::Chosen() const
         m_onScreen->isChecked(), m_ownFrame->isChecked(), m_reviews->isChecked()};
     chosen.retention = m_retention->value();
     chosen.maximumInterval = m_interval->value();
+    chosen.wordsAndParts = m_words->isChecked();
+    chosen.wordAfterAnswer = m_wordAfterAnswer->isChecked();
     return chosen;
 }

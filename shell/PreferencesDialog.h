@@ -24,6 +24,8 @@ private:
     QCheckBox* m_onScreen = nullptr;
     QCheckBox* m_ownFrame = nullptr;
     QCheckBox* m_reviews = nullptr;
+    QCheckBox* m_words = nullptr;
+    QCheckBox* m_wordAfterAnswer = nullptr;
     QDoubleSpinBox* m_retention = nullptr;
     QSpinBox* m_interval = nullptr;
 };

@@ -23,6 +23,8 @@ const char* const OwnFrameKey = "Preferences/JudgePlaceByOwnCharacter";
 const char* const ReviewKey = "Preferences/ReviewWhenDue";
 const char* const RetentionKey = "Preferences/DesiredRetention";
 const char* const IntervalKey = "Preferences/MaximumInterval";
+const char* const WordsKey = "Preferences/WordsAndPartsInKanjiInfo";
+const char* const WordAfterAnswerKey = "Preferences/WordAfterEachAnswer";
 
 constexpr int PlacementFields = 4;
 constexpr int PlacementBytes = 4 * PlacementFields;
@@ -78,6 +80,8 @@ CoachingPreferences ProgramSettings::Coaching() const
     p.keepOnScreen = settings.value(QLatin1String(OnScreenKey), p.keepOnScreen).toBool();
     p.ownFrame = settings.value(QLatin1String(OwnFrameKey), p.ownFrame).toBool();
     p.reviewWhenDue = settings.value(QLatin1String(ReviewKey), p.reviewWhenDue).toBool();
+    p.wordsAndParts = settings.value(QLatin1String(WordsKey), p.wordsAndParts).toBool();
+    p.wordAfterAnswer = settings.value(QLatin1String(WordAfterAnswerKey), p.wordAfterAnswer).toBool();
     // A value edited out of range by hand is brought back into it.
     bool ok = false;
     const double retention = settings.value(QLatin1String(RetentionKey), p.retention).toDouble(&ok);
@@ -101,4 +105,6 @@ void ProgramSettings::StoreCoaching(const CoachingPreferences& preferences)
     settings.setValue(QLatin1String(ReviewKey), preferences.reviewWhenDue);
     settings.setValue(QLatin1String(RetentionKey), preferences.retention);
     settings.setValue(QLatin1String(IntervalKey), preferences.maximumInterval);
+    settings.setValue(QLatin1String(WordsKey), preferences.wordsAndParts);
+    settings.setValue(QLatin1String(WordAfterAnswerKey), preferences.wordAfterAnswer);
 }

@@ -15,7 +15,8 @@ void ProgressViewer::Close()
 }
 
 void ProgressViewer::Open(
-    const User* learner, std::vector<LearnerEvent> history, std::optional<ReviewSchedule> reviews, QWidget* parent)
+    const User* learner, std::vector<LearnerEvent> history, std::optional<ReviewSchedule> reviews,
+    LexiconAccess* words, QWidget* parent)
 {
     Close();
     if (!learner)
@@ -25,7 +26,7 @@ void ProgressViewer::Open(
     try {
         if (factory)
             m_window = factory->CreateProgressView(
-                m_database, m_prompt, *learner, std::move(history), m_clock ? m_clock() : LocalTimeNow(), std::move(reviews), parent);
+                m_database, m_prompt, *learner, std::move(history), m_clock ? m_clock() : LocalTimeNow(), std::move(reviews), words, parent);
     } catch (const std::exception& e) {
         factory = nullptr;
         error = QString::fromUtf8(e.what());

@@ -9,6 +9,7 @@
 #include <vector>
 
 class CharacterDatabase;
+class LexiconAccess;
 class Prompt;
 class User;
 class QWidget;
@@ -23,9 +24,10 @@ public:
     ProgressViewer(CharacterDatabase& database, Prompt& prompt, EventClock clock, ProgressViewSource source);
 
     /// Opens the window on `learner`, their whole `history` and their `reviews` (none with the
-    /// aid off) over `parent`, closing the one open (no learner: nothing opens).
+    /// aid off) over `parent`, closing the one open (no learner: nothing opens). Its Kanji Info
+    /// shows words and parts from `words` (null: none).
     void Open(const User* learner, std::vector<LearnerEvent> history, std::optional<ReviewSchedule> reviews,
-        QWidget* parent);
+        LexiconAccess* words, QWidget* parent);
     /// Closes the window open, if any.
     void Close();
 

@@ -2,9 +2,12 @@
 
 #include "DatabaseBuilder.h"
 #include "DatabaseInspector.h"
+#include "DatabaseKey.h"
+#include "Edict.h"
 #include "DatabaseLoadException.h"
 #include "FileCharacterDatabase.h"
 #include "InkFile.h"
+#include "Lexicon.h"
 #include "StrokeChecker.h"
 #include "StrokeVerdict.h"
 #include "WritingQuiz.h"
@@ -27,13 +30,18 @@ namespace {
 const char* const Usage
     = "usage:\n"
       "  zavoren-db build --kanjivg DIR --kanjidic FILE --out PATH [--lang en|fr|es|pt] [--set standard|all]\n"
+      "                   [--edict FILE [--kanjivg-parts DIR] [--lexicon PATH]]\n"
+      "      with --edict also writes the lexicon (words and parts), by default \"lexicon\" beside PATH;\n"
+      "      the parts come from the full KanjiVG SVGs in --kanjivg-parts (default: --kanjivg)\n"
       "  zavoren-db dump [--json] PATH\n"
       "  zavoren-db info PATH\n"
       "  zavoren-db score --db PATH --char ID --canvas X,Y,W,H --stroke K --ink FILE\n"
       "      prints the checker's score, then its verdict (\"accepted\" or why it was refused)\n"
       "  zavoren-db write --db PATH --char ID --canvas X,Y,W,H --ink FILE [--own-frame]\n"
       "      judges a JSON array of strokes one after another as a lesson does, one line each;\n"
-      "      with --own-frame each stroke's place is judged in the learner's own character\n";
+      "      with --own-frame each stroke's place is judged in the learner's own character\n"
+      "  zavoren-db words --db PATH --lexicon PATH --char ID\n"
+      "      prints the character's parts (\"parts<TAB>...\"), then its words (writing<TAB>reading<TAB>meaning)\n";
 
 int Fail(const std::string& message)
 {
@@ -64,16 +72,45 @@ bool ParseOptions(const std::vector<std::string>& args, const std::vector<std::s
     return true;
 }
 
+/// Writes the file through a temporary beside it, so that it is whole or as it was; what went
+/// wrong, or nothing.
+std::string WriteWhole(const std::string& path, const std::vector<std::uint8_t>& bytes)
+{
+    const std::string temporary = path + ".tmp";
+    {
+        std::ofstream file(temporary, std::ios::binary | std::ios::trunc);
+        if (!file)
+            return path + ": cannot write";
+        file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+        file.close();
+        if (!file) {
+            std::filesystem::remove(temporary);
+            return path + ": cannot write (disk full?)";
+        }
+    }
+    std::error_code ec;
+    std::filesystem::rename(temporary, path, ec);
+    if (ec) {
+        std::filesystem::remove(temporary);
+        return path + ": cannot write (" + ec.message() + ")";
+    }
+    return {};
+}
+
 int Build(const std::vector<std::string>& args)
 {
     std::map<std::string, std::string> o;
     std::vector<std::string> positional;
     std::string error;
-    if (!ParseOptions(args, {"--kanjivg", "--kanjidic", "--out", "--lang", "--set"}, o, positional, error))
+    const std::vector<std::string> names
+        = {"--kanjivg", "--kanjidic", "--out", "--lang", "--set", "--edict", "--kanjivg-parts", "--lexicon"};
+    if (!ParseOptions(args, names, o, positional, error))
         return Fail(error);
     for (const auto& [name, value] : o)
-        if (name != "--kanjivg" && name != "--kanjidic" && name != "--out" && name != "--lang" && name != "--set")
+        if (std::find(names.begin(), names.end(), name) == names.end())
             return Fail("build: unknown option " + name);
+    if (!o.count("--edict") && (o.count("--kanjivg-parts") || o.count("--lexicon")))
+        return Fail("--kanjivg-parts and --lexicon go with --edict");
     if (!positional.empty())
         return Fail("build: unexpected argument " + positional.front());
     if (!o.count("--kanjivg") || !o.count("--kanjidic") || !o.count("--out"))
@@ -99,24 +136,29 @@ int Build(const std::vector<std::string>& args)
     } catch (const BuildError& e) {
         return Fail(e.what());
     }
-    const std::string out = o["--out"];
-    const std::string temporary = out + ".tmp";
-    {
-        std::ofstream file(temporary, std::ios::binary | std::ios::trunc);
-        if (!file)
-            return Fail(out + ": cannot write");
-        file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-        file.close();
-        if (!file) {
-            std::filesystem::remove(temporary);
-            return Fail(out + ": cannot write (disk full?)");
+    // Read before anything is written, so that a bad dictionary leaves both files as they were.
+    std::vector<std::uint8_t> lexicon;
+    if (o.count("--edict")) {
+        try {
+            const std::vector<EdictEntry> entries = ReadEdict(o["--edict"]);
+            lexicon = BuildLexicon(report.built, report.databaseKey, entries,
+                o.count("--kanjivg-parts") ? o["--kanjivg-parts"] : o["--kanjivg"]);
+        } catch (const EdictError& e) {
+            return Fail(e.what());
+        } catch (const BuildError& e) {
+            return Fail(e.what());
         }
     }
-    std::error_code ec;
-    std::filesystem::rename(temporary, out, ec);
-    if (ec) {
-        std::filesystem::remove(temporary);
-        return Fail(out + ": cannot write (" + ec.message() + ")");
+    const std::string out = o["--out"];
+    if (const std::string wrong = WriteWhole(out, bytes); !wrong.empty())
+        return Fail(wrong);
+    std::string lexiconPath;
+    if (o.count("--edict")) {
+        lexiconPath = o.count("--lexicon")
+            ? o["--lexicon"]
+            : (std::filesystem::path(out).parent_path() / "lexicon").string();
+        if (const std::string wrong = WriteWhole(lexiconPath, lexicon); !wrong.empty())
+            return Fail(wrong);
     }
     for (const auto& category : report.categories) {
         std::cout << category.name << ": " << category.characters << " characters";
@@ -132,6 +174,8 @@ int Build(const std::vector<std::string>& args)
         std::cout << ")";
     }
     std::cout << "\nwrote " << out << " (" << bytes.size() << " bytes)\n";
+    if (!lexiconPath.empty())
+        std::cout << "wrote " << lexiconPath << " (" << lexicon.size() << " bytes)\n";
     return 0;
 }
 
@@ -327,6 +371,49 @@ int Write(const std::vector<std::string>& args)
     });
 }
 
+int Words(const std::vector<std::string>& args)
+{
+    std::map<std::string, std::string> o;
+    std::vector<std::string> positional;
+    std::string error;
+    const std::vector<std::string> names = {"--db", "--lexicon", "--char"};
+    if (!ParseOptions(args, names, o, positional, error))
+        return Fail(error);
+    for (const auto& [name, value] : o)
+        if (std::find(names.begin(), names.end(), name) == names.end())
+            return Fail("words: unknown option " + name);
+    if (!positional.empty())
+        return Fail("words: unexpected argument " + positional.front());
+    for (const std::string& name : names)
+        if (!o.count(name))
+            return Fail("words needs " + name + "\n" + Usage);
+    long id = 0;
+    if (!ParseNumber(o["--char"], 0, 0xFFFF, id))
+        return Fail("--char must be a character id from 0 to 65535");
+    try {
+        FileCharacterDatabase database(o["--db"]);
+        database.Preload(nullptr);
+        if (!database.CharacterExists(static_cast<std::uint16_t>(id)))
+            return Fail(o["--db"] + ": no character " + std::to_string(id));
+        try {
+            const Lexicon lexicon(o["--lexicon"]);
+            lexicon.CheckMadeFor(DatabaseKey::Of(database));
+            std::cout << "parts\t";
+            const std::vector<LexiconPart> parts = lexicon.Parts(static_cast<std::uint16_t>(id));
+            for (std::size_t i = 0; i < parts.size(); ++i)
+                std::cout << (i ? " " : "") << Utf8(parts[i].codePoint);
+            std::cout << '\n';
+            for (const LexiconWord& word : lexicon.Words(static_cast<std::uint16_t>(id)))
+                std::cout << word.writing << '\t' << word.reading << '\t' << word.meaning << '\n';
+        } catch (const ZavorenCommon::DatabaseLoadException& e) {
+            return Fail(o["--lexicon"] + ": " + e.what());
+        }
+    } catch (const ZavorenCommon::DatabaseLoadException& e) {
+        return Fail(o["--db"] + ": " + e.what());
+    }
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -347,6 +434,8 @@ int main(int argc, char** argv)
         return Score(args);
     if (command == "write")
         return Write(args);
+    if (command == "words")
+        return Words(args);
     if (command == "--help" || command == "-h" || command == "help") {
         std::cout << Usage;
         return 0;

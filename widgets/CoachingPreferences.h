@@ -22,7 +22,17 @@ struct CoachingPreferences {
     /// The reviews' desired retention (0.80 to 0.97) and longest interval in days (30 to 3650).
     double retention = 0.90;
     int maximumInterval = 365;
+    /// Kanji Info shows common words that use the character and the parts it is built from.
+    bool wordsAndParts = true;
+    /// The reading test shows a word that uses the character with the reading just answered.
+    bool wordAfterAnswer = true;
 
-    static CoachingPreferences AllOff() { return {false, false, false, false, false, false}; }
+    static CoachingPreferences AllOff()
+    {
+        CoachingPreferences off{false, false, false, false, false, false};
+        off.wordsAndParts = false;
+        off.wordAfterAnswer = false;
+        return off;
+    }
     bool operator==(const CoachingPreferences&) const = default;
 };

@@ -301,7 +301,7 @@ private slots:
         QVERIFY2(instance, qPrintable(loader.errorString()));
         auto* factory = qobject_cast<ProgressViewFactory*>(instance);
         QVERIFY(factory);
-        QWidget* view = factory->CreateProgressView(*m_db, m_prompt, m_learner, m_learner.History(), Now, std::nullopt, nullptr);
+        QWidget* view = factory->CreateProgressView(*m_db, m_prompt, m_learner, m_learner.History(), Now, std::nullopt, nullptr, nullptr);
         QVERIFY(view);
         QCOMPARE(QString::fromLatin1(view->metaObject()->className()), QStringLiteral("ProgressWindow"));
         QVERIFY(view->testAttribute(Qt::WA_DeleteOnClose));

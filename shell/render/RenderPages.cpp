@@ -20,6 +20,7 @@
 #include "InputCanvas.h"
 #include "KanjiInfoDialog.h"
 #include "LessonPage.h"
+#include "LexiconAccess.h"
 #include "MessageBoxPrompt.h"
 #include "PreferencesDialog.h"
 #include "ProgressWindow.h"
@@ -35,6 +36,7 @@
 #include <QDir>
 #include <QMouseEvent>
 #include <QPalette>
+#include <QRadioButton>
 #include <QScreen>
 #include <QStyleFactory>
 #include <QTabWidget>
@@ -44,6 +46,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 
 namespace {
@@ -192,6 +195,32 @@ int main(int argc, char** argv)
     KanjiInfoDialog info(db, prompt);
     info.SetCode(longestMeaning);
     ok &= Save(info, out, QStringLiteral("kanji-info"));
+
+    // Words and parts, from the lexicon beside the database: 学 for a learner who knows the
+    // first twelve characters of Grade 1, and the reading test once both readings are answered.
+    const std::string lexiconPath = (std::filesystem::path(argv[1]).parent_path() / "lexicon").string();
+    LexiconAccess words(lexiconPath, db);
+    if (const Lexicon* lexicon = words.Get()) {
+        KanjiInfoDialog wordsInfo(db, prompt);
+        wordsInfo.SetWords(WordContext{&words, LearnedBy(learner)});
+        wordsInfo.SetCode(lexicon->CharacterOf(U'学'));
+        ok &= Save(wordsInfo, out, QStringLiteral("kanji-info-words"));
+
+        TestContainer wordTest(db, prompt, seeds);
+        wordTest.ReadingPage()->SetWordAid(&words);
+        wordTest.StartTest({lexicon->CharacterOf(U'学')});
+        ReadingTestPage* reading = wordTest.ReadingPage();
+        const auto asked = db.LoadCharacter(lexicon->CharacterOf(U'学'));
+        for (std::size_t i = 0; i < reading->Choices().on.size(); ++i)
+            if (reading->Choices().on[i] == asked->OnReading())
+                QTest::mouseClick(reading->OnButton(static_cast<int>(i)), Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
+        for (std::size_t i = 0; i < reading->Choices().kun.size(); ++i)
+            if (reading->Choices().kun[i] == asked->KunReading())
+                QTest::mouseClick(reading->KunButton(static_cast<int>(i)), Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
+        ok &= Save(wordTest, out, QStringLiteral("reading-test-word"));
+    } else {
+        std::fprintf(stderr, "render_pages: no lexicon at %s, pages with words left out\n", lexiconPath.c_str());
+    }
 
     QTemporaryDir folder;
     const std::string config = QDir(folder.path()).filePath(QStringLiteral("config.xml")).toStdString();

@@ -63,9 +63,11 @@ class StaticProgressViews : public ProgressViewFactory {
 public:
     QWidget* CreateProgressView(CharacterDatabase& database, Prompt& prompt, const User& learner,
         std::vector<LearnerEvent> history, const std::string& now, std::optional<ReviewSchedule> reviews,
-        QWidget* parent) override
+        LexiconAccess* words, QWidget* parent) override
     {
-        return new ProgressWindow(database, prompt, learner, std::move(history), now, std::move(reviews), parent);
+        auto* window = new ProgressWindow(database, prompt, learner, std::move(history), now, std::move(reviews), parent);
+        window->SetWords(words);
+        return window;
     }
     ProgressViewSource Source()
     {
@@ -554,6 +556,8 @@ private slots:
                         QStringLiteral("Show where a stroke starts after three misses"),
                         QStringLiteral("Judge place by my own character"),
                         QStringLiteral("Bring the window onto the screen at start"),
+                        QStringLiteral("Show words and parts in Kanji Info"),
+                        QStringLiteral("Show a word after each answer"),
                         QStringLiteral("Review characters when they are due")};
                     const QList<QCheckBox*> boxes = dialog.findChildren<QCheckBox*>();
                     QCOMPARE(boxes.size(), captions.size());

@@ -15,7 +15,7 @@ class CountingViews : public ProgressViewFactory {
 public:
     int made = 0;
     QWidget* CreateProgressView(CharacterDatabase&, Prompt&, const User& learner, std::vector<LearnerEvent>,
-        const std::string& now, std::optional<ReviewSchedule>, QWidget* parent) override
+        const std::string& now, std::optional<ReviewSchedule>, LexiconAccess*, QWidget* parent) override
     {
         ++made;
         auto* window = new QWidget(parent, Qt::Window);
@@ -40,17 +40,17 @@ private slots:
         });
         User anna;
         anna.SetName("Anna");
-        viewer.Open(&anna, {}, std::nullopt, &owner);
+        viewer.Open(&anna, {}, std::nullopt, nullptr, &owner);
         QCOMPARE(views.made, 1);
         QPointer<QWidget> first = owner.findChild<QWidget*>(QStringLiteral("Anna ") + QString::fromStdString(FixedClock()));
         QVERIFY(first);
         QVERIFY(first->isVisible());
-        viewer.Open(&anna, {}, std::nullopt, &owner); // again: the first one goes
+        viewer.Open(&anna, {}, std::nullopt, nullptr, &owner); // again: the first one goes
         QCOMPARE(views.made, 2);
         QVERIFY(!first);
         viewer.Close();
         QVERIFY(!owner.findChild<QWidget*>(QStringLiteral("Anna ") + QString::fromStdString(FixedClock())));
-        viewer.Open(nullptr, {}, std::nullopt, &owner); // no learner: nothing
+        viewer.Open(nullptr, {}, std::nullopt, nullptr, &owner); // no learner: nothing
         QCOMPARE(views.made, 2);
         QVERIFY(prompt.messages.isEmpty());
     }
@@ -62,13 +62,13 @@ private slots:
         User anna;
         anna.SetName("Anna");
         ProgressViewer missing(StandardDatabase(), prompt, FixedClock, NoProgressModule);
-        missing.Open(&anna, {}, std::nullopt, &owner);
+        missing.Open(&anna, {}, std::nullopt, nullptr, &owner);
         QCOMPARE(prompt.messages,
             QStringList{QStringLiteral("Progress: The progress window cannot be opened: no module in the tests")});
         struct Failing : ProgressViewFactory {
             QWidget* CreateProgressView(
                 CharacterDatabase&, Prompt&, const User&, std::vector<LearnerEvent>, const std::string&,
-                std::optional<ReviewSchedule>, QWidget*) override
+                std::optional<ReviewSchedule>, LexiconAccess*, QWidget*) override
             {
                 throw std::runtime_error("out of charts");
             }
@@ -76,7 +76,7 @@ private slots:
         ProgressViewer broken(StandardDatabase(), prompt, FixedClock, [&failing](QString&) -> ProgressViewFactory* {
             return &failing;
         });
-        broken.Open(&anna, {}, std::nullopt, &owner);
+        broken.Open(&anna, {}, std::nullopt, nullptr, &owner);
         QCOMPARE(prompt.messages.value(1), QStringLiteral("Progress: The progress window cannot be opened: out of charts"));
     }
 };

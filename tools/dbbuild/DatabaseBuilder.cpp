@@ -1,5 +1,6 @@
 #include "DatabaseBuilder.h"
 
+#include "DatabaseKey.h"
 #include "DatabaseWriter.h"
 #include "KanjiDic.h"
 #include "SvgPath.h"
@@ -187,6 +188,7 @@ std::vector<std::uint8_t> BuildDatabase(const BuildOptions& options, BuildReport
     }
 
     DatabaseWriter writer;
+    DatabaseKey key;
     for (PlannedCategory& category : plan) {
         std::sort(category.members.begin(), category.members.end(),
             [](const KanjiDicEntry* a, const KanjiDicEntry* b) { return TeachesBefore(*a, *b); });
@@ -200,14 +202,19 @@ std::vector<std::uint8_t> BuildDatabase(const BuildOptions& options, BuildReport
                 continue;
             }
             const std::uint16_t element = writer.AddStrokeElement(*glyph);
-            ids.push_back(writer.AddCharacter(element, JoinLimited(entry->onReadings, "\xE3\x80\x81"),
-                JoinLimited(entry->kunReadings, "\xE3\x80\x81"), JoinLimited(entry->meanings, ", ")));
+            const std::string on = JoinLimited(entry->onReadings, "\xE3\x80\x81");
+            const std::string kun = JoinLimited(entry->kunReadings, "\xE3\x80\x81");
+            ids.push_back(writer.AddCharacter(element, on, kun, JoinLimited(entry->meanings, ", ")));
+            key.Add(on, kun);
+            report.built.push_back(LexiconCharacter{entry->codePoint, static_cast<int>(report.categories.size()),
+                static_cast<int>(ids.size() - 1), entry->onReadings, entry->kunReadings, glyph->Strokes().size()});
         }
         count.characters = ids.size();
         report.characters += ids.size();
         writer.AddCategory(category.name, ids);
         report.categories.push_back(count);
     }
+    report.databaseKey = key.Value();
     try {
         return writer.Serialize();
     } catch (const std::length_error& error) {

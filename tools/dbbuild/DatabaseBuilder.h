@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Form.h"
+#include "LexiconBuilder.h"
 
 #include <cstdint>
 #include <optional>
@@ -33,6 +34,10 @@ struct BuildReport {
     std::vector<CategoryCount> categories;
     std::vector<char32_t> leftOut; ///< characters without KanjiVG strokes
     std::size_t characters = 0;
+    /// The characters written, in id order, as the lexicon builder takes them.
+    std::vector<LexiconCharacter> built;
+    /// The DatabaseKey of the file.
+    std::uint64_t databaseKey = 0;
 };
 
 /// Reads one KanjiVG SVG into a kind-1 form of box 109 x 109, strokes in document order; null

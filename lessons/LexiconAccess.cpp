@@ -1,0 +1,97 @@
+#include "LexiconAccess.h"
+
+#include "CharacterDatabase.h"
+#include "DatabaseKey.h"
+#include "DatabaseLoadException.h"
+#include "StoreMessages.h"
+#include "User.h"
+
+#include <cstring>
+
+LexiconAccess::LexiconAccess(std::string path, CharacterDatabase& database)
+    : m_path(std::move(path)), m_database(&database)
+{
+}
+
+LexiconAccess::LexiconAccess(std::unique_ptr<Lexicon> lexicon) : m_lexicon(std::move(lexicon)), m_tried(true) { }
+
+LexiconAccess::~LexiconAccess() = default;
+
+const Lexicon* LexiconAccess::Get()
+{
+    if (m_tried)
+        return m_lexicon.get();
+    m_tried = true;
+    try {
+        auto lexicon = std::make_unique<Lexicon>(m_path);
+        lexicon->CheckMadeFor(DatabaseKey::Of(*m_database));
+        m_lexicon = std::move(lexicon);
+    } catch (const ZavorenCommon::DatabaseLoadException& e) {
+        // Only damage is worth a message: no file, or one for another database, is no words.
+        if (std::strcmp(e.what(), StoreMessage::DamagedLexicon) == 0)
+            m_problem = StoreMessage::DamagedLexicon;
+    }
+    return m_lexicon.get();
+}
+
+const char* LexiconAccess::TakeProblem()
+{
+    const char* problem = m_problem;
+    m_problem = nullptr;
+    return problem;
+}
+
+namespace {
+
+bool IsKanji(char32_t c)
+{
+    return (c >= 0x4E00 && c <= 0x9FFF) || (c >= 0x3400 && c <= 0x4DBF) || (c >= 0xF900 && c <= 0xFAFF)
+        || (c >= 0x20000 && c <= 0x3134F);
+}
+
+/// The code point of the UTF-8 sequence at `i` and its length (the lexicon's text is valid).
+char32_t Decode(std::string_view text, std::size_t i, std::size_t& length)
+{
+    const auto b = static_cast<unsigned char>(text[i]);
+    length = b < 0x80 ? 1 : b < 0xE0 ? 2 : b < 0xF0 ? 3 : 4;
+    if (length > text.size() - i) {
+        length = 1;
+        return b;
+    }
+    char32_t c = length == 1 ? b : length == 2 ? (b & 0x1F) : length == 3 ? (b & 0x0F) : (b & 0x07);
+    for (std::size_t k = 1; k < length; ++k)
+        c = (c << 6) | (static_cast<unsigned char>(text[i + k]) & 0x3F);
+    return c;
+}
+
+} // namespace
+
+std::vector<WordPiece> SplitByKnowledge(
+    const Lexicon& lexicon, std::string_view writing, const std::function<bool(std::uint16_t)>& learned)
+{
+    std::vector<WordPiece> pieces;
+    for (std::size_t i = 0; i < writing.size();) {
+        std::size_t length = 1;
+        const char32_t c = Decode(writing, i, length);
+        bool known = true;
+        if (IsKanji(c)) {
+            const std::uint16_t id = lexicon.CharacterOf(c);
+            known = id != Lexicon::NoCharacter && learned && learned(id);
+        }
+        if (pieces.empty() || pieces.back().known != known)
+            pieces.push_back(WordPiece{std::string(), known});
+        pieces.back().text.append(writing.substr(i, length));
+        i += length;
+    }
+    return pieces;
+}
+
+std::function<bool(std::uint16_t)> LearnedBy(const User& learner)
+{
+    return [&learner](std::uint16_t id) {
+        for (const CategoryProgress& progress : learner.Progress())
+            if (progress.IsLearned(id))
+                return true;
+        return false;
+    };
+}
