@@ -100,28 +100,49 @@ std::string WithoutTags(const std::string& gloss, std::vector<std::string>* tags
     return rest;
 }
 
-bool ParseEdictLine(const std::string& line, EdictEntry& entry)
+namespace {
+
+/// The items of "a(P);b(iK)": "a" and "b".
+std::vector<std::string> Alternatives(const std::string& list)
+{
+    std::vector<std::string> items;
+    std::stringstream parts(list);
+    std::string item;
+    while (std::getline(parts, item, ';')) {
+        const auto tag = item.find('(');
+        if (tag != std::string::npos)
+            item.erase(tag);
+        Trim(item);
+        if (!item.empty())
+            items.push_back(item);
+    }
+    return items;
+}
+
+} // namespace
+
+bool ParseEdictLine(const std::string& line, std::vector<EdictEntry>& entries)
 {
     const auto firstSlash = line.find(" /");
     if (firstSlash == std::string::npos)
         return false;
-    std::string head = line.substr(0, firstSlash);
-    entry = EdictEntry{};
+    const std::string head = line.substr(0, firstSlash);
+    std::vector<std::string> writings;
+    std::vector<std::string> readings;
     const auto open = head.find(" [");
     if (open != std::string::npos) {
         const auto close = head.find(']', open);
         if (close == std::string::npos)
             return false;
-        entry.writing = head.substr(0, open);
-        entry.reading = head.substr(open + 2, close - open - 2);
+        writings = Alternatives(head.substr(0, open));
+        readings = Alternatives(head.substr(open + 2, close - open - 2));
     } else {
-        entry.writing = head;
-        entry.reading = head;
+        writings = Alternatives(head);
+        readings = writings;
     }
-    Trim(entry.writing);
-    Trim(entry.reading);
-    if (entry.writing.empty() || entry.reading.empty())
+    if (writings.empty() || readings.empty())
         return false;
+    EdictEntry entry;
     std::stringstream fields(line.substr(firstSlash + 2));
     std::string field;
     bool first = true;
@@ -140,6 +161,12 @@ bool ParseEdictLine(const std::string& line, EdictEntry& entry)
         }
         if (!gloss.empty())
             entry.glosses.push_back(std::move(gloss));
+    }
+    for (std::size_t i = 0; i < writings.size(); ++i) {
+        entry.writing = writings[i];
+        // A word written in kana reads as it is written; otherwise, the first reading.
+        entry.reading = open == std::string::npos ? writings[i] : readings.front();
+        entries.push_back(entry);
     }
     return true;
 }
@@ -162,9 +189,7 @@ std::vector<EdictEntry> ReadEdict(const std::string& path)
             continue; // the file's own description, written as an entry
         if (!line.empty() && line.back() == '\r')
             line.pop_back();
-        EdictEntry entry;
-        if (ParseEdictLine(line, entry))
-            entries.push_back(std::move(entry));
+        ParseEdictLine(line, entries);
     }
     if (entries.empty())
         throw EdictError(path + ": no dictionary entries");

@@ -10,7 +10,7 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// One line of EDICT: one writing with one reading.
+/// One writing of an EDICT entry, with its reading.
 struct EdictEntry {
     std::string writing; ///< UTF-8
     std::string reading; ///< kana, UTF-8; the writing itself for a word written in kana
@@ -24,8 +24,10 @@ struct EdictEntry {
 /// skipping its first line, which describes the file. Throws EdictError.
 std::vector<EdictEntry> ReadEdict(const std::string& path);
 
-/// Parses one line, already decoded to UTF-8; false when it is not an entry.
-bool ParseEdictLine(const std::string& line, EdictEntry& entry);
+/// Parses one line, already decoded to UTF-8, into one entry per writing ("右手;右て [みぎて]"
+/// gives two, each with the first reading; tags after a writing or a reading, like "(P)" or
+/// "(iK)", are dropped), appended to `entries`; false when it is not an entry.
+bool ParseEdictLine(const std::string& line, std::vector<EdictEntry>& entries);
 
 /// A gloss without the tags in parentheses or braces before it ("(n) (1) learning" gives
 /// "learning"); only EDICT's own tags are taken away, so "(in) debt" keeps its words.

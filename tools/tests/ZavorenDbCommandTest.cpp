@@ -109,6 +109,60 @@ TEST(ZavorenDb, BuildWritesTheFileAndReportsLeftOutCharacters)
     std::filesystem::remove(out);
 }
 
+TEST(ZavorenDb, BuildWithEdictWritesTheLexiconBesideAndWordsPrintsIt)
+{
+    const auto dir = std::filesystem::temp_directory_path() / ("zavoren-db-words-" + std::to_string(getpid()));
+    std::filesystem::create_directories(dir);
+    const std::string data = ZAVOREN_TOOLS_TEST_DATA;
+    const std::string database = (dir / "database").string();
+    const std::string lexicon = (dir / "lexicon").string();
+    const std::string sources
+        = "build --kanjivg " + data + "/kanjivg --kanjidic " + data + "/kanjidic2-sample.xml --out " + database;
+    const Result r = RunTool(sources + " --edict " + data + "/edict-sample --kanjivg-parts " + data + "/kanjivg-parts");
+    ASSERT_EQ(r.exitCode, 0) << r.output;
+    EXPECT_NE(r.output.find("wrote " + lexicon), std::string::npos) << r.output;
+    ASSERT_TRUE(std::filesystem::exists(lexicon));
+
+    // 水 is id 1: its parts, then its words, one per line.
+    const Result words = RunTool("words --db " + database + " --lexicon " + lexicon + " --char 1");
+    EXPECT_EQ(words.exitCode, 0) << words.output;
+    EXPECT_EQ(words.output,
+        "parts\t亅 フ\n"
+        "水\tみず\twater (esp. cool, fresh water, e.g. drinking water); fluid (esp. in an animal tissue)\n"
+        "水曜\tすいよう\tWednesday\n"
+        "一水\tいっすい\ta narrow stream\n"
+        "水一\tみずいち\t(in) water one (a word made for the tests)\n");
+    // 一 has words but no parts: an empty parts line, so that the format never changes.
+    EXPECT_EQ(RunTool("words --db " + database + " --lexicon " + lexicon + " --char 0").output.rfind("parts\t\n一\tいち\tone; best\n", 0), 0u);
+
+    // What can go wrong: a character that is not there, a damaged or foreign lexicon, a missing
+    // option, the lexicon's options without --edict, a dictionary that is not there.
+    const Result missing = RunTool("words --db " + database + " --lexicon " + lexicon + " --char 9");
+    EXPECT_NE(missing.exitCode, 0);
+    EXPECT_NE(missing.output.find("no character 9"), std::string::npos) << missing.output;
+    {
+        std::fstream file(lexicon, std::ios::in | std::ios::out | std::ios::binary);
+        file.seekp(60);
+        file.put('\x7F');
+    }
+    const Result damaged = RunTool("words --db " + database + " --lexicon " + lexicon + " --char 1");
+    EXPECT_NE(damaged.exitCode, 0);
+    EXPECT_NE(damaged.output.find(lexicon + ": The lexicon file is damaged"), std::string::npos) << damaged.output;
+    const Result absent = RunTool("words --db " + database + " --lexicon " + (dir / "none").string() + " --char 1");
+    EXPECT_NE(absent.exitCode, 0);
+    EXPECT_NE(absent.output.find("Unable to open lexicon"), std::string::npos) << absent.output;
+    ASSERT_EQ(RunTool(sources + " --edict " + data + "/edict-sample --kanjivg-parts " + data + "/kanjivg-parts").exitCode, 0);
+    const Result other = RunTool("words --db " + Standard + " --lexicon " + lexicon + " --char 1");
+    EXPECT_NE(other.exitCode, 0);
+    EXPECT_NE(other.output.find("The lexicon was made for another database"), std::string::npos) << other.output;
+    EXPECT_NE(RunTool("words --db " + database + " --char 1").output.find("words needs --lexicon"), std::string::npos);
+    EXPECT_NE(RunTool(sources + " --lexicon " + lexicon).output.find("go with --edict"), std::string::npos);
+    const Result noDictionary = RunTool(sources + " --edict " + (dir / "none").string());
+    EXPECT_NE(noDictionary.exitCode, 0);
+    EXPECT_NE(noDictionary.output.find("cannot read the dictionary"), std::string::npos) << noDictionary.output;
+    std::filesystem::remove_all(dir);
+}
+
 TEST(ZavorenDb, ScorePrintsTheCheckersScore)
 {
     const auto dir = std::filesystem::temp_directory_path() / ("zavoren-db-score-" + std::to_string(getpid()));
