@@ -64,6 +64,13 @@ void ReadingTestPage::SetWordAid(LexiconAccess* lexicon)
             line->setVisible(lexicon != nullptr);
         }
     }
+    // The page's size follows at once, so that whoever fits the window to it gets the new one.
+    for (QWidget* group : {static_cast<QWidget*>(m_ui->onGroup), static_cast<QWidget*>(m_ui->kunGroup)}) {
+        group->layout()->invalidate();
+        group->updateGeometry();
+    }
+    m_ui->choiceRow->invalidate();
+    layout()->invalidate();
 }
 
 void ReadingTestPage::ShowWord(bool on)

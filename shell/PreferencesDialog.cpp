@@ -26,9 +26,6 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
     m_hint->setChecked(preferences.hintAfterMisses);
     m_onScreen->setChecked(preferences.keepOnScreen);
     m_ownFrame->setChecked(preferences.ownFrame);
-    m_reviews = new QCheckBox(tr("Review characters when they are due"), this);
-    m_reviews->setToolTip(tr("Each learned character comes back for a test when you are about to forget it"));
-    m_reviews->setChecked(preferences.reviewWhenDue);
     m_words = new QCheckBox(tr("Show words and parts in Kanji Info"), this);
     m_words->setToolTip(tr("Common words that use the character, and the parts it is built from"));
     m_words->setChecked(preferences.wordsAndParts);
@@ -36,6 +33,9 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
     m_wordAfterAnswer->setToolTip(tr("In the reading test, a common word that uses the character with the "
                                      "reading you have just chosen"));
     m_wordAfterAnswer->setChecked(preferences.wordAfterAnswer);
+    m_reviews = new QCheckBox(tr("Review characters when they are due"), this);
+    m_reviews->setToolTip(tr("Each learned character comes back for a test when you are about to forget it"));
+    m_reviews->setChecked(preferences.reviewWhenDue);
     for (QCheckBox* box : {m_explain, m_grid, m_hint, m_ownFrame, m_onScreen, m_words, m_wordAfterAnswer, m_reviews}) {
         box->setAccessibleName(box->text());
         layout->addWidget(box);

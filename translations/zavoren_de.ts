@@ -335,6 +335,42 @@ Möchten Sie einen Minidump davon erhalten?</translation>
         <source>Next review: %1</source>
         <translation>Nächste Wiederholung: %1</translation>
     </message>
+    <message>
+        <source>Words and parts</source>
+        <translation>Wörter und Bestandteile</translation>
+    </message>
+    <message>
+        <source>Words and parts cannot be shown: %1</source>
+        <translation>Wörter und Bestandteile können nicht angezeigt werden: %1</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Wörter</translation>
+    </message>
+    <message>
+        <source>Words (meanings in English)</source>
+        <translation>Wörter (Bedeutungen auf Englisch)</translation>
+    </message>
+    <message>
+        <source>Not learned yet: %1</source>
+        <translation>Noch nicht gelernt: %1</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>Bestandteile</translation>
+    </message>
+    <message>
+        <source>Open the Kanji Info of %1</source>
+        <translation>Die Kanji-Info von %1 öffnen</translation>
+    </message>
+    <message>
+        <source>Part %1, opens its Kanji Info</source>
+        <translation>Bestandteil %1, öffnet seine Kanji-Info</translation>
+    </message>
+    <message>
+        <source>Part %1</source>
+        <translation>Bestandteil %1</translation>
+    </message>
 </context>
 <context>
     <name>LearnerTransfer</name>
@@ -582,6 +618,22 @@ Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</transl
         <source>&amp;Maximum interval:</source>
         <translation>Längster &amp;Abstand:</translation>
     </message>
+    <message>
+        <source>Show words and parts in Kanji Info</source>
+        <translation>Wörter und Bestandteile in der Kanji-Info zeigen</translation>
+    </message>
+    <message>
+        <source>Common words that use the character, and the parts it is built from</source>
+        <translation>Gebräuchliche Wörter mit dem Zeichen und die Bestandteile, aus denen es besteht</translation>
+    </message>
+    <message>
+        <source>Show a word after each answer</source>
+        <translation>Nach jeder Antwort ein Wort zeigen</translation>
+    </message>
+    <message>
+        <source>In the reading test, a common word that uses the character with the reading you have just chosen</source>
+        <translation>Im Lesetest ein gebräuchliches Wort, das das Zeichen mit der eben gewählten Lesung verwendet</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>
@@ -811,6 +863,22 @@ Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</transl
         <source>Select KUN reading</source>
         <translation>KUN-Lesung wählen</translation>
     </message>
+    <message>
+        <source>A word with this ON reading</source>
+        <translation>Ein Wort mit dieser ON-Lesung</translation>
+    </message>
+    <message>
+        <source>A word with this KUN reading</source>
+        <translation>Ein Wort mit dieser KUN-Lesung</translation>
+    </message>
+    <message>
+        <source>Words and parts</source>
+        <translation>Wörter und Bestandteile</translation>
+    </message>
+    <message>
+        <source>Words and parts cannot be shown: %1</source>
+        <translation>Wörter und Bestandteile können nicht angezeigt werden: %1</translation>
+    </message>
 </context>
 <context>
     <name>SplashWindow</name>
@@ -1013,6 +1081,18 @@ Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</transl
     <message>
         <source>Unable to save config</source>
         <translation>Konfiguration kann nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>Unable to open lexicon</source>
+        <translation>Das Lexikon kann nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>The lexicon file is damaged</source>
+        <translation>Die Lexikondatei ist beschädigt</translation>
+    </message>
+    <message>
+        <source>The lexicon was made for another database</source>
+        <translation>Das Lexikon wurde für eine andere Datenbank erstellt</translation>
     </message>
 </context>
 </TS>

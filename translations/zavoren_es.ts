@@ -335,6 +335,42 @@ Error fatal en Zavoren.<byte value="xd"/>
         <source>Next review: %1</source>
         <translation>Próximo repaso: %1</translation>
     </message>
+    <message>
+        <source>Words and parts</source>
+        <translation>Palabras y componentes</translation>
+    </message>
+    <message>
+        <source>Words and parts cannot be shown: %1</source>
+        <translation>No se pueden mostrar las palabras ni los componentes: %1</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Palabras</translation>
+    </message>
+    <message>
+        <source>Words (meanings in English)</source>
+        <translation>Palabras (significados en inglés)</translation>
+    </message>
+    <message>
+        <source>Not learned yet: %1</source>
+        <translation>Aún no aprendido: %1</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>Componentes</translation>
+    </message>
+    <message>
+        <source>Open the Kanji Info of %1</source>
+        <translation>Abrir la información del kanji %1</translation>
+    </message>
+    <message>
+        <source>Part %1, opens its Kanji Info</source>
+        <translation>Componente %1, abre su información del kanji</translation>
+    </message>
+    <message>
+        <source>Part %1</source>
+        <translation>Componente %1</translation>
+    </message>
 </context>
 <context>
     <name>LearnerTransfer</name>
@@ -582,6 +618,22 @@ Sí lo sustituye; No importa al alumno con otro nombre.</translation>
         <source>&amp;Maximum interval:</source>
         <translation>Intervalo &amp;máximo:</translation>
     </message>
+    <message>
+        <source>Show words and parts in Kanji Info</source>
+        <translation>Mostrar palabras y componentes en la información del kanji</translation>
+    </message>
+    <message>
+        <source>Common words that use the character, and the parts it is built from</source>
+        <translation>Palabras comunes que usan el carácter, y los componentes de los que está hecho</translation>
+    </message>
+    <message>
+        <source>Show a word after each answer</source>
+        <translation>Mostrar una palabra después de cada respuesta</translation>
+    </message>
+    <message>
+        <source>In the reading test, a common word that uses the character with the reading you have just chosen</source>
+        <translation>En la prueba de lectura, una palabra común que usa el carácter con la lectura que acaba de elegir</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>
@@ -811,6 +863,22 @@ Sí lo sustituye; No importa al alumno con otro nombre.</translation>
         <source>Select KUN reading</source>
         <translation>Elija la lectura KUN</translation>
     </message>
+    <message>
+        <source>A word with this ON reading</source>
+        <translation>Una palabra con esta lectura ON</translation>
+    </message>
+    <message>
+        <source>A word with this KUN reading</source>
+        <translation>Una palabra con esta lectura KUN</translation>
+    </message>
+    <message>
+        <source>Words and parts</source>
+        <translation>Palabras y componentes</translation>
+    </message>
+    <message>
+        <source>Words and parts cannot be shown: %1</source>
+        <translation>No se pueden mostrar las palabras ni los componentes: %1</translation>
+    </message>
 </context>
 <context>
     <name>SplashWindow</name>
@@ -1013,6 +1081,18 @@ Sí lo sustituye; No importa al alumno con otro nombre.</translation>
     <message>
         <source>Unable to save config</source>
         <translation>No se puede guardar la configuración</translation>
+    </message>
+    <message>
+        <source>Unable to open lexicon</source>
+        <translation>No se puede abrir el léxico</translation>
+    </message>
+    <message>
+        <source>The lexicon file is damaged</source>
+        <translation>El archivo del léxico está dañado</translation>
+    </message>
+    <message>
+        <source>The lexicon was made for another database</source>
+        <translation>El léxico se hizo para otra base de datos</translation>
     </message>
 </context>
 </TS>

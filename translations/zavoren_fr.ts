@@ -335,6 +335,42 @@ Voulez-vous en obtenir un minidump ?</translation>
         <source>Next review: %1</source>
         <translation>Prochaine révision : %1</translation>
     </message>
+    <message>
+        <source>Words and parts</source>
+        <translation>Mots et composants</translation>
+    </message>
+    <message>
+        <source>Words and parts cannot be shown: %1</source>
+        <translation>Les mots et les composants ne peuvent pas être affichés : %1</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Mots</translation>
+    </message>
+    <message>
+        <source>Words (meanings in English)</source>
+        <translation>Mots (sens en anglais)</translation>
+    </message>
+    <message>
+        <source>Not learned yet: %1</source>
+        <translation>Pas encore appris : %1</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>Composants</translation>
+    </message>
+    <message>
+        <source>Open the Kanji Info of %1</source>
+        <translation>Ouvrir les infos sur le kanji %1</translation>
+    </message>
+    <message>
+        <source>Part %1, opens its Kanji Info</source>
+        <translation>Composant %1, ouvre ses infos sur le kanji</translation>
+    </message>
+    <message>
+        <source>Part %1</source>
+        <translation>Composant %1</translation>
+    </message>
 </context>
 <context>
     <name>LearnerTransfer</name>
@@ -582,6 +618,22 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
         <source>&amp;Maximum interval:</source>
         <translation>Intervalle &amp;maximal :</translation>
     </message>
+    <message>
+        <source>Show words and parts in Kanji Info</source>
+        <translation>Afficher les mots et les composants dans les infos sur le kanji</translation>
+    </message>
+    <message>
+        <source>Common words that use the character, and the parts it is built from</source>
+        <translation>Des mots courants qui emploient le caractère, et les composants dont il est fait</translation>
+    </message>
+    <message>
+        <source>Show a word after each answer</source>
+        <translation>Afficher un mot après chaque réponse</translation>
+    </message>
+    <message>
+        <source>In the reading test, a common word that uses the character with the reading you have just chosen</source>
+        <translation>Dans le test de lecture, un mot courant qui emploie le caractère avec la lecture que vous venez de choisir</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>
@@ -811,6 +863,22 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
         <source>Select KUN reading</source>
         <translation>Choisissez la lecture KUN</translation>
     </message>
+    <message>
+        <source>A word with this ON reading</source>
+        <translation>Un mot avec cette lecture ON</translation>
+    </message>
+    <message>
+        <source>A word with this KUN reading</source>
+        <translation>Un mot avec cette lecture KUN</translation>
+    </message>
+    <message>
+        <source>Words and parts</source>
+        <translation>Mots et composants</translation>
+    </message>
+    <message>
+        <source>Words and parts cannot be shown: %1</source>
+        <translation>Les mots et les composants ne peuvent pas être affichés : %1</translation>
+    </message>
 </context>
 <context>
     <name>SplashWindow</name>
@@ -1013,6 +1081,18 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
     <message>
         <source>Unable to save config</source>
         <translation>Impossible d’enregistrer la configuration</translation>
+    </message>
+    <message>
+        <source>Unable to open lexicon</source>
+        <translation>Impossible d&apos;ouvrir le lexique</translation>
+    </message>
+    <message>
+        <source>The lexicon file is damaged</source>
+        <translation>Le fichier du lexique est endommagé</translation>
+    </message>
+    <message>
+        <source>The lexicon was made for another database</source>
+        <translation>Le lexique a été fait pour une autre base de données</translation>
     </message>
 </context>
 </TS>

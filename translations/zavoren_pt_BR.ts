@@ -335,6 +335,42 @@ Deseja obter um minidump?</translation>
         <source>Next review: %1</source>
         <translation>Próxima revisão: %1</translation>
     </message>
+    <message>
+        <source>Words and parts</source>
+        <translation>Palavras e componentes</translation>
+    </message>
+    <message>
+        <source>Words and parts cannot be shown: %1</source>
+        <translation>Não é possível mostrar as palavras e os componentes: %1</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Palavras</translation>
+    </message>
+    <message>
+        <source>Words (meanings in English)</source>
+        <translation>Palavras (significados em inglês)</translation>
+    </message>
+    <message>
+        <source>Not learned yet: %1</source>
+        <translation>Ainda não aprendido: %1</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>Componentes</translation>
+    </message>
+    <message>
+        <source>Open the Kanji Info of %1</source>
+        <translation>Abrir as informações do kanji %1</translation>
+    </message>
+    <message>
+        <source>Part %1, opens its Kanji Info</source>
+        <translation>Componente %1, abre as informações do kanji</translation>
+    </message>
+    <message>
+        <source>Part %1</source>
+        <translation>Componente %1</translation>
+    </message>
 </context>
 <context>
     <name>LearnerTransfer</name>
@@ -582,6 +618,22 @@ Sim substitui; Não importa o aluno com outro nome.</translation>
         <source>&amp;Maximum interval:</source>
         <translation>Intervalo &amp;máximo:</translation>
     </message>
+    <message>
+        <source>Show words and parts in Kanji Info</source>
+        <translation>Mostrar palavras e componentes nas informações do kanji</translation>
+    </message>
+    <message>
+        <source>Common words that use the character, and the parts it is built from</source>
+        <translation>Palavras comuns que usam o caractere, e os componentes de que ele é feito</translation>
+    </message>
+    <message>
+        <source>Show a word after each answer</source>
+        <translation>Mostrar uma palavra depois de cada resposta</translation>
+    </message>
+    <message>
+        <source>In the reading test, a common word that uses the character with the reading you have just chosen</source>
+        <translation>No teste de leitura, uma palavra comum que usa o caractere com a leitura que você acabou de escolher</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>
@@ -811,6 +863,22 @@ Sim substitui; Não importa o aluno com outro nome.</translation>
         <source>Select KUN reading</source>
         <translation>Escolha a leitura KUN</translation>
     </message>
+    <message>
+        <source>A word with this ON reading</source>
+        <translation>Uma palavra com esta leitura ON</translation>
+    </message>
+    <message>
+        <source>A word with this KUN reading</source>
+        <translation>Uma palavra com esta leitura KUN</translation>
+    </message>
+    <message>
+        <source>Words and parts</source>
+        <translation>Palavras e componentes</translation>
+    </message>
+    <message>
+        <source>Words and parts cannot be shown: %1</source>
+        <translation>Não é possível mostrar as palavras e os componentes: %1</translation>
+    </message>
 </context>
 <context>
     <name>SplashWindow</name>
@@ -1013,6 +1081,18 @@ Sim substitui; Não importa o aluno com outro nome.</translation>
     <message>
         <source>Unable to save config</source>
         <translation>Não é possível salvar a configuração</translation>
+    </message>
+    <message>
+        <source>Unable to open lexicon</source>
+        <translation>Não é possível abrir o léxico</translation>
+    </message>
+    <message>
+        <source>The lexicon file is damaged</source>
+        <translation>O arquivo do léxico está danificado</translation>
+    </message>
+    <message>
+        <source>The lexicon was made for another database</source>
+        <translation>O léxico foi feito para outro banco de dados</translation>
     </message>
 </context>
 </TS>

@@ -335,6 +335,42 @@ Do you want to get minidump for it?</source>
         <source>Next review: %1</source>
         <translation>Следующее повторение: %1</translation>
     </message>
+    <message>
+        <source>Words and parts</source>
+        <translation>Слова и части</translation>
+    </message>
+    <message>
+        <source>Words and parts cannot be shown: %1</source>
+        <translation>Невозможно показать слова и части: %1</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Слова</translation>
+    </message>
+    <message>
+        <source>Words (meanings in English)</source>
+        <translation>Слова (значения на английском)</translation>
+    </message>
+    <message>
+        <source>Not learned yet: %1</source>
+        <translation>Ещё не выучено: %1</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>Части</translation>
+    </message>
+    <message>
+        <source>Open the Kanji Info of %1</source>
+        <translation>Открыть сведения о кандзи %1</translation>
+    </message>
+    <message>
+        <source>Part %1, opens its Kanji Info</source>
+        <translation>Часть %1, открывает сведения о кандзи</translation>
+    </message>
+    <message>
+        <source>Part %1</source>
+        <translation>Часть %1</translation>
+    </message>
 </context>
 <context>
     <name>LearnerTransfer</name>
@@ -582,6 +618,22 @@ Yes replaces it; No imports the learner under another name.</source>
         <source>&amp;Maximum interval:</source>
         <translation>Наибольший &amp;интервал:</translation>
     </message>
+    <message>
+        <source>Show words and parts in Kanji Info</source>
+        <translation>Показывать слова и части в сведениях о кандзи</translation>
+    </message>
+    <message>
+        <source>Common words that use the character, and the parts it is built from</source>
+        <translation>Частые слова с этим иероглифом и части, из которых он состоит</translation>
+    </message>
+    <message>
+        <source>Show a word after each answer</source>
+        <translation>Показывать слово после каждого ответа</translation>
+    </message>
+    <message>
+        <source>In the reading test, a common word that uses the character with the reading you have just chosen</source>
+        <translation>В тесте чтений — частое слово с этим иероглифом в только что выбранном чтении</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>
@@ -811,6 +863,22 @@ Yes replaces it; No imports the learner under another name.</source>
         <source>Select KUN reading</source>
         <translation>Выберите чтение КУН</translation>
     </message>
+    <message>
+        <source>A word with this ON reading</source>
+        <translation>Слово с этим чтением ОН</translation>
+    </message>
+    <message>
+        <source>A word with this KUN reading</source>
+        <translation>Слово с этим чтением КУН</translation>
+    </message>
+    <message>
+        <source>Words and parts</source>
+        <translation>Слова и части</translation>
+    </message>
+    <message>
+        <source>Words and parts cannot be shown: %1</source>
+        <translation>Невозможно показать слова и части: %1</translation>
+    </message>
 </context>
 <context>
     <name>SplashWindow</name>
@@ -1013,6 +1081,18 @@ Yes replaces it; No imports the learner under another name.</source>
     <message>
         <source>Unable to save config</source>
         <translation>Не удаётся сохранить конфигурацию</translation>
+    </message>
+    <message>
+        <source>Unable to open lexicon</source>
+        <translation>Не удаётся открыть словарь</translation>
+    </message>
+    <message>
+        <source>The lexicon file is damaged</source>
+        <translation>Файл словаря повреждён</translation>
+    </message>
+    <message>
+        <source>The lexicon was made for another database</source>
+        <translation>Словарь создан для другой базы данных</translation>
     </message>
 </context>
 </TS>

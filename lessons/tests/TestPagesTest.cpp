@@ -1,7 +1,11 @@
 #include "Named.h"
+#include "DatabaseKey.h"
 #include "DisplayCanvas.h"
 #include "DrawingTestPage.h"
+#include "FeedbackLine.h"
 #include "InputCanvas.h"
+#include "LexiconAccess.h"
+#include "LexiconWriter.h"
 #include "Random15.h"
 #include "ReadingTestPage.h"
 #include "RecordingPrompt.h"
@@ -196,6 +200,70 @@ private slots:
         QTest::keyClick(&test, Qt::Key_Escape);
         QCOMPARE(events.count(), 1);
         QCOMPARE(events[0][0].toInt(), int(TestContainer::Aborted));
+    }
+
+    void aWordFollowsEachRightAnswerWithTheAidOn()
+    {
+        // Character 1 (ON1, kun1) has a word for each reading; character 2 has words but none
+        // for its readings.
+        LexiconWriter writer(DatabaseKey::Of(*m_db));
+        for (std::uint16_t id = 0; id < m_db->CharacterCount(); ++id) {
+            if (id == 1)
+                writer.AddCharacter(U'一', {{"一つ", "ひとつ", "one", true}}, {}, LexiconWriter::Word{"一日", "いちにち", "one day", true},
+                    LexiconWriter::Word{"一つ", "ひとつ", "one", true});
+            else
+                writer.AddCharacter(0x4E00 + 0x100 + id, {{"語", "ご", "word", true}}, {}, std::nullopt, std::nullopt);
+        }
+        LexiconAccess words(std::make_unique<Lexicon>(writer.Serialize()));
+        ReadingTestPage page(*m_db, m_prompt, RepeatableSeeds);
+        page.SetWordAid(&words);
+        page.show();
+        auto character = m_db->LoadCharacter(1);
+        page.SetCharacter(character.get());
+        auto* on = Named<FeedbackLine>(&page, "onWord");
+        auto* kun = Named<FeedbackLine>(&page, "kunWord");
+        QVERIFY(on->isVisible() && kun->isVisible());
+        QCOMPARE(on->accessibleName(), QStringLiteral("A word with this ON reading"));
+        QVERIFY(on->text().isEmpty());
+        QSignalSpy announced(on, &FeedbackLine::announced);
+        // A wrong pick shows nothing; the right one shows the word, under the ON choices only.
+        Pick(page.OnButton(ChoiceIndex(page.Choices().on, "ON1", true)));
+        QVERIFY(on->text().isEmpty());
+        Pick(page.OnButton(ChoiceIndex(page.Choices().on, "ON1", false)));
+        QCOMPARE(on->text(), QStringLiteral("一日  いちにち \u2014 one day"));
+        QCOMPARE(announced.count(), 1);
+        QVERIFY(kun->text().isEmpty());
+        Pick(page.KunButton(ChoiceIndex(page.Choices().kun, "kun1", false)));
+        QCOMPARE(kun->text(), QStringLiteral("一つ  ひとつ \u2014 one"));
+        // Until the next question.
+        auto other = m_db->LoadCharacter(2);
+        page.SetCharacter(other.get());
+        QVERIFY(on->text().isEmpty() && kun->text().isEmpty());
+        // A character without a word for its readings: the lines stay empty, their room kept.
+        const QSize size = page.size();
+        Pick(page.OnButton(ChoiceIndex(page.Choices().on, "ON2", false)));
+        QVERIFY(on->text().isEmpty());
+        QCOMPARE(page.size(), size);
+    }
+
+    void withTheAidOffThePageShowsNoWords()
+    {
+        ReadingTestPage plain(*m_db, m_prompt, RepeatableSeeds);
+        QVERIFY(!plain.findChild<FeedbackLine*>(QStringLiteral("onWord")));
+        const QSize without = plain.sizeHint();
+        // Switched on, then off again: the lines are gone from the page and from its size.
+        LexiconAccess words(std::make_unique<Lexicon>(LexiconWriter(0).Serialize()));
+        ReadingTestPage page(*m_db, m_prompt, RepeatableSeeds);
+        page.SetWordAid(&words);
+        QVERIFY(page.sizeHint().height() > without.height());
+        page.SetWordAid(nullptr);
+        QCOMPARE(page.sizeHint(), without);
+        page.show();
+        auto character = m_db->LoadCharacter(1);
+        page.SetCharacter(character.get());
+        Pick(page.OnButton(ChoiceIndex(page.Choices().on, "ON1", false)));
+        QVERIFY(!Named<FeedbackLine>(&page, "onWord")->isVisible());
+        QVERIFY(Named<FeedbackLine>(&page, "onWord")->text().isEmpty());
     }
 
     void aWholeTestOnTwoRealCharacters()

@@ -6,6 +6,7 @@
 #include "FileCharacterDatabase.h"
 #include "FittedText.h"
 #include "KanjiInfoDialog.h"
+#include "LexiconAccess.h"
 #include "ModalAnswerer.h"
 #include "RecordingPrompt.h"
 #include "ReviewSchedule.h"
@@ -124,6 +125,9 @@ private slots:
     void theTroubleListIsOrderedAndOpensKanjiInfo()
     {
         ProgressWindow window(*m_db, m_prompt, m_learner, m_learner.History(), Now);
+        // Kanji Info opened from here shows the character's words, as from the category page.
+        LexiconAccess words(ZAVOREN_STANDARD_LEXICON, *m_db);
+        window.SetWords(&words);
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         Named<QTabWidget>(&window, "progressTabs")->setCurrentIndex(3);
@@ -144,8 +148,10 @@ private slots:
         }
         const std::uint16_t second = static_cast<std::uint16_t>(list->item(1)->data(Qt::UserRole).toUInt());
         QString meaning;
+        bool withWords = false;
         ModalAnswerer<KanjiInfoDialog> info([&](KanjiInfoDialog& dialog) {
             meaning = FullText(dialog.findChild<QLabel*>(QStringLiteral("meaning")));
+            withWords = dialog.findChild<QLabel*>(QStringLiteral("wordsHeading")) != nullptr;
             dialog.reject();
         });
         QApplication::processEvents(); // the icons are laid out
@@ -156,6 +162,7 @@ private slots:
         QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
         QCOMPARE(info.Shown(), 1);
         QCOMPARE(meaning, QString::fromUtf8(m_db->LoadCharacter(second)->Meaning()));
+        QVERIFY(withWords);
     }
 
     void partsHaveAccessibleNamesAndFollowTheDarkPalette()

@@ -1,6 +1,8 @@
 // Tools > Progress…: one window at a time for the learner it shows, and a clear message when
 // the progress module cannot give one.
 
+#include "LexiconAccess.h"
+#include "LexiconWriter.h"
 #include "ProgressViewer.h"
 #include "RecordingPrompt.h"
 #include "WindowFixture.h"
@@ -14,10 +16,12 @@ namespace {
 class CountingViews : public ProgressViewFactory {
 public:
     int made = 0;
+    LexiconAccess* words = nullptr; ///< what the last window was given for Kanji Info's words
     QWidget* CreateProgressView(CharacterDatabase&, Prompt&, const User& learner, std::vector<LearnerEvent>,
-        const std::string& now, std::optional<ReviewSchedule>, LexiconAccess*, QWidget* parent) override
+        const std::string& now, std::optional<ReviewSchedule>, LexiconAccess* lexicon, QWidget* parent) override
     {
         ++made;
+        words = lexicon;
         auto* window = new QWidget(parent, Qt::Window);
         window->setObjectName(QString::fromUtf8(learner.Name()) + QStringLiteral(" ") + QString::fromStdString(now));
         return window;
@@ -45,8 +49,10 @@ private slots:
         QPointer<QWidget> first = owner.findChild<QWidget*>(QStringLiteral("Anna ") + QString::fromStdString(FixedClock()));
         QVERIFY(first);
         QVERIFY(first->isVisible());
-        viewer.Open(&anna, {}, std::nullopt, nullptr, &owner); // again: the first one goes
+        LexiconAccess lexicon(std::make_unique<Lexicon>(LexiconWriter(0).Serialize()));
+        viewer.Open(&anna, {}, std::nullopt, &lexicon, &owner); // again: the first one goes
         QCOMPARE(views.made, 2);
+        QCOMPARE(views.words, &lexicon);
         QVERIFY(!first);
         viewer.Close();
         QVERIFY(!owner.findChild<QWidget*>(QStringLiteral("Anna ") + QString::fromStdString(FixedClock())));
