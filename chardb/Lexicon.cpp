@@ -171,7 +171,9 @@ void Lexicon::Check()
     m_textSize = U32(b + 28);
     m_databaseKey = U64(b + 32);
     const std::uint32_t stored = U32(b + 44);
-    if (m_characterCount > 0xFFFF || m_textSize > F::MaxFileSize)
+    // zlib packs at most about 1032 to 1: a text claiming more than that of its stream is not
+    // unpacked into memory it would never fill.
+    if (m_characterCount > 0xFFFF || m_textSize > F::MaxFileSize || m_textSize > std::uint64_t(stored) * 1032 + 64)
         Damaged();
     // In 64 bits, so that no count can wrap the sum around.
     const std::uint64_t expected = F::HeaderSize + std::uint64_t(m_characterCount) * F::CharacterSize

@@ -31,7 +31,10 @@ AboutDialog::AboutDialog(UrlOpener open, QWidget* owner) : QDialog(owner)
     auto* credits = new QLabel(
         tr("Stroke data: KanjiVG, \u00A9 Ulrich Apel, CC BY-SA 3.0.\n"
            "Readings and meanings: KANJIDIC2, \u00A9 the Electronic Dictionary Research and Development Group, "
-           "CC BY-SA 4.0.\nThe character database is a derived work shared under CC BY-SA."),
+           "CC BY-SA 4.0.\nThe character database is a derived work shared under CC BY-SA.")
+            + QLatin1Char('\n')
+            + tr("Words: EDICT, \u00A9 the Electronic Dictionary Research and Development Group, CC BY-SA 4.0; "
+                 "parts: KanjiVG."),
         this);
     credits->setWordWrap(true);
     m_ok = new QPushButton(tr("OK"), this);

@@ -39,6 +39,10 @@ Die Zeichendatenbank ist ein abgeleitetes Werk unter CC BY-SA.</translation>
         <source>unknown version</source>
         <translation>unbekannte Version</translation>
     </message>
+    <message>
+        <source>Words: EDICT, © the Electronic Dictionary Research and Development Group, CC BY-SA 4.0; parts: KanjiVG.</source>
+        <translation>Wörter: EDICT, © Electronic Dictionary Research and Development Group, CC BY-SA 4.0; Bestandteile: KanjiVG.</translation>
+    </message>
 </context>
 <context>
     <name>AddUserDialog</name>

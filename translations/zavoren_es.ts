@@ -39,6 +39,10 @@ La base de caracteres es una obra derivada compartida bajo CC BY-SA.</translatio
         <source>unknown version</source>
         <translation>versión desconocida</translation>
     </message>
+    <message>
+        <source>Words: EDICT, © the Electronic Dictionary Research and Development Group, CC BY-SA 4.0; parts: KanjiVG.</source>
+        <translation>Palabras: EDICT, © Electronic Dictionary Research and Development Group, CC BY-SA 4.0; componentes: KanjiVG.</translation>
+    </message>
 </context>
 <context>
     <name>AddUserDialog</name>

@@ -39,6 +39,10 @@ La base de caractères est une œuvre dérivée partagée sous CC BY-SA.</transl
         <source>unknown version</source>
         <translation>version inconnue</translation>
     </message>
+    <message>
+        <source>Words: EDICT, © the Electronic Dictionary Research and Development Group, CC BY-SA 4.0; parts: KanjiVG.</source>
+        <translation>Mots : EDICT, © Electronic Dictionary Research and Development Group, CC BY-SA 4.0 ; composants : KanjiVG.</translation>
+    </message>
 </context>
 <context>
     <name>AddUserDialog</name>

@@ -39,6 +39,10 @@ A base de caracteres é uma obra derivada compartilhada sob CC BY-SA.</translati
         <source>unknown version</source>
         <translation>versão desconhecida</translation>
     </message>
+    <message>
+        <source>Words: EDICT, © the Electronic Dictionary Research and Development Group, CC BY-SA 4.0; parts: KanjiVG.</source>
+        <translation>Palavras: EDICT, © Electronic Dictionary Research and Development Group, CC BY-SA 4.0; componentes: KanjiVG.</translation>
+    </message>
 </context>
 <context>
     <name>AddUserDialog</name>

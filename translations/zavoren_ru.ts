@@ -39,6 +39,10 @@ The character database is a derived work shared under CC BY-SA.</source>
         <source>unknown version</source>
         <translation>неизвестная версия</translation>
     </message>
+    <message>
+        <source>Words: EDICT, © the Electronic Dictionary Research and Development Group, CC BY-SA 4.0; parts: KanjiVG.</source>
+        <translation>Слова: EDICT, © Electronic Dictionary Research and Development Group, CC BY-SA 4.0; части: KanjiVG.</translation>
+    </message>
 </context>
 <context>
     <name>AddUserDialog</name>

@@ -7,13 +7,18 @@ trap 'rm -rf "$work"' EXIT
 prefix=$work/prefix
 cmake --install "$build" --prefix "$prefix" > "$work/install.log"
 
-for f in bin/zavoren bin/zavoren-db libexec/zavoren/zavoren libexec/zavoren/zavoren-progress.so share/zavoren/database share/zavoren/Zavoren.html \
+for f in bin/zavoren bin/zavoren-db libexec/zavoren/zavoren libexec/zavoren/zavoren-progress.so share/zavoren/database share/zavoren/lexicon share/zavoren/Zavoren.html \
          share/applications/io.github.zavoren.Zavoren.desktop share/metainfo/io.github.zavoren.Zavoren.metainfo.xml \
          share/icons/hicolor/64x64/apps/io.github.zavoren.Zavoren.png share/icons/hicolor/scalable/apps/io.github.zavoren.Zavoren.svg \
          share/man/man1/zavoren.1.gz share/man/man1/zavoren-db.1.gz share/doc/zavoren/copyright share/doc/zavoren/changelog.gz; do
     [ -e "$prefix/$f" ] || { echo "missing after install: $f"; exit 1; }
 done
 "$prefix/bin/zavoren-db" info "$prefix/share/zavoren/database" > /dev/null
+# One lexicon serves the database in every language: 明 (id 104) is made of 日 and 月.
+for database in database database-fr database-es database-pt; do
+    parts=$("$prefix/bin/zavoren-db" words --db "$prefix/share/zavoren/$database" --lexicon "$prefix/share/zavoren/lexicon" --char 104 | head -n 1)
+    [ "$parts" = "$(printf 'parts\t日 月')" ] || { echo "lexicon and $database: $parts"; exit 1; }
+done
 # The progress window's module finds every library it needs.
 if ldd "$prefix/libexec/zavoren/zavoren-progress.so" | grep -q 'not found'; then
     echo "the progress module misses libraries"; ldd "$prefix/libexec/zavoren/zavoren-progress.so"; exit 1
@@ -28,6 +33,7 @@ export QT_QPA_PLATFORM=offscreen
 folder=$XDG_DATA_HOME/zavoren
 grep -q '<Users/>' "$folder/config.xml" || { echo "config.xml not prepared"; exit 1; }
 [ -L "$folder/database" ] && [ -L "$folder/Zavoren.html" ] || { echo "database or help not linked"; exit 1; }
+[ "$(readlink "$folder/lexicon")" = "$prefix/share/zavoren/lexicon" ] || { echo "lexicon not linked"; exit 1; }
 
 # The meanings follow the learner's language; English where there is no database for it.
 for language in fr es pt; do
