@@ -8,6 +8,8 @@
 #include "FileCharacterDatabase.h"
 #include "GlyphRendering.h"
 #include "InputCanvas.h"
+#include "KanjiInfoDialog.h"
+#include "LexiconAccess.h"
 #include "LessonPage.h"
 #include "MessageBoxPrompt.h"
 #include "ReadingChoices.h"
@@ -86,6 +88,46 @@ void BM_AnimationTick(benchmark::State& state)
     }
 }
 BENCHMARK(BM_AnimationTick)->Arg(160)->Arg(600)->Unit(benchmark::kMicrosecond);
+
+/// Kanji Info of 学 with its words and parts, from its making to its first paint (grabbed), with
+/// the lexicon open already (Arg 0) or opened and checked against the database in the loop
+/// (Arg 1: the first Kanji Info of a session). The learner has learned Grade 1 but 学.
+void BM_KanjiInfoWithWordsFirstPaint(benchmark::State& state)
+{
+    FileCharacterDatabase& db = Database();
+    User learner;
+    const auto grade1 = db.LoadCategory(0)->Characters();
+    for (std::uint16_t id : grade1)
+        learner.GetProgress(0).AddLearned(id);
+    const std::string path = ZAVOREN_STANDARD_LEXICON;
+    auto open = std::make_unique<LexiconAccess>(path, db);
+    const std::uint16_t study = open->Get()->CharacterOf(U'学');
+    learner.GetProgress(0).RemoveLearned(study);
+    for (auto _ : state) {
+        if (state.range(0) == 1)
+            open = std::make_unique<LexiconAccess>(path, db);
+        KanjiInfoDialog dialog(db, Prompts());
+        dialog.SetWords(WordContext{open.get(), LearnedBy(learner)});
+        dialog.SetCode(study);
+        dialog.show();
+        benchmark::DoNotOptimize(dialog.grab());
+    }
+    state.SetLabel(state.range(0) == 1 ? "lexicon opened and checked each time" : "lexicon open");
+}
+BENCHMARK(BM_KanjiInfoWithWordsFirstPaint)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
+/// The same dialog without words (the aid off), for comparison.
+void BM_KanjiInfoFirstPaint(benchmark::State& state)
+{
+    FileCharacterDatabase& db = Database();
+    for (auto _ : state) {
+        KanjiInfoDialog dialog(db, Prompts());
+        dialog.SetCode(23);
+        dialog.show();
+        benchmark::DoNotOptimize(dialog.grab());
+    }
+}
+BENCHMARK(BM_KanjiInfoFirstPaint)->Unit(benchmark::kMillisecond);
 
 void BM_CategoryPageFirstPaintSecondarySchool(benchmark::State& state)
 {

@@ -32,6 +32,7 @@
 #include "DatabaseLoadException.h"
 #include "LexiconFormat.h"
 #include "StoreMessages.h"
+#include "Utf8.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -73,45 +74,11 @@ bool IsScalar(std::uint32_t c)
     return c > 0 && c <= 0x10FFFF && (c < 0xD800 || c > 0xDFFF);
 }
 
-/// Whether the bytes are well-formed UTF-8 (no overlong forms, no surrogates, no NUL).
+/// Whether the bytes are well-formed UTF-8 without NUL.
 bool IsUtf8(const std::uint8_t* p, std::size_t size)
 {
-    std::size_t i = 0;
-    while (i < size) {
-        const std::uint8_t b = p[i];
-        std::size_t length = 0;
-        std::uint32_t c = 0;
-        if (b == 0)
-            return false;
-        if (b < 0x80) {
-            ++i;
-            continue;
-        }
-        if ((b & 0xE0) == 0xC0) {
-            length = 2;
-            c = b & 0x1F;
-        } else if ((b & 0xF0) == 0xE0) {
-            length = 3;
-            c = b & 0x0F;
-        } else if ((b & 0xF8) == 0xF0) {
-            length = 4;
-            c = b & 0x07;
-        } else {
-            return false;
-        }
-        if (length > size - i)
-            return false;
-        for (std::size_t k = 1; k < length; ++k) {
-            if ((p[i + k] & 0xC0) != 0x80)
-                return false;
-            c = (c << 6) | (p[i + k] & 0x3F);
-        }
-        const std::uint32_t smallest = length == 2 ? 0x80 : length == 3 ? 0x800 : 0x10000;
-        if (c < smallest || !IsScalar(c))
-            return false;
-        i += length;
-    }
-    return true;
+    const std::string_view text(reinterpret_cast<const char*>(p), size);
+    return text.find('\0') == std::string_view::npos && ::IsUtf8(text);
 }
 
 } // namespace

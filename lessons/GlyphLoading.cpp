@@ -3,6 +3,7 @@
 
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
+#include "LexiconAccess.h"
 #include "Prompt.h"
 
 std::unique_ptr<Element> LoadGlyphOrReport(
@@ -36,4 +37,13 @@ CharacterWithGlyph LoadCharacterOrReport(
     if (!glyph)
         return {};
     return {std::move(character), std::move(glyph)};
+}
+
+const Lexicon* LexiconOrReport(LexiconAccess& words, Prompt& prompt, QWidget* parent)
+{
+    const Lexicon* lexicon = words.Get();
+    if (const char* problem = words.TakeProblem())
+        prompt.Ask(parent, QMessageBox::Warning, QCoreApplication::translate("LexiconAccess", "Words and parts"),
+            QCoreApplication::translate("LexiconAccess", "Words and parts cannot be shown: %1").arg(StoreText(problem)));
+    return lexicon;
 }

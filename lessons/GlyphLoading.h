@@ -7,6 +7,8 @@
 #include <memory>
 
 class CharacterDatabase;
+class Lexicon;
+class LexiconAccess;
 class Prompt;
 class QWidget;
 
@@ -22,3 +24,7 @@ struct CharacterWithGlyph {
 };
 CharacterWithGlyph LoadCharacterOrReport(
     CharacterDatabase& database, std::uint16_t code, Prompt& prompt, QWidget* parent);
+
+/// The lexicon of `words`, opened on first use; null when there is none to use, after a warning
+/// (owned by `parent`, once a session) when it is damaged.
+const Lexicon* LexiconOrReport(LexiconAccess& words, Prompt& prompt, QWidget* parent);

@@ -98,10 +98,7 @@ void KanjiInfoDialog::ShowWordsAndParts(std::uint16_t code)
     m_wordsAndParts = nullptr;
     if (!m_words.lexicon)
         return;
-    const Lexicon* lexicon = m_words.lexicon->Get();
-    if (const char* problem = m_words.lexicon->TakeProblem())
-        m_prompt.Ask(parentWidget(), QMessageBox::Warning, tr("Words and parts"),
-            tr("Words and parts cannot be shown: %1").arg(StoreText(problem)));
+    const Lexicon* lexicon = LexiconOrReport(*m_words.lexicon, m_prompt, parentWidget());
     if (!lexicon)
         return;
     std::vector<LexiconWord> words = lexicon->Words(code);

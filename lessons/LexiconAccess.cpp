@@ -5,6 +5,7 @@
 #include "DatabaseLoadException.h"
 #include "StoreMessages.h"
 #include "User.h"
+#include "Utf8.h"
 
 #include <cstring>
 
@@ -49,21 +50,6 @@ bool IsKanji(char32_t c)
         || (c >= 0x20000 && c <= 0x3134F);
 }
 
-/// The code point of the UTF-8 sequence at `i` and its length (the lexicon's text is valid).
-char32_t Decode(std::string_view text, std::size_t i, std::size_t& length)
-{
-    const auto b = static_cast<unsigned char>(text[i]);
-    length = b < 0x80 ? 1 : b < 0xE0 ? 2 : b < 0xF0 ? 3 : 4;
-    if (length > text.size() - i) {
-        length = 1;
-        return b;
-    }
-    char32_t c = length == 1 ? b : length == 2 ? (b & 0x1F) : length == 3 ? (b & 0x0F) : (b & 0x07);
-    for (std::size_t k = 1; k < length; ++k)
-        c = (c << 6) | (static_cast<unsigned char>(text[i + k]) & 0x3F);
-    return c;
-}
-
 } // namespace
 
 std::vector<WordPiece> SplitByKnowledge(
@@ -71,8 +57,10 @@ std::vector<WordPiece> SplitByKnowledge(
 {
     std::vector<WordPiece> pieces;
     for (std::size_t i = 0; i < writing.size();) {
-        std::size_t length = 1;
-        const char32_t c = Decode(writing, i, length);
+        // The lexicon's texts are checked when it is opened; a bad byte is taken on its own.
+        const Utf8Sequence sequence = DecodeUtf8At(writing, i);
+        const std::size_t length = sequence.length ? sequence.length : 1;
+        const char32_t c = sequence.codePoint;
         bool known = true;
         if (IsKanji(c)) {
             const std::uint16_t id = lexicon.CharacterOf(c);

@@ -78,10 +78,7 @@ void ReadingTestPage::ShowWord(bool on)
     FeedbackLine* line = on ? m_onWord : m_kunWord;
     if (!m_lexicon || !line || !m_character)
         return;
-    const Lexicon* lexicon = m_lexicon->Get();
-    if (const char* problem = m_lexicon->TakeProblem())
-        m_prompt.Ask(this, QMessageBox::Warning, tr("Words and parts"),
-            tr("Words and parts cannot be shown: %1").arg(StoreText(problem)));
+    const Lexicon* lexicon = LexiconOrReport(*m_lexicon, m_prompt, this);
     if (!lexicon)
         return;
     const std::optional<LexiconWord> word

@@ -340,14 +340,6 @@ Möchten Sie einen Minidump davon erhalten?</translation>
         <translation>Nächste Wiederholung: %1</translation>
     </message>
     <message>
-        <source>Words and parts</source>
-        <translation>Wörter und Bestandteile</translation>
-    </message>
-    <message>
-        <source>Words and parts cannot be shown: %1</source>
-        <translation>Wörter und Bestandteile können nicht angezeigt werden: %1</translation>
-    </message>
-    <message>
         <source>Words</source>
         <translation>Wörter</translation>
     </message>
@@ -472,6 +464,17 @@ Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</transl
     <message>
         <source>&amp;Next</source>
         <translation>&amp;Weiter</translation>
+    </message>
+</context>
+<context>
+    <name>LexiconAccess</name>
+    <message>
+        <source>Words and parts</source>
+        <translation>Wörter und Bestandteile</translation>
+    </message>
+    <message>
+        <source>Words and parts cannot be shown: %1</source>
+        <translation>Wörter und Bestandteile können nicht angezeigt werden: %1</translation>
     </message>
 </context>
 <context>
@@ -874,14 +877,6 @@ Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</transl
     <message>
         <source>A word with this KUN reading</source>
         <translation>Ein Wort mit dieser KUN-Lesung</translation>
-    </message>
-    <message>
-        <source>Words and parts</source>
-        <translation>Wörter und Bestandteile</translation>
-    </message>
-    <message>
-        <source>Words and parts cannot be shown: %1</source>
-        <translation>Wörter und Bestandteile können nicht angezeigt werden: %1</translation>
     </message>
 </context>
 <context>

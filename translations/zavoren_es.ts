@@ -340,14 +340,6 @@ Error fatal en Zavoren.<byte value="xd"/>
         <translation>Próximo repaso: %1</translation>
     </message>
     <message>
-        <source>Words and parts</source>
-        <translation>Palabras y componentes</translation>
-    </message>
-    <message>
-        <source>Words and parts cannot be shown: %1</source>
-        <translation>No se pueden mostrar las palabras ni los componentes: %1</translation>
-    </message>
-    <message>
         <source>Words</source>
         <translation>Palabras</translation>
     </message>
@@ -472,6 +464,17 @@ Sí lo sustituye; No importa al alumno con otro nombre.</translation>
     <message>
         <source>&amp;Next</source>
         <translation>&amp;Siguiente</translation>
+    </message>
+</context>
+<context>
+    <name>LexiconAccess</name>
+    <message>
+        <source>Words and parts</source>
+        <translation>Palabras y componentes</translation>
+    </message>
+    <message>
+        <source>Words and parts cannot be shown: %1</source>
+        <translation>No se pueden mostrar las palabras ni los componentes: %1</translation>
     </message>
 </context>
 <context>
@@ -874,14 +877,6 @@ Sí lo sustituye; No importa al alumno con otro nombre.</translation>
     <message>
         <source>A word with this KUN reading</source>
         <translation>Una palabra con esta lectura KUN</translation>
-    </message>
-    <message>
-        <source>Words and parts</source>
-        <translation>Palabras y componentes</translation>
-    </message>
-    <message>
-        <source>Words and parts cannot be shown: %1</source>
-        <translation>No se pueden mostrar las palabras ni los componentes: %1</translation>
     </message>
 </context>
 <context>

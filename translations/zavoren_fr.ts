@@ -340,14 +340,6 @@ Voulez-vous en obtenir un minidump ?</translation>
         <translation>Prochaine révision : %1</translation>
     </message>
     <message>
-        <source>Words and parts</source>
-        <translation>Mots et composants</translation>
-    </message>
-    <message>
-        <source>Words and parts cannot be shown: %1</source>
-        <translation>Les mots et les composants ne peuvent pas être affichés : %1</translation>
-    </message>
-    <message>
         <source>Words</source>
         <translation>Mots</translation>
     </message>
@@ -472,6 +464,17 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
     <message>
         <source>&amp;Next</source>
         <translation>&amp;Suivant</translation>
+    </message>
+</context>
+<context>
+    <name>LexiconAccess</name>
+    <message>
+        <source>Words and parts</source>
+        <translation>Mots et composants</translation>
+    </message>
+    <message>
+        <source>Words and parts cannot be shown: %1</source>
+        <translation>Les mots et les composants ne peuvent pas être affichés : %1</translation>
     </message>
 </context>
 <context>
@@ -874,14 +877,6 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
     <message>
         <source>A word with this KUN reading</source>
         <translation>Un mot avec cette lecture KUN</translation>
-    </message>
-    <message>
-        <source>Words and parts</source>
-        <translation>Mots et composants</translation>
-    </message>
-    <message>
-        <source>Words and parts cannot be shown: %1</source>
-        <translation>Les mots et les composants ne peuvent pas être affichés : %1</translation>
     </message>
 </context>
 <context>

@@ -340,14 +340,6 @@ Deseja obter um minidump?</translation>
         <translation>Próxima revisão: %1</translation>
     </message>
     <message>
-        <source>Words and parts</source>
-        <translation>Palavras e componentes</translation>
-    </message>
-    <message>
-        <source>Words and parts cannot be shown: %1</source>
-        <translation>Não é possível mostrar as palavras e os componentes: %1</translation>
-    </message>
-    <message>
         <source>Words</source>
         <translation>Palavras</translation>
     </message>
@@ -472,6 +464,17 @@ Sim substitui; Não importa o aluno com outro nome.</translation>
     <message>
         <source>&amp;Next</source>
         <translation>&amp;Próximo</translation>
+    </message>
+</context>
+<context>
+    <name>LexiconAccess</name>
+    <message>
+        <source>Words and parts</source>
+        <translation>Palavras e componentes</translation>
+    </message>
+    <message>
+        <source>Words and parts cannot be shown: %1</source>
+        <translation>Não é possível mostrar as palavras e os componentes: %1</translation>
     </message>
 </context>
 <context>
@@ -874,14 +877,6 @@ Sim substitui; Não importa o aluno com outro nome.</translation>
     <message>
         <source>A word with this KUN reading</source>
         <translation>Uma palavra com esta leitura KUN</translation>
-    </message>
-    <message>
-        <source>Words and parts</source>
-        <translation>Palavras e componentes</translation>
-    </message>
-    <message>
-        <source>Words and parts cannot be shown: %1</source>
-        <translation>Não é possível mostrar as palavras e os componentes: %1</translation>
     </message>
 </context>
 <context>

@@ -340,14 +340,6 @@ Do you want to get minidump for it?</source>
         <translation>Следующее повторение: %1</translation>
     </message>
     <message>
-        <source>Words and parts</source>
-        <translation>Слова и части</translation>
-    </message>
-    <message>
-        <source>Words and parts cannot be shown: %1</source>
-        <translation>Невозможно показать слова и части: %1</translation>
-    </message>
-    <message>
         <source>Words</source>
         <translation>Слова</translation>
     </message>
@@ -472,6 +464,17 @@ Yes replaces it; No imports the learner under another name.</source>
     <message>
         <source>&amp;Next</source>
         <translation>&amp;Далее</translation>
+    </message>
+</context>
+<context>
+    <name>LexiconAccess</name>
+    <message>
+        <source>Words and parts</source>
+        <translation>Слова и части</translation>
+    </message>
+    <message>
+        <source>Words and parts cannot be shown: %1</source>
+        <translation>Невозможно показать слова и части: %1</translation>
     </message>
 </context>
 <context>
@@ -874,14 +877,6 @@ Yes replaces it; No imports the learner under another name.</source>
     <message>
         <source>A word with this KUN reading</source>
         <translation>Слово с этим чтением КУН</translation>
-    </message>
-    <message>
-        <source>Words and parts</source>
-        <translation>Слова и части</translation>
-    </message>
-    <message>
-        <source>Words and parts cannot be shown: %1</source>
-        <translation>Невозможно показать слова и части: %1</translation>
     </message>
 </context>
 <context>

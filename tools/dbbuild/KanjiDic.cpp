@@ -1,4 +1,5 @@
 #include "KanjiDic.h"
+#include "Utf8.h"
 
 #include <pugixml.hpp>
 #include <zlib.h>
@@ -39,32 +40,8 @@ char32_t FirstCodePoint(const std::string& utf8)
 {
     if (utf8.empty())
         return 0;
-    const auto* s = reinterpret_cast<const unsigned char*>(utf8.data());
-    const std::size_t n = utf8.size();
-    if (s[0] < 0x80)
-        return s[0];
-    int length = 0;
-    char32_t cp = 0;
-    if ((s[0] & 0xE0) == 0xC0) {
-        length = 2;
-        cp = s[0] & 0x1F;
-    } else if ((s[0] & 0xF0) == 0xE0) {
-        length = 3;
-        cp = s[0] & 0x0F;
-    } else if ((s[0] & 0xF8) == 0xF0) {
-        length = 4;
-        cp = s[0] & 0x07;
-    } else {
-        return 0;
-    }
-    if (n < static_cast<std::size_t>(length))
-        return 0;
-    for (int i = 1; i < length; ++i) {
-        if ((s[i] & 0xC0) != 0x80)
-            return 0;
-        cp = (cp << 6) | (s[i] & 0x3F);
-    }
-    return cp;
+    const Utf8Sequence first = DecodeUtf8At(utf8, 0);
+    return first.length ? first.codePoint : 0;
 }
 
 std::map<char32_t, KanjiDicEntry> ReadKanjiDic(const std::string& path, const std::string& language)

@@ -2,6 +2,7 @@
 
 #include "DatabaseBuilder.h"
 #include "KanjiDic.h"
+#include "Utf8.h"
 
 #include <pugixml.hpp>
 
@@ -15,19 +16,6 @@
 #include <tuple>
 
 namespace {
-
-/// The code points of a UTF-8 text (which the decoder has already made valid).
-std::vector<char32_t> CodePoints(const std::string& text)
-{
-    std::vector<char32_t> out;
-    for (std::size_t i = 0; i < text.size();) {
-        const auto b = static_cast<unsigned char>(text[i]);
-        const std::size_t length = b < 0x80 ? 1 : b < 0xE0 ? 2 : b < 0xF0 ? 3 : 4;
-        out.push_back(FirstCodePoint(text.substr(i, length)));
-        i += length;
-    }
-    return out;
-}
 
 bool IsKanji(char32_t c)
 {
@@ -46,7 +34,7 @@ std::u32string Hiragana(const std::vector<char32_t>& text)
 
 std::u32string ToU32(const std::string& text)
 {
-    const std::vector<char32_t> points = CodePoints(text);
+    const std::vector<char32_t> points = CodePointsOf(text);
     return std::u32string(points.begin(), points.end());
 }
 
@@ -69,7 +57,7 @@ char32_t Voiced(char32_t c)
 std::vector<std::u32string> ReadingForms(const std::string& reading, bool on)
 {
     std::u32string plain;
-    for (char32_t c : Hiragana(CodePoints(reading)))
+    for (char32_t c : Hiragana(CodePointsOf(reading)))
         if (c != U'.' && c != U'-')
             plain += c;
     std::vector<std::u32string> forms;
@@ -133,7 +121,7 @@ std::vector<Ranked> Rank(const std::vector<LexiconCharacter>& characters, std::s
     ranked.reserve(candidates.size());
     for (std::size_t index : candidates) {
         const EdictEntry& entry = entries[index];
-        const std::vector<char32_t> points = CodePoints(entry.writing);
+        const std::vector<char32_t> points = CodePointsOf(entry.writing);
         if (HasAlphanumerics(points))
             continue;
         Taught latest{-1, -1};
@@ -290,7 +278,7 @@ std::vector<std::uint8_t> BuildLexicon(const std::vector<LexiconCharacter>& char
     std::vector<std::vector<std::size_t>> candidates(characters.size());
     for (std::size_t index = 0; index < entries.size(); ++index) {
         std::set<std::uint16_t> seen;
-        for (char32_t c : CodePoints(entries[index].writing)) {
+        for (char32_t c : CodePointsOf(entries[index].writing)) {
             const auto found = ids.find(c);
             if (found != ids.end() && seen.insert(found->second).second)
                 candidates[found->second].push_back(index);
