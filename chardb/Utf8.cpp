@@ -77,3 +77,9 @@ std::string EncodeUtf8(char32_t c)
     }
     return out;
 }
+
+bool IsKanji(char32_t c)
+{
+    return (c >= 0x4E00 && c <= 0x9FFF) || (c >= 0x3400 && c <= 0x4DBF) || (c >= 0xF900 && c <= 0xFAFF)
+        || (c >= 0x20000 && c <= 0x3134F);
+}

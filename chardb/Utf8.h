@@ -24,3 +24,6 @@ std::vector<char32_t> CodePointsOf(std::string_view text);
 
 /// A code point as UTF-8.
 std::string EncodeUtf8(char32_t codePoint);
+
+/// Whether the code point is a CJK ideograph: a kanji, as opposed to kana, signs and letters.
+bool IsKanji(char32_t codePoint);

@@ -26,6 +26,11 @@ constexpr int TextColumnUnits = 150;
 constexpr int TextLines = 3;
 /// Pen of a part drawn on its own, in pixels at ratio 1: a little finer than the big canvas's.
 constexpr qreal PartPenWidth = 2.0;
+
+QString Text(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
 } // namespace
 
 KanjiInfoDialog::KanjiInfoDialog(CharacterDatabase& database, Prompt& prompt, QWidget* parent)
@@ -107,114 +112,125 @@ void KanjiInfoDialog::ShowWordsAndParts(std::uint16_t code)
     const std::vector<LexiconPart> parts = lexicon->Parts(code);
     if (words.empty() && parts.empty())
         return;
-
     m_wordsAndParts = new QWidget(this);
     m_wordsAndParts->setObjectName(QStringLiteral("wordsAndParts"));
     auto* layout = new QVBoxLayout(m_wordsAndParts);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto heading = [this, layout](const QString& text, const char* name) {
-        auto* label = new QLabel(text, m_wordsAndParts);
-        label->setObjectName(QLatin1String(name));
-        QFont bold = label->font();
-        bold.setBold(true);
-        label->setFont(bold);
-        layout->addWidget(label);
-    };
     if (!words.empty()) {
         // The interface is in English exactly when none of our translations is installed; they
         // translate every text, this heading included.
         const bool english = tr("Words") == QLatin1String("Words");
-        heading(english ? tr("Words") : tr("Words (meanings in English)"), "wordsHeading");
-        // Characters not learned yet are dimmed, so the learner sees which words they can read.
-        const QString dim = palette().color(QPalette::Disabled, QPalette::WindowText).name();
+        layout->addWidget(Heading(english ? tr("Words") : tr("Words (meanings in English)"), "wordsHeading"));
         for (std::size_t i = 0; i < words.size(); ++i) {
-            const LexiconWord& word = words[i];
-            QString html;
-            QStringList unknown;
-            for (const WordPiece& piece : SplitByKnowledge(*lexicon, word.writing, m_words.learned)) {
-                const QString text = QString::fromStdString(piece.text).toHtmlEscaped();
-                if (piece.known) {
-                    html += text;
-                } else {
-                    html += QStringLiteral("<span style=\"color:%1\">%2</span>").arg(dim, text);
-                    unknown << QString::fromStdString(piece.text);
-                }
-            }
-            const QString reading = QString::fromUtf8(word.reading.data(), static_cast<qsizetype>(word.reading.size()));
-            const QString meaning = QString::fromUtf8(word.meaning.data(), static_cast<qsizetype>(word.meaning.size()));
-            auto* row = new QLabel(m_wordsAndParts);
+            QLabel* row = WordRow(*lexicon, words[i]);
             row->setObjectName(QStringLiteral("word%1").arg(i));
-            row->setTextFormat(Qt::RichText);
-            row->setWordWrap(true);
-            row->setText(QStringLiteral("%1&nbsp;&nbsp;%2 \u2014 %3").arg(html, reading.toHtmlEscaped(), meaning.toHtmlEscaped()));
-            const QString writing = QString::fromUtf8(word.writing.data(), static_cast<qsizetype>(word.writing.size()));
-            row->setAccessibleName(QStringLiteral("%1, %2, %3").arg(writing, reading, meaning));
-            if (!unknown.isEmpty())
-                row->setAccessibleDescription(tr("Not learned yet: %1").arg(unknown.join(QLatin1Char(' '))));
-            // For tests and for whoever looks at the widget: which characters are dimmed.
-            row->setProperty("dimmed", unknown.join(QString()));
             layout->addWidget(row);
         }
     }
     if (!parts.empty()) {
-        heading(tr("Parts"), "partsHeading");
+        layout->addWidget(Heading(tr("Parts"), "partsHeading"));
         auto* row = new QHBoxLayout;
-        // Each part drawn from the character's own strokes, so that every part shows, whatever
-        // the fonts hold (many parts, like ⺍, are in none of them); the font is the fallback.
-        const int side = 2 * fontMetrics().height() + 4;
-        const qreal ratio = devicePixelRatioF();
-        auto picture = [&](const LexiconPart& part, QPalette::ColorRole background) {
-            QImage image(qRound(side * ratio), qRound(side * ratio), QImage::Format_RGB32);
-            image.fill(palette().color(background));
-            DrawStrokesFitted(image, m_glyph->GetForm(0), part.strokes, qRound(4 * ratio),
-                palette().color(QPalette::WindowText).rgb(), PartPenWidth * ratio);
-            image.setDevicePixelRatio(ratio);
-            return QPixmap::fromImage(image);
-        };
-        QFont large = font();
-        large.setPointSizeF(large.pointSizeF() * 1.5);
         for (std::size_t i = 0; i < parts.size(); ++i) {
-            const LexiconPart& part = parts[i];
-            const QString text = QString::fromUcs4(&part.codePoint, 1);
-            const bool drawn = part.strokes != 0 && m_glyph->GetForm(0).StrokeCount() > 0;
-            QWidget* shown = nullptr;
-            if (part.characterId != Lexicon::NoCharacter && m_database.CharacterExists(part.characterId)) {
-                auto* button = new QToolButton(m_wordsAndParts);
-                if (drawn) {
-                    button->setIcon(picture(part, QPalette::Button));
-                    button->setIconSize(QSize(side, side));
-                } else {
-                    button->setText(text);
-                    button->setFont(large);
-                }
-                button->setToolTip(tr("Open the Kanji Info of %1").arg(text));
-                button->setAccessibleName(tr("Part %1, opens its Kanji Info").arg(text));
-                button->setCursor(Qt::PointingHandCursor);
-                const std::uint16_t target = part.characterId;
-                connect(button, &QToolButton::clicked, this, [this, target] { OpenPart(target); });
-                shown = button;
-            } else {
-                auto* label = new QLabel(m_wordsAndParts);
-                if (drawn) {
-                    label->setPixmap(picture(part, QPalette::Window));
-                } else {
-                    label->setText(text);
-                    label->setFont(large);
-                }
-                label->setToolTip(text);
-                label->setAccessibleName(tr("Part %1").arg(text));
-                label->setAlignment(Qt::AlignCenter);
-                shown = label;
-            }
-            shown->setObjectName(QStringLiteral("part%1").arg(i));
-            shown->setFixedSize(side + 8, side + 8);
-            row->addWidget(shown);
+            QWidget* part = PartWidget(parts[i]);
+            part->setObjectName(QStringLiteral("part%1").arg(i));
+            row->addWidget(part);
         }
         row->addStretch();
         layout->addLayout(row);
     }
     // Under the texts (and the next review), above the Close button.
     m_ui->texts->insertWidget(m_ui->texts->indexOf(m_nextReview) + 1, m_wordsAndParts);
+}
+
+QLabel* KanjiInfoDialog::Heading(const QString& text, const char* name)
+{
+    auto* label = new QLabel(text, m_wordsAndParts);
+    label->setObjectName(QLatin1String(name));
+    QFont bold = label->font();
+    bold.setBold(true);
+    label->setFont(bold);
+    return label;
+}
+
+QLabel* KanjiInfoDialog::WordRow(const Lexicon& lexicon, const LexiconWord& word)
+{
+    // Characters not learned yet are dimmed, so the learner sees which words they can read.
+    const QString dim = palette().color(QPalette::Disabled, QPalette::WindowText).name();
+    QString html;
+    QStringList unknown;
+    for (const WordPiece& piece : SplitByKnowledge(lexicon, word.writing, m_words.learned)) {
+        const QString text = QString::fromStdString(piece.text);
+        if (piece.known) {
+            html += text.toHtmlEscaped();
+        } else {
+            html += QStringLiteral("<span style=\"color:%1\">%2</span>").arg(dim, text.toHtmlEscaped());
+            unknown << text;
+        }
+    }
+    const QString writing = Text(word.writing);
+    const QString reading = Text(word.reading);
+    const QString meaning = Text(word.meaning);
+    auto* row = new QLabel(m_wordsAndParts);
+    row->setTextFormat(Qt::RichText);
+    row->setWordWrap(true);
+    row->setText(QStringLiteral("%1&nbsp;&nbsp;%2 \u2014 %3").arg(html, reading.toHtmlEscaped(), meaning.toHtmlEscaped()));
+    row->setAccessibleName(QStringLiteral("%1, %2, %3").arg(writing, reading, meaning));
+    if (!unknown.isEmpty())
+        row->setAccessibleDescription(tr("Not learned yet: %1").arg(unknown.join(QLatin1Char(' '))));
+    // For tests and for whoever looks at the widget: which characters are dimmed.
+    row->setProperty("dimmed", unknown.join(QString()));
+    return row;
+}
+
+QWidget* KanjiInfoDialog::PartWidget(const LexiconPart& part)
+{
+    // Each part is drawn from the character's own strokes, so that every part shows, whatever
+    // the fonts hold (many parts, like ⺍, are in none of them); the font is the fallback.
+    const int side = 2 * fontMetrics().height() + 4;
+    const qreal ratio = devicePixelRatioF();
+    const bool drawn = part.strokes != 0;
+    auto picture = [&](QPalette::ColorRole background) {
+        QImage image(qRound(side * ratio), qRound(side * ratio), QImage::Format_RGB32);
+        image.fill(palette().color(background));
+        DrawStrokesFitted(image, m_glyph->GetForm(0), part.strokes, qRound(4 * ratio),
+            palette().color(QPalette::WindowText).rgb(), PartPenWidth * ratio);
+        image.setDevicePixelRatio(ratio);
+        return QPixmap::fromImage(image);
+    };
+    QFont large = font();
+    large.setPointSizeF(large.pointSizeF() * 1.5);
+    const QString text = QString::fromUcs4(&part.codePoint, 1);
+    QWidget* shown = nullptr;
+    if (part.characterId != Lexicon::NoCharacter && m_database.CharacterExists(part.characterId)) {
+        auto* button = new QToolButton(m_wordsAndParts);
+        if (drawn) {
+            button->setIcon(picture(QPalette::Button));
+            button->setIconSize(QSize(side, side));
+        } else {
+            button->setText(text);
+            button->setFont(large);
+        }
+        button->setToolTip(tr("Open the Kanji Info of %1").arg(text));
+        button->setAccessibleName(tr("Part %1, opens its Kanji Info").arg(text));
+        button->setCursor(Qt::PointingHandCursor);
+        const std::uint16_t target = part.characterId;
+        connect(button, &QToolButton::clicked, this, [this, target] { OpenPart(target); });
+        shown = button;
+    } else {
+        auto* label = new QLabel(m_wordsAndParts);
+        if (drawn) {
+            label->setPixmap(picture(QPalette::Window));
+        } else {
+            label->setText(text);
+            label->setFont(large);
+        }
+        label->setToolTip(text);
+        label->setAccessibleName(tr("Part %1").arg(text));
+        label->setAlignment(Qt::AlignCenter);
+        shown = label;
+    }
+    shown->setFixedSize(side + 8, side + 8);
+    return shown;
 }
 
 void KanjiInfoDialog::OpenPart(std::uint16_t code)

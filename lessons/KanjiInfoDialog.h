@@ -46,6 +46,11 @@ protected:
 
 private:
     void ShowWordsAndParts(std::uint16_t code);
+    QLabel* Heading(const QString& text, const char* name);
+    /// A word with the characters not learned yet dimmed.
+    QLabel* WordRow(const Lexicon& lexicon, const LexiconWord& word);
+    /// A part drawn with the character's strokes: a button to its Kanji Info when it has one.
+    QWidget* PartWidget(const LexiconPart& part);
     void OpenPart(std::uint16_t code);
     DisplayCanvas* Display() const;
     QLabel* OnReadingLabel() const;

@@ -42,16 +42,6 @@ const char* LexiconAccess::TakeProblem()
     return problem;
 }
 
-namespace {
-
-bool IsKanji(char32_t c)
-{
-    return (c >= 0x4E00 && c <= 0x9FFF) || (c >= 0x3400 && c <= 0x4DBF) || (c >= 0xF900 && c <= 0xFAFF)
-        || (c >= 0x20000 && c <= 0x3134F);
-}
-
-} // namespace
-
 std::vector<WordPiece> SplitByKnowledge(
     const Lexicon& lexicon, std::string_view writing, const std::function<bool(std::uint16_t)>& learned)
 {

@@ -54,12 +54,6 @@ void CollectPaths(pugi::xml_node node, std::vector<pugi::xml_node>& paths)
     }
 }
 
-bool IsKanji(char32_t c)
-{
-    return (c >= 0x4E00 && c <= 0x9FFF) || (c >= 0x3400 && c <= 0x4DBF) || (c >= 0xF900 && c <= 0xFAFF)
-        || (c >= 0x20000 && c <= 0x3134F);
-}
-
 /// Teaching order: ranked by frequency first, then unranked; ties by strokes, then code point.
 bool TeachesBefore(const KanjiDicEntry& a, const KanjiDicEntry& b)
 {

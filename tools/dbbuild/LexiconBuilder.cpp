@@ -17,12 +17,6 @@
 
 namespace {
 
-bool IsKanji(char32_t c)
-{
-    return (c >= 0x4E00 && c <= 0x9FFF) || (c >= 0x3400 && c <= 0x4DBF) || (c >= 0xF900 && c <= 0xFAFF)
-        || (c >= 0x20000 && c <= 0x3134F);
-}
-
 /// Katakana to hiragana; everything else as it is.
 std::u32string Hiragana(const std::vector<char32_t>& text)
 {
