@@ -158,8 +158,7 @@ void Lexicon::Check()
     m_text.resize(m_textSize);
     uLongf unpacked = m_textSize;
     // An empty text is stored as an empty stream; anything else must unpack to exactly T bytes.
-    if (m_textSize > 0
-        && (::uncompress(m_text.data(), &unpacked, b + text, stored) != Z_OK || unpacked != m_textSize))
+    if (m_textSize > 0 && (::uncompress(m_text.data(), &unpacked, b + text, stored) != Z_OK || unpacked != m_textSize))
         Damaged();
     if (m_textSize == 0 && stored != 0)
         Damaged();
@@ -197,8 +196,8 @@ void Lexicon::Check()
         m_byCodePoint.emplace_back(static_cast<char32_t>(codePoint), static_cast<std::uint16_t>(id));
     }
     std::sort(m_byCodePoint.begin(), m_byCodePoint.end());
-    if (std::adjacent_find(m_byCodePoint.begin(), m_byCodePoint.end(),
-            [](const auto& a, const auto& b) { return a.first == b.first; })
+    if (std::adjacent_find(
+            m_byCodePoint.begin(), m_byCodePoint.end(), [](const auto& a, const auto& b) { return a.first == b.first; })
         != m_byCodePoint.end())
         Damaged();
 }
@@ -224,8 +223,8 @@ char32_t Lexicon::CodePoint(std::uint16_t id) const
 
 std::uint16_t Lexicon::CharacterOf(char32_t codePoint) const
 {
-    const auto found = std::lower_bound(m_byCodePoint.begin(), m_byCodePoint.end(),
-        std::make_pair(codePoint, std::uint16_t{0}));
+    const auto found
+        = std::lower_bound(m_byCodePoint.begin(), m_byCodePoint.end(), std::make_pair(codePoint, std::uint16_t{0}));
     return found != m_byCodePoint.end() && found->first == codePoint ? found->second : NoCharacter;
 }
 

@@ -1,9 +1,9 @@
 // The lexicon reader on files its writer makes and on files it never would: every damage is a
 // DatabaseLoadException with its message, never a crash or a read outside the file.
 
+#include "Lexicon.h"
 #include "DatabaseKey.h"
 #include "DatabaseLoadException.h"
-#include "Lexicon.h"
 #include "LexiconFormat.h"
 #include "LexiconWriter.h"
 #include "RawDatabaseFile.h"
@@ -30,10 +30,11 @@ Bytes SmallLexicon()
 {
     LexiconWriter writer(Key);
     const Word tomorrow{"明日", "あす", "tomorrow; near future", true};
-    writer.AddCharacter(U'日', {{"日", "ひ", "day; days", true}, tomorrow}, {}, Word{"日曜", "にちよう", "Sunday", true},
-        std::nullopt);
+    writer.AddCharacter(
+        U'日', {{"日", "ひ", "day; days", true}, tomorrow}, {}, Word{"日曜", "にちよう", "Sunday", true}, std::nullopt);
     writer.AddCharacter(U'月', {{"月", "つき", "moon; month", true}}, {}, std::nullopt, std::nullopt);
-    writer.AddCharacter(U'明', {{"明るい", "あかるい", "light; well-lit", true}, tomorrow, {"明星", "みょうじょう", "Venus", false}},
+    writer.AddCharacter(U'明',
+        {{"明るい", "あかるい", "light; well-lit", true}, tomorrow, {"明星", "みょうじょう", "Venus", false}},
         {{U'日', 0, 0x0F}, {U'月', 1, 0xF0}, {U'⺍', 0xFFFF, 0}}, Word{"説明", "せつめい", "explanation", true},
         Word{"明るい", "あかるい", "light; well-lit", true});
     return writer.Serialize();
@@ -170,7 +171,8 @@ TEST(LexiconTest, EveryTruncationIsDamage)
 {
     const Bytes whole = SmallLexicon();
     for (std::size_t size = 0; size < whole.size(); ++size)
-        EXPECT_EQ(Thrown([&] { Lexicon(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size))); }), Damaged)
+        EXPECT_EQ(
+            Thrown([&] { Lexicon(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size))); }), Damaged)
             << size;
     Bytes longer = whole;
     longer.push_back(0);

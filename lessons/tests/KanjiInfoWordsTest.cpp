@@ -1,12 +1,12 @@
 // Kanji Info with words and parts: what it shows under the texts, which characters it dims,
 // parts that open their own Kanji Info, and nothing at all where there is nothing to show.
 
-#include "Named.h"
 #include "DatabaseKey.h"
 #include "KanjiInfoDialog.h"
 #include "LexiconAccess.h"
 #include "LexiconWriter.h"
 #include "ModalAnswerer.h"
+#include "Named.h"
 #include "RecordingPrompt.h"
 #include "TestSupport.h"
 
@@ -60,18 +60,22 @@ private slots:
         w.AddCharacter(w.AddStrokeElement(sun), "ニチ", "ひ", "day");
         w.AddCharacter(w.AddStrokeElement(moon), "ゲツ", "つき", "moon");
         w.AddCharacter(w.AddStrokeElement(bright), "メイ", "あか.るい", "bright");
-        w.AddCharacter(w.AddStrokeElement(SmallDatabase::Lines({{10, 50, 99, 50}, {54, 10, 54, 99}})), "ジュウ", "とお", "ten");
+        w.AddCharacter(
+            w.AddStrokeElement(SmallDatabase::Lines({{10, 50, 99, 50}, {54, 10, 54, 99}})), "ジュウ", "とお", "ten");
         w.AddCategory("Test", {0, 1, 2, 3});
         m_db = m_small.Open();
 
         LexiconWriter lexicon(DatabaseKey::Of(*m_db));
-        lexicon.AddCharacter(U'日', {{"日", "ひ", "day; sun", true}, {"明日", "あす", "tomorrow", true}}, {}, std::nullopt, std::nullopt);
+        lexicon.AddCharacter(U'日', {{"日", "ひ", "day; sun", true}, {"明日", "あす", "tomorrow", true}}, {},
+            std::nullopt, std::nullopt);
         lexicon.AddCharacter(U'月', {{"月", "つき", "moon", true}}, {}, std::nullopt, std::nullopt);
         lexicon.AddCharacter(U'明',
-            {{"明日", "あす", "tomorrow", true}, {"明るい", "あかるい", "light", true}, {"明月", "めいげつ", "bright moon", true},
-                {"説明", "せつめい", "explanation", true}, {"明白", "めいはく", "obvious", false},
-                {"明暗", "めいあん", "light and shade", false}, {"文明", "ぶんめい", "civilization", false}},
-            {{U'日', 0, 0x0F}, {U'月', 1, 0xF0}, {U'⺍', 0xFFFF, 0x01}, {U'丶', 0xFFFF, 0}}, std::nullopt, std::nullopt);
+            {{"明日", "あす", "tomorrow", true}, {"明るい", "あかるい", "light", true},
+                {"明月", "めいげつ", "bright moon", true}, {"説明", "せつめい", "explanation", true},
+                {"明白", "めいはく", "obvious", false}, {"明暗", "めいあん", "light and shade", false},
+                {"文明", "ぶんめい", "civilization", false}},
+            {{U'日', 0, 0x0F}, {U'月', 1, 0xF0}, {U'⺍', 0xFFFF, 0x01}, {U'丶', 0xFFFF, 0}}, std::nullopt,
+            std::nullopt);
         lexicon.AddCharacter(U'十', {}, {}, std::nullopt, std::nullopt);
         m_lexiconBytes = lexicon.Serialize();
     }
@@ -202,7 +206,8 @@ private slots:
         const std::string damaged = dir.filePath(QStringLiteral("lexicon")).toStdString();
         std::vector<std::uint8_t> bytes = m_lexiconBytes;
         bytes[bytes.size() / 2] ^= 0xFF;
-        std::ofstream(damaged, std::ios::binary).write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+        std::ofstream(damaged, std::ios::binary)
+            .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
         LexiconAccess words(damaged, *m_db);
         RecordingPrompt prompt;
         for (int i = 0; i < 2; ++i) {
@@ -212,7 +217,8 @@ private slots:
             QVERIFY(!dialog.findChild<QWidget*>(QStringLiteral("wordsAndParts")));
         }
         QCOMPARE(prompt.messages,
-            QStringList{QStringLiteral("Words and parts: Words and parts cannot be shown: The lexicon file is damaged")});
+            QStringList{
+                QStringLiteral("Words and parts: Words and parts cannot be shown: The lexicon file is damaged")});
         QCOMPARE(prompt.icons.value(0), QMessageBox::Warning);
 
         LexiconAccess none(dir.filePath(QStringLiteral("none")).toStdString(), *m_db);
@@ -229,7 +235,8 @@ private slots:
         LexiconWriter other(12345);
         other.AddCharacter(U'日', {{"日", "ひ", "day", true}}, {}, std::nullopt, std::nullopt);
         const auto bytes = other.Serialize();
-        std::ofstream(path, std::ios::binary).write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+        std::ofstream(path, std::ios::binary)
+            .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
         LexiconAccess words(path, *m_db);
         RecordingPrompt prompt;
         KanjiInfoDialog dialog(*m_db, prompt);

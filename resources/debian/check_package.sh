@@ -26,7 +26,7 @@ done
 contents=$(dpkg-deb -c "$deb" | awk '{ print $6 }')
 for file in ./usr/bin/zavoren ./usr/bin/zavoren-db ./usr/libexec/zavoren/zavoren ./usr/libexec/zavoren/zavoren-progress.so \
     ./usr/share/zavoren/database ./usr/share/zavoren/database-fr ./usr/share/zavoren/database-es \
-    ./usr/share/zavoren/database-pt ./usr/share/zavoren/Zavoren.html \
+    ./usr/share/zavoren/database-pt ./usr/share/zavoren/lexicon ./usr/share/zavoren/Zavoren.html \
     ./usr/share/applications/io.github.zavoren.Zavoren.desktop \
     ./usr/share/metainfo/io.github.zavoren.Zavoren.metainfo.xml \
     ./usr/share/icons/hicolor/scalable/apps/io.github.zavoren.Zavoren.svg \

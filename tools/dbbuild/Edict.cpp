@@ -12,16 +12,16 @@ namespace {
 
 /// EDICT's own tags: parts of speech, usage, field and writing notes.
 const std::set<std::string, std::less<>> Tags = {"abbr", "adj", "adj-f", "adj-i", "adj-ix", "adj-ku", "adj-na",
-    "adj-nari", "adj-no", "adj-pn", "adj-shiku", "adj-t", "adv", "adv-to", "anat", "arch", "archit", "astron",
-    "ateji", "aux", "aux-adj", "aux-v", "baseb", "biol", "bot", "Buddh", "bus", "chem", "Christn", "col", "comp",
-    "conj", "cop", "cop-da", "ctr", "dated", "derog", "eK", "econ", "ek", "engr", "exp", "fam", "fem", "finc",
-    "food", "geol", "geom", "gikun", "hist", "hon", "hum", "iK", "id", "ik", "int", "io", "joc", "ksb", "ktb",
-    "kyb", "kyu", "law", "ling", "MA", "mahj", "male", "male-sl", "math", "med", "mil", "music", "n", "n-adv",
-    "n-pr", "n-pref", "n-suf", "n-t", "nab", "num", "oK", "obs", "obsc", "ok", "on-mim", "osb", "P", "physics",
-    "pn", "poet", "pol", "pref", "proverb", "prt", "quote", "rare", "rkb", "sens", "shogi", "sl", "sports", "suf",
-    "sumo", "thb", "tsb", "tsug", "uK", "uk", "unc", "v-unspec", "v1", "v1-s", "v2a-s", "v4h", "v4r", "v5",
-    "v5aru", "v5b", "v5g", "v5k", "v5k-s", "v5m", "v5n", "v5r", "v5r-i", "v5s", "v5t", "v5u", "v5u-s", "v5uru",
-    "vi", "vk", "vn", "vr", "vs", "vs-c", "vs-i", "vs-s", "vt", "vulg", "vz", "X", "yoji", "zool"};
+    "adj-nari", "adj-no", "adj-pn", "adj-shiku", "adj-t", "adv", "adv-to", "anat", "arch", "archit", "astron", "ateji",
+    "aux", "aux-adj", "aux-v", "baseb", "biol", "bot", "Buddh", "bus", "chem", "Christn", "col", "comp", "conj", "cop",
+    "cop-da", "ctr", "dated", "derog", "eK", "econ", "ek", "engr", "exp", "fam", "fem", "finc", "food", "geol", "geom",
+    "gikun", "hist", "hon", "hum", "iK", "id", "ik", "int", "io", "joc", "ksb", "ktb", "kyb", "kyu", "law", "ling",
+    "MA", "mahj", "male", "male-sl", "math", "med", "mil", "music", "n", "n-adv", "n-pr", "n-pref", "n-suf", "n-t",
+    "nab", "num", "oK", "obs", "obsc", "ok", "on-mim", "osb", "P", "physics", "pn", "poet", "pol", "pref", "proverb",
+    "prt", "quote", "rare", "rkb", "sens", "shogi", "sl", "sports", "suf", "sumo", "thb", "tsb", "tsug", "uK", "uk",
+    "unc", "v-unspec", "v1", "v1-s", "v2a-s", "v4h", "v4r", "v5", "v5aru", "v5b", "v5g", "v5k", "v5k-s", "v5m", "v5n",
+    "v5r", "v5r-i", "v5s", "v5t", "v5u", "v5u-s", "v5uru", "vi", "vk", "vn", "vr", "vs", "vs-c", "vs-i", "vs-s", "vt",
+    "vulg", "vz", "X", "yoji", "zool"};
 
 bool IsTagList(const std::string& inside)
 {
@@ -31,7 +31,8 @@ bool IsTagList(const std::string& inside)
     bool any = false;
     while (std::getline(items, item, ',')) {
         any = true;
-        const bool number = !item.empty() && std::all_of(item.begin(), item.end(), [](char c) { return c >= '0' && c <= '9'; });
+        const bool number
+            = !item.empty() && std::all_of(item.begin(), item.end(), [](char c) { return c >= '0' && c <= '9'; });
         const bool archaicVerb = item.size() >= 3 && item.rfind("v2", 0) == 0; // v2a-s … v2z-s
         if (!number && !archaicVerb && !Tags.count(item))
             return false;

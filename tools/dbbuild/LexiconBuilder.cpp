@@ -8,8 +8,8 @@
 
 #include <algorithm>
 #include <climits>
-#include <cstdlib>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <map>
 #include <set>
@@ -177,7 +177,8 @@ void CollectParts(const pugi::xml_node& group, char32_t self, std::vector<KanjiV
         if (part == 0 || part == self)
             continue;
         const std::uint64_t strokes = StrokesUnder(child);
-        const auto seen = std::find_if(parts.begin(), parts.end(), [part](const KanjiVgPart& p) { return p.codePoint == part; });
+        const auto seen
+            = std::find_if(parts.begin(), parts.end(), [part](const KanjiVgPart& p) { return p.codePoint == part; });
         if (seen != parts.end()) {
             seen->strokes |= strokes; // the second half of a part split in two
             continue;

@@ -34,15 +34,15 @@ std::vector<LexiconWriter::Word> ChooseWords(const std::vector<LexiconCharacter>
 /// The best common word whose reading shows `character` with one of its ON readings (`on`) or
 /// KUN readings, or none.
 std::optional<LexiconWriter::Word> ChooseReadingWord(const std::vector<LexiconCharacter>& characters,
-    std::size_t character, const std::vector<EdictEntry>& entries, const std::vector<std::size_t>& candidates,
-    bool on);
+    std::size_t character, const std::vector<EdictEntry>& entries, const std::vector<std::size_t>& candidates, bool on);
 
 /// The parts of a character from its full KanjiVG SVG in `directory`: the kvg:element names of
 /// the groups right under the character's own group (looking inside groups that name none), in
 /// drawing order, without repeats and without the character itself, each with the strokes its
 /// groups hold (a part split in two, like 衣 around 里 in 裏, has the strokes of both). None
 /// when there is no file. `strokeCount` receives the drawing's number of strokes.
-std::vector<KanjiVgPart> ReadKanjiVgParts(const std::string& directory, char32_t codePoint, std::size_t* strokeCount = nullptr);
+std::vector<KanjiVgPart> ReadKanjiVgParts(
+    const std::string& directory, char32_t codePoint, std::size_t* strokeCount = nullptr);
 
 /// The whole `lexicon` file for the database whose characters (in id order) are `characters`
 /// and whose DatabaseKey is `databaseKey`. Same inputs, same bytes.

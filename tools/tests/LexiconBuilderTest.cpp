@@ -2,12 +2,12 @@
 // in KanjiVG's shape: which words a character gets and in what order, the readings' words,
 // the parts and their strokes.
 
+#include "LexiconBuilder.h"
 #include "DatabaseBuilder.h"
 #include "DatabaseKey.h"
 #include "Edict.h"
 #include "FileCharacterDatabase.h"
 #include "Lexicon.h"
-#include "LexiconBuilder.h"
 
 #include <gtest/gtest.h>
 
@@ -30,7 +30,8 @@ struct Sample {
         o.kanjivgDir = Data + "/kanjivg";
         o.kanjidicPath = Data + "/kanjidic2-sample.xml.gz";
         database = BuildDatabase(o, report);
-        lexiconBytes = BuildLexicon(report.built, report.databaseKey, ReadEdict(Data + "/edict-sample"), Data + "/kanjivg-parts");
+        lexiconBytes = BuildLexicon(
+            report.built, report.databaseKey, ReadEdict(Data + "/edict-sample"), Data + "/kanjivg-parts");
     }
     std::uint16_t Id(char32_t c) const
     {
@@ -67,7 +68,8 @@ TEST(Edict, DecodesEucJpAndSkipsTheDescriptionLine)
     ASSERT_TRUE(Find(entries, "丂", "こう"));
     ASSERT_TRUE(Find(entries, "ｶﾀｶﾅ", "ｶﾀｶﾅ")); // written in kana: read as written
     EXPECT_EQ(Find(entries, "ｶﾀｶﾅ", "ｶﾀｶﾅ")->glosses.front(), "half-width katakana, two bytes each in EUC-JP");
-    EXPECT_FALSE(std::any_of(entries.begin(), entries.end(), [](const EdictEntry& e) { return e.writing == "？？？"; }));
+    EXPECT_FALSE(
+        std::any_of(entries.begin(), entries.end(), [](const EdictEntry& e) { return e.writing == "？？？"; }));
 }
 
 TEST(Edict, AnEntryWithSeveralWritingsGivesOneWordEach)
@@ -100,7 +102,8 @@ TEST(Edict, OnlyItsOwnTagsAreTakenFromTheGlosses)
 
 TEST(Edict, AFileThatIsNotEucJpIsRefusedWithItsLine)
 {
-    const std::string path = (std::filesystem::temp_directory_path() / ("zavoren-edict-" + std::to_string(getpid()))).string();
+    const std::string path
+        = (std::filesystem::temp_directory_path() / ("zavoren-edict-" + std::to_string(getpid()))).string();
     std::ofstream(path, std::ios::binary) << "header /x/\n水 [みず] /(n) water/\n\xFF\xFF [x] /bad/\n";
     try {
         ReadEdict(path);
@@ -130,7 +133,8 @@ TEST(LexiconBuilder, CommonWordsFirstThenTheEarliestTaughtThenTheShortest)
     const auto water = lexicon.Words(s.Id(U'水'));
     EXPECT_EQ(Writings(lexicon, s.Id(U'水')), (std::vector<std::string>{"水", "水曜", "一水", "水一"}));
     EXPECT_EQ(std::string(water[0].reading), "みず");
-    EXPECT_EQ(std::string(water[0].meaning), "water (esp. cool, fresh water, e.g. drinking water); fluid (esp. in an animal tissue)");
+    EXPECT_EQ(std::string(water[0].meaning),
+        "water (esp. cool, fresh water, e.g. drinking water); fluid (esp. in an animal tissue)");
     EXPECT_TRUE(water[1].common);
     EXPECT_FALSE(water[2].common);
     EXPECT_EQ(std::string(water[3].meaning), "(in) water one (a word made for the tests)");
@@ -207,9 +211,11 @@ TEST(LexiconBuilder, MadeForItsDatabaseAndTheSameEachTime)
     const Sample first;
     const Sample second;
     EXPECT_EQ(first.lexiconBytes, second.lexiconBytes);
-    const std::string path = (std::filesystem::temp_directory_path() / ("zavoren-lexdb-" + std::to_string(getpid()))).string();
+    const std::string path
+        = (std::filesystem::temp_directory_path() / ("zavoren-lexdb-" + std::to_string(getpid()))).string();
     std::ofstream(path, std::ios::binary)
-        .write(reinterpret_cast<const char*>(first.database.data()), static_cast<std::streamsize>(first.database.size()));
+        .write(
+            reinterpret_cast<const char*>(first.database.data()), static_cast<std::streamsize>(first.database.size()));
     FileCharacterDatabase database(path);
     database.Preload(nullptr);
     const Lexicon lexicon(first.lexiconBytes);
