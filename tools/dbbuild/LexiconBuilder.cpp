@@ -2,6 +2,7 @@
 
 #include "DatabaseBuilder.h"
 #include "KanjiDic.h"
+#include "LexiconFormat.h"
 #include "Utf8.h"
 
 #include <pugixml.hpp>
@@ -104,13 +105,20 @@ bool HasAlphanumerics(const std::vector<char32_t>& points)
     });
 }
 
-std::vector<Ranked> Rank(const std::vector<LexiconCharacter>& characters, std::size_t character,
-    const std::vector<EdictEntry>& entries, const std::vector<std::size_t>& candidates)
+using TaughtMap = std::map<char32_t, Taught>;
+
+TaughtMap TaughtOf(const std::vector<LexiconCharacter>& characters)
 {
-    std::map<char32_t, Taught> taught;
+    TaughtMap taught;
     for (const LexiconCharacter& c : characters)
         taught.emplace(c.codePoint, Taught{c.category, c.position});
-    const char32_t self = characters[character].codePoint;
+    return taught;
+}
+
+/// The candidate words of the character `self`, best first.
+std::vector<Ranked> Rank(const TaughtMap& taught, char32_t self, const std::vector<EdictEntry>& entries,
+    const std::vector<std::size_t>& candidates)
+{
     std::vector<Ranked> ranked;
     ranked.reserve(candidates.size());
     for (std::size_t index : candidates) {
@@ -197,12 +205,13 @@ std::string WordMeaning(const EdictEntry& entry)
     return meaning;
 }
 
-std::vector<LexiconWriter::Word> ChooseWords(const std::vector<LexiconCharacter>& characters, std::size_t character,
-    const std::vector<EdictEntry>& entries, const std::vector<std::size_t>& candidates, std::size_t limit)
+namespace {
+
+std::vector<LexiconWriter::Word> BestWords(const std::vector<Ranked>& ranked, std::size_t limit)
 {
     std::vector<LexiconWriter::Word> words;
     std::set<std::string> writings;
-    for (const Ranked& r : Rank(characters, character, entries, candidates)) {
+    for (const Ranked& r : ranked) {
         if (words.size() == limit)
             break;
         // One line of EDICT per reading: a writing with three readings is one word here, in its
@@ -214,17 +223,16 @@ std::vector<LexiconWriter::Word> ChooseWords(const std::vector<LexiconCharacter>
     return words;
 }
 
-std::optional<LexiconWriter::Word> ChooseReadingWord(const std::vector<LexiconCharacter>& characters,
-    std::size_t character, const std::vector<EdictEntry>& entries, const std::vector<std::size_t>& candidates, bool on)
+std::optional<LexiconWriter::Word> BestReadingWord(
+    const std::vector<Ranked>& ranked, const LexiconCharacter& c, bool on)
 {
-    const LexiconCharacter& c = characters[character];
     std::vector<std::u32string> forms;
     for (const std::string& reading : on ? c.onReadings : c.kunReadings)
         for (std::u32string& form : ReadingForms(reading, on))
             forms.push_back(std::move(form));
     if (forms.empty())
         return std::nullopt;
-    for (const Ranked& r : Rank(characters, character, entries, candidates)) {
+    for (const Ranked& r : ranked) {
         if (!r.common)
             break; // the common ones come first
         // An ON reading is shown in a compound (学校), not in the character alone.
@@ -236,6 +244,21 @@ std::optional<LexiconWriter::Word> ChooseReadingWord(const std::vector<LexiconCh
                 return MakeWord(*r.entry);
     }
     return std::nullopt;
+}
+
+} // namespace
+
+std::vector<LexiconWriter::Word> ChooseWords(const std::vector<LexiconCharacter>& characters, std::size_t character,
+    const std::vector<EdictEntry>& entries, const std::vector<std::size_t>& candidates, std::size_t limit)
+{
+    return BestWords(Rank(TaughtOf(characters), characters[character].codePoint, entries, candidates), limit);
+}
+
+std::optional<LexiconWriter::Word> ChooseReadingWord(const std::vector<LexiconCharacter>& characters,
+    std::size_t character, const std::vector<EdictEntry>& entries, const std::vector<std::size_t>& candidates, bool on)
+{
+    return BestReadingWord(
+        Rank(TaughtOf(characters), characters[character].codePoint, entries, candidates), characters[character], on);
 }
 
 std::vector<KanjiVgPart> ReadKanjiVgParts(const std::string& directory, char32_t codePoint, std::size_t* strokeCount)
@@ -279,6 +302,7 @@ std::vector<std::uint8_t> BuildLexicon(const std::vector<LexiconCharacter>& char
                 candidates[found->second].push_back(index);
         }
     }
+    const TaughtMap taught = TaughtOf(characters);
     LexiconWriter writer(databaseKey);
     for (std::size_t id = 0; id < characters.size(); ++id) {
         const char32_t codePoint = characters[id].codePoint;
@@ -296,9 +320,10 @@ std::vector<std::uint8_t> BuildLexicon(const std::vector<LexiconCharacter>& char
                 target = original->second;
             parts.push_back(LexiconWriter::Part{part.codePoint, target, sameDrawing ? part.strokes : 0});
         }
-        writer.AddCharacter(codePoint, ChooseWords(characters, id, entries, candidates[id], 8), parts,
-            ChooseReadingWord(characters, id, entries, candidates[id], true),
-            ChooseReadingWord(characters, id, entries, candidates[id], false));
+        // Ranked once for the words and both readings' words.
+        const std::vector<Ranked> ranked = Rank(taught, codePoint, entries, candidates[id]);
+        writer.AddCharacter(codePoint, BestWords(ranked, LexiconFormat::MaxWords), parts,
+            BestReadingWord(ranked, characters[id], true), BestReadingWord(ranked, characters[id], false));
     }
     try {
         return writer.Serialize();
