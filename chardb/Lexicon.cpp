@@ -155,7 +155,11 @@ void Lexicon::Check()
     m_references = m_words + std::size_t(m_wordCount) * F::WordSize;
     m_parts = m_references + std::size_t(m_referenceCount) * F::ReferenceSize;
     const std::size_t text = m_parts + std::size_t(m_partCount) * F::PartSize;
-    m_text.resize(m_textSize);
+    try {
+        m_text.resize(m_textSize);
+    } catch (const std::bad_alloc&) {
+        throw DatabaseLoadException(StoreMessage::OpenLexicon);
+    }
     uLongf unpacked = m_textSize;
     // An empty text is stored as an empty stream; anything else must unpack to exactly T bytes.
     if (m_textSize > 0 && (::uncompress(m_text.data(), &unpacked, b + text, stored) != Z_OK || unpacked != m_textSize))
