@@ -64,12 +64,15 @@ std::vector<WordPiece> SplitByKnowledge(
     return pieces;
 }
 
+bool HasLearned(const User& learner, std::uint16_t id)
+{
+    for (const CategoryProgress& progress : learner.Progress())
+        if (progress.IsLearned(id))
+            return true;
+    return false;
+}
+
 std::function<bool(std::uint16_t)> LearnedBy(const User& learner)
 {
-    return [&learner](std::uint16_t id) {
-        for (const CategoryProgress& progress : learner.Progress())
-            if (progress.IsLearned(id))
-                return true;
-        return false;
-    };
+    return [&learner](std::uint16_t id) { return HasLearned(learner, id); };
 }

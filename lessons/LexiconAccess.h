@@ -49,7 +49,9 @@ struct WordPiece {
 std::vector<WordPiece> SplitByKnowledge(
     const Lexicon& lexicon, std::string_view writing, const std::function<bool(std::uint16_t)>& learned);
 
-/// Whether `learner` (who must outlive the function) has learned a character, in any category.
+/// Whether `learner` has learned the character, in any category.
+bool HasLearned(const User& learner, std::uint16_t id);
+/// HasLearned for `learner`, who must outlive the function.
 std::function<bool(std::uint16_t)> LearnedBy(const User& learner);
 
 /// What Kanji Info needs to show a character's words and parts.

@@ -80,7 +80,7 @@ void MainWindow::ApplyWordAids()
     if (m_preferences.wordsAndParts) {
         context.lexicon = m_lexicon.get();
         // Read when Kanji Info opens, so it follows the learner open then.
-        context.learned = [this](std::uint16_t id) { return m_learner && LearnedBy(*m_learner)(id); };
+        context.learned = [this](std::uint16_t id) { return m_learner && HasLearned(*m_learner, id); };
     }
     m_category->SetWords(std::move(context));
     m_test->ReadingPage()->SetWordAid(m_preferences.wordAfterAnswer ? m_lexicon.get() : nullptr);

@@ -4,6 +4,7 @@
 
 #include "DatabaseLoadException.h"
 #include "FileCharacterDatabase.h"
+#include "LimitedChild.h"
 #include "RawDatabaseFile.h"
 
 #include <gtest/gtest.h>
@@ -20,17 +21,6 @@ using ZavorenCommon::DatabaseLoadException;
 
 namespace {
 
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool AddressSanitizer = true;
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-constexpr bool AddressSanitizer = true;
-#else
-constexpr bool AddressSanitizer = false;
-#endif
-#else
-constexpr bool AddressSanitizer = false;
-#endif
 
 /// The message of the DatabaseLoadException that `load` throws, or "" when it throws none.
 template<typename Load> std::string LoadError(Load load)
@@ -72,29 +62,6 @@ RawDatabaseFile MultiplyingCompositions()
     return f;
 }
 
-/// Runs `body` in a child process whose address space is limited to `limitBytes` (no limit
-/// under AddressSanitizer, which reserves terabytes of shadow memory); the child's exit code.
-template<typename Body> int InLimitedChild(rlim_t limitBytes, Body body)
-{
-    const pid_t child = ::fork();
-    if (child == 0) {
-        ::alarm(60);
-        if (!AddressSanitizer) {
-            const rlimit limit{limitBytes, limitBytes};
-            ::setrlimit(RLIMIT_AS, &limit);
-        }
-        try {
-            ::_exit(body() ? 0 : 1);
-        } catch (const std::bad_alloc&) {
-            ::_exit(2);
-        } catch (...) {
-            ::_exit(3);
-        }
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : 100 + WTERMSIG(status);
-}
 
 class HostileDatabaseTest : public ::testing::Test {
 protected:

@@ -6,6 +6,7 @@
 #include "DatabaseLoadException.h"
 #include "LexiconFormat.h"
 #include "LexiconWriter.h"
+#include "LimitedChild.h"
 #include "RawDatabaseFile.h"
 
 #include <gtest/gtest.h>
@@ -14,7 +15,9 @@
 #include <zlib.h>
 
 #include <cstring>
+#include <fstream>
 #include <functional>
+#include <string>
 
 using namespace testdb;
 using Word = LexiconWriter::Word;
@@ -251,6 +254,30 @@ TEST(LexiconTest, TextThatIsNotUtf8OrDoesNotUnpackIsDamage)
     Set32(b, 28, Get32(b, 28) + 1);
     Reseal(b);
     EXPECT_EQ(Thrown([&] { Lexicon{b}; }), Damaged);
+}
+
+/// This process's address space in bytes (its VmSize), so that a child can be given a little more.
+rlim_t AddressSpace()
+{
+    std::ifstream status("/proc/self/status");
+    std::string line;
+    while (std::getline(status, line))
+        if (line.rfind("VmSize:", 0) == 0)
+            return static_cast<rlim_t>(std::stoull(line.substr(7))) * 1024;
+    return RLIM_INFINITY;
+}
+
+TEST(LexiconTest, ATextClaimingMoreThanZlibCanPackIsRefusedBeforeItsRoomIsTaken)
+{
+    // 60 MiB claimed for a stream of a few hundred bytes: within the file size limit, far past
+    // what zlib packs so small. Given 32 MiB more than it has, the reader must find the lie
+    // before making room for the claim (the room would fail as "Unable to open lexicon").
+    Bytes b = SmallLexicon();
+    Set32(b, 28, 60u << 20);
+    Reseal(b);
+    const int exitCode = InLimitedChild(AddressSpace() + (rlim_t{32} << 20),
+        [&] { return Thrown([&] { Lexicon{b}; }) == Damaged; });
+    EXPECT_EQ(exitCode, 0) << "1: refused for another reason (the room was asked for first)";
 }
 
 TEST(LexiconTest, TheDatabaseKeyFollowsTheReadingsAndTheirOrder)

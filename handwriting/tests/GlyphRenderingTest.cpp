@@ -155,3 +155,57 @@ int main(int argc, char** argv)
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }
+
+namespace {
+
+/// The box of the pixels that are not `background`.
+QRect InkBox(const QImage& image, QRgb background)
+{
+    QRect box;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixel(x, y) != background)
+                box |= QRect(x, y, 1, 1);
+    return box;
+}
+
+/// A character of two strokes: a tall line in the left quarter, a short one at the bottom right.
+Form LeftLineAndDot()
+{
+    Form form(100, 100);
+    Stroke tall(Point{20, 10});
+    tall.AppendSegment(Segment(SegmentType::Line, {20, 90}));
+    form.AppendStroke(tall);
+    Stroke dot(Point{80, 85});
+    dot.AppendSegment(Segment(SegmentType::Line, {85, 85}));
+    form.AppendStroke(dot);
+    return form;
+}
+
+} // namespace
+
+TEST(GlyphRendering, StrokesFittedFillTheImageCentredWithTheirProportions)
+{
+    const QRgb white = qRgb(255, 255, 255);
+    // Only the tall line (bit 0): moved from the left quarter to the middle, filling the height
+    // less the margin, and staying thin.
+    QImage image = Canvas(60, 60, white);
+    DrawStrokesFitted(image, LeftLineAndDot(), 0b01, 5, qRgb(0, 0, 0), 2);
+    const QRect box = InkBox(image, white);
+    ASSERT_FALSE(box.isEmpty());
+    EXPECT_NEAR(box.center().x(), 30, 2);
+    EXPECT_NEAR(box.center().y(), 30, 2);
+    EXPECT_GE(box.height(), 48);
+    EXPECT_LE(box.width(), 6);
+    // The dot alone is scaled as if it spanned a quarter of the character's box: its 5 units
+    // over 25 give 10 px of the 50, plus the pen (blown up, it would fill the 50).
+    QImage dot = Canvas(60, 60, white);
+    DrawStrokesFitted(dot, LeftLineAndDot(), 0b10, 5, qRgb(0, 0, 0), 2);
+    EXPECT_GE(InkBox(dot, white).width(), 10);
+    EXPECT_LE(InkBox(dot, white).width(), 16);
+    // No strokes picked, or strokes past the character's: nothing drawn.
+    QImage none = Canvas(60, 60, white);
+    DrawStrokesFitted(none, LeftLineAndDot(), 0, 5, qRgb(0, 0, 0), 2);
+    DrawStrokesFitted(none, LeftLineAndDot(), 0b100, 5, qRgb(0, 0, 0), 2);
+    EXPECT_TRUE(InkBox(none, white).isEmpty());
+}

@@ -254,13 +254,6 @@ std::vector<LexiconWriter::Word> ChooseWords(const std::vector<LexiconCharacter>
     return BestWords(Rank(TaughtOf(characters), characters[character].codePoint, entries, candidates), limit);
 }
 
-std::optional<LexiconWriter::Word> ChooseReadingWord(const std::vector<LexiconCharacter>& characters,
-    std::size_t character, const std::vector<EdictEntry>& entries, const std::vector<std::size_t>& candidates, bool on)
-{
-    return BestReadingWord(
-        Rank(TaughtOf(characters), characters[character].codePoint, entries, candidates), characters[character], on);
-}
-
 std::vector<KanjiVgPart> ReadKanjiVgParts(const std::string& directory, char32_t codePoint, std::size_t* strokeCount)
 {
     const std::filesystem::path file = std::filesystem::path(directory) / (HexName(codePoint) + ".svg");

@@ -26,15 +26,11 @@ struct KanjiVgPart {
 
 /// The words that use `character` (index in `characters`), most useful first: common words,
 /// then those whose other characters are taught earliest (a character outside the database
-/// counts as never taught), then shorter, then by writing and reading. One per writing; at
-/// most `limit`. `byCharacter` lists, per character, the entries whose writing contains it.
+/// counts as never taught), then shorter; among equals a word on its own before a suffix or
+/// counter and the one with more senses first, then by writing and reading. One per writing; at
+/// most `limit`. `candidates` are the indexes of the entries whose writing contains it.
 std::vector<LexiconWriter::Word> ChooseWords(const std::vector<LexiconCharacter>& characters, std::size_t character,
     const std::vector<EdictEntry>& entries, const std::vector<std::size_t>& candidates, std::size_t limit);
-
-/// The best common word whose reading shows `character` with one of its ON readings (`on`) or
-/// KUN readings, or none.
-std::optional<LexiconWriter::Word> ChooseReadingWord(const std::vector<LexiconCharacter>& characters,
-    std::size_t character, const std::vector<EdictEntry>& entries, const std::vector<std::size_t>& candidates, bool on);
 
 /// The parts of a character from its full KanjiVG SVG in `directory`: the kvg:element names of
 /// the groups right under the character's own group (looking inside groups that name none), in
