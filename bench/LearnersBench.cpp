@@ -3,7 +3,7 @@
 
 #include "FileCharacterDatabase.h"
 #include "TenYears.h"
-#include "XmlConfigStore.h"
+#include "StoreWithHistory.h"
 
 #include <cstdio>
 #include <benchmark/benchmark.h>
@@ -163,7 +163,7 @@ struct TenYearsFixture {
         std::ifstream file(Config());
         withHistory.assign(std::istreambuf_iterator<char>(file), {});
         // Brought over once, and written without the history.
-        XmlConfigStore store(Config(), *database, History());
+        StoreWithHistory store(Config(), *database, History());
         auto learner = store.LoadUser("Learner 0");
         store.SaveUser(*learner);
     }
@@ -191,7 +191,7 @@ void BM_BringOverFiveTenYearLearners(benchmark::State& state)
         for (const char* suffix : {"", "-wal", "-shm"})
             fs::remove(history.string() + suffix);
         state.ResumeTiming();
-        XmlConfigStore store(config.string(), *f.database, history.string());
+        StoreWithHistory store(config.string(), *f.database, history.string());
         benchmark::DoNotOptimize(store.UserCount());
     }
     state.counters["config_bytes"] = static_cast<double>(f.withHistory.size());
@@ -202,7 +202,7 @@ BENCHMARK(BM_BringOverFiveTenYearLearners)->Unit(benchmark::kMillisecond)->Itera
 void BM_RecordTestResults(benchmark::State& state)
 {
     TenYearsFixture& f = TenYears();
-    XmlConfigStore store(f.Config(), *f.database, f.History());
+    StoreWithHistory store(f.Config(), *f.database, f.History());
     auto learner = store.LoadUser("Learner 1");
     store.OpenHistory();
     std::uint16_t next = 0;
@@ -223,7 +223,7 @@ void BM_SaveConfigWithTenYearLearner(benchmark::State& state)
     TenYearsFixture& f = TenYears();
     const std::string config = (f.dir / "one-learner.xml").string();
     std::ofstream(config) << "<Zavoren><Users/></Zavoren>";
-    XmlConfigStore store(config, *f.database, f.History());
+    StoreWithHistory store(config, *f.database, f.History());
     store.AddUser("Learner 0");
     auto learner = store.LoadUser("Learner 0");
     TenYearsOfPractice(*f.database, *learner); // the progress; the events are in history.db already
@@ -241,7 +241,7 @@ BENCHMARK(BM_SaveConfigWithTenYearLearner)->Unit(benchmark::kMillisecond);
 void BM_AddLearnerBesideFiveTenYearLearners(benchmark::State& state)
 {
     TenYearsFixture& f = TenYears();
-    XmlConfigStore store(f.Config(), *f.database, f.History());
+    StoreWithHistory store(f.Config(), *f.database, f.History());
     store.OpenHistory();
     auto size = [](const std::string& path) {
         std::error_code ignored;
@@ -284,7 +284,7 @@ BENCHMARK(BM_OpenHistoryOfFiveTenYearLearners)->Unit(benchmark::kMillisecond);
 void BM_DueCountsOfTenYearLearner(benchmark::State& state)
 {
     TenYearsFixture& f = TenYears();
-    XmlConfigStore store(f.Config(), *f.database, f.History());
+    StoreWithHistory store(f.Config(), *f.database, f.History());
     auto learner = store.LoadUser("Learner 4");
     store.Memories(*learner); // worked out once from the events after they were brought over
     const int today = DayOfDate(2026, 11, 23);
@@ -305,7 +305,7 @@ void BM_OpenHistoryForTheHomePage(benchmark::State& state)
 {
     TenYearsFixture& f = TenYears();
     for (auto _ : state) {
-        XmlConfigStore store(f.Config(), *f.database, f.History());
+        StoreWithHistory store(f.Config(), *f.database, f.History());
         auto learner = store.LoadUser("Learner 4");
         benchmark::DoNotOptimize(store.Memories(*learner).memories.size());
     }
@@ -316,7 +316,7 @@ BENCHMARK(BM_OpenHistoryForTheHomePage)->Unit(benchmark::kMillisecond);
 void BM_ReadTenYearHistory(benchmark::State& state)
 {
     TenYearsFixture& f = TenYears();
-    XmlConfigStore store(f.Config(), *f.database, f.History());
+    StoreWithHistory store(f.Config(), *f.database, f.History());
     auto learner = store.LoadUser("Learner 3");
     for (auto _ : state)
         benchmark::DoNotOptimize(store.History(*learner).size());

@@ -7,7 +7,7 @@
 #include "ProgressWindow.h"
 #include "Prompt.h"
 #include "TenYears.h"
-#include "XmlConfigStore.h"
+#include "StoreWithHistory.h"
 
 #include <benchmark/benchmark.h>
 
@@ -32,14 +32,14 @@ struct Fixture {
     FileCharacterDatabase database{ZAVOREN_STANDARD_DATABASE};
     User learner;
     std::vector<LearnerEvent> history;
-    std::unique_ptr<XmlConfigStore> store;
+    std::unique_ptr<StoreWithHistory> store;
     Fixture()
     {
         std::string pattern = (fs::temp_directory_path() / "zavoren-bench-progress-XXXXXX").string();
         dir = mkdtemp(pattern.data());
         database.Preload(nullptr);
         std::ofstream(dir / "config.xml") << "<Zavoren><Users/></Zavoren>";
-        store = std::make_unique<XmlConfigStore>((dir / "config.xml").string(), database, (dir / "history.db").string());
+        store = std::make_unique<StoreWithHistory>((dir / "config.xml").string(), database, (dir / "history.db").string());
         store->AddUser("Anna");
         learner.SetName("Anna");
         history = TenYearsOfPractice(database, learner);

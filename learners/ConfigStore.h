@@ -1,17 +1,17 @@
 #pragma once
 
-#include "ReviewSchedule.h"
 #include "User.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
-/// Why the learning history could not be kept in its database.
-struct HistoryProblem {
-    std::string reason; ///< what went wrong, as the database says it; empty: nothing did
-    std::string keptAs; ///< where a damaged file was put aside, when it was
+/// One learner's history as a learner file kept it.
+struct KeptHistory {
+    std::string learner;
+    std::vector<LearnerEvent> events;
 };
 
 /// The store of learners and their progress. Failures throw ZavorenCommon::ConfigException.
@@ -34,26 +34,22 @@ public:
     /// The current learner's name; empty when there is none.
     virtual const std::string& CurrentUserName() const = 0;
 
-    /// Keeps the events of one action of `learner` (a lesson's characters, a test's results):
-    /// in the history database, all or none, durably once this returns; where there is none,
-    /// with the learner's record (written with the next save).
-    virtual void Record(User& learner, const std::vector<LearnerEvent>& events) = 0;
-    /// The learner's whole history, oldest first.
-    virtual std::vector<LearnerEvent> History(const User& learner) = 0;
-    /// Writes an imported learner's record and makes the history it carries their whole
-    /// history; as SaveUser otherwise.
-    virtual bool ImportUser(User& user) = 0;
-    /// Opens the history database if it is not open yet, and starts checking it whole in the
-    /// background (a failure it finds is told by TakeHistoryProblem once it is over).
-    virtual void OpenHistory() = 0;
-    /// Whether the check OpenHistory started is still running.
-    virtual bool HistoryBeingChecked() = 0;
-    /// Each character's memory as the learner's whole history leaves it.
-    virtual LearnerMemories Memories(const User& learner) = 0;
-    /// Why the history is no longer kept in its database, once: the failure not yet told, or
-    /// an empty reason.
-    virtual HistoryProblem TakeHistoryProblem() = 0;
+    /// The histories that the learners' records in the file hold (the history kept with the
+    /// learners, by this program without its database or by an older one).
+    virtual std::vector<KeptHistory> KeptHistories() const = 0;
+    /// Removes those histories from the records; the file loses them with the next save.
+    virtual void DropKeptHistories() = 0;
+    /// Who is told the name of a learner deleted or added: the history under that name is no
+    /// longer anybody's.
+    virtual void SetNameFreed(std::function<void(const std::string& name)> listener) = 0;
 
+    /// The learner to open at start: the current one, else the only one; empty for none.
+    std::string StartUserName() const
+    {
+        if (CurrentUserName().empty() && UserCount() == 1)
+            return UserName(0);
+        return CurrentUserName();
+    }
     /// Whether a learner of exactly this name is in the store.
     bool HasUser(const std::string& name) const
     {
@@ -64,10 +60,14 @@ public:
     }
 };
 
-/// The process's store, opened on first use from "config.xml" in the current folder, with the
-/// history in "history.db" beside it. A failed open throws ConfigException and leaves it unset,
-/// so the next call tries again.
+/// The process's store, opened on first use from "config.xml" in the current folder. A failed
+/// open throws ConfigException and leaves it unset, so the next call tries again.
 ConfigStore& GetConfigStore();
 
-/// Releases the character database first, then the learner store (at exit).
+class LearningHistory;
+/// The process's learning history, in "history.db" beside config.xml, made on first use after
+/// the store (GetConfigStore, which may throw) and bringing over what the file held.
+LearningHistory& GetLearningHistory();
+
+/// Releases the character database first, then the history and the learner store (at exit).
 void ReleaseDataStores();

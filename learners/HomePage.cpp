@@ -3,6 +3,7 @@
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
 #include "FittedText.h"
+#include "LearnerSession.h"
 #include "Prompt.h"
 #include "StoredPicture.h"
 #include "User.h"
@@ -42,7 +43,34 @@ HomePage::HomePage(CharacterDatabase& database, Prompt& prompt, QWidget* parent)
     UpdateButtons();
 }
 
+HomePage::HomePage(CharacterDatabase& database, Prompt& prompt, LearnerSession& session, QWidget* parent)
+    : HomePage(database, prompt, parent)
+{
+    m_session = &session;
+    connect(&session, &LearnerSession::learnerChanged, this, [this] {
+        m_stale = false;
+        SetUser(m_session->Learner());
+        if (m_session->Learner() && m_session->Rules().on)
+            SetReviews(m_session->Reviews());
+    });
+    connect(&session, &LearnerSession::progressChanged, this, [this] {
+        m_stale = true;
+        if (isVisible())
+            RefreshFromSession();
+    });
+}
+
 HomePage::~HomePage() = default;
+
+void HomePage::RefreshFromSession()
+{
+    m_stale = false;
+    // With the reviews every category's due count may have moved, not only the selected one's.
+    if (m_session->Rules().on || m_reviews)
+        SetReviews(m_session->Reviews());
+    else
+        RefreshSelectedCategory();
+}
 
 QLabel* HomePage::UserNameLabel() const
 {
@@ -153,6 +181,8 @@ void HomePage::UpdateButtons()
 void HomePage::showEvent(QShowEvent* event)
 {
     Page::showEvent(event);
+    if (m_stale && m_session)
+        RefreshFromSession();
     UpdateButtons();
     CategoryList()->setFocus();
 }

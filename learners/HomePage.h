@@ -11,6 +11,7 @@
 #include <memory>
 
 class CharacterDatabase;
+class LearnerSession;
 class Prompt;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -28,6 +29,9 @@ public:
     enum Event : quint16 { OpenCategory = 0 };
 
     HomePage(CharacterDatabase& database, Prompt& prompt, QWidget* parent = nullptr);
+    /// The page of the learner open in `session`, following it: another learner shows at once,
+    /// changed progress and reviews when the page is next shown (at once when it is shown).
+    HomePage(CharacterDatabase& database, Prompt& prompt, LearnerSession& session, QWidget* parent = nullptr);
     ~HomePage() override;
 
     /// The learner whose progress is shown (not owned), or null when none is open.
@@ -55,6 +59,8 @@ private:
     void UpdateButtons();
     void ShowDueTotal();
     void OnOpen();
+    /// Reads the counts and due reviews again from the session.
+    void RefreshFromSession();
 
     std::unique_ptr<Ui::HomePage> m_ui;
     CharacterDatabase& m_database;
@@ -65,4 +71,6 @@ private:
     QIcon m_newIcon;
     std::optional<ReviewSchedule> m_reviews;
     QLabel* m_dueTotal = nullptr;
+    LearnerSession* m_session = nullptr;
+    bool m_stale = false; ///< the session's progress changed while the page was hidden
 };

@@ -3,7 +3,6 @@
 
 #include "AtomicFile.h"
 #include "ConfigException.h"
-#include "MemoryCache.h"
 #include "DatabaseLoadException.h"
 #include "TextRules.h"
 #include "UserRecordXml.h"
@@ -93,20 +92,15 @@ void RemoveStaleTemporaries(const std::filesystem::path& path)
 
 } // namespace
 
-XmlConfigStore::XmlConfigStore(std::string path, CharacterDatabase& database, std::string historyPath)
-    : XmlConfigStore(
-          std::move(path), [&database]() -> CharacterDatabase& { return database; }, std::move(historyPath))
+XmlConfigStore::XmlConfigStore(std::string path, CharacterDatabase& database)
+    : XmlConfigStore(std::move(path), [&database]() -> CharacterDatabase& { return database; })
 {
 }
 
-XmlConfigStore::XmlConfigStore(std::string path, DatabaseSource database, std::string historyPath)
-    : m_path(std::move(path)), m_historyPath(std::move(historyPath))
+XmlConfigStore::XmlConfigStore(std::string path, DatabaseSource database) : m_path(std::move(path))
 {
-    if (m_historyPath.empty())
-        m_historyState = HistoryState::InConfig;
     try {
         Open(database);
-        BringOverHistories();
     } catch (const std::bad_alloc&) {
         throw ConfigException(StoreMessage::LoadConfig);
     }
@@ -139,27 +133,6 @@ void XmlConfigStore::Open(const DatabaseSource& database)
         throw ConfigException(e.what());
     }
     ReadUserList();
-}
-
-XmlConfigStore::~XmlConfigStore()
-{
-    try {
-        // The check's own connection closed first, so that the file is stamped as it stays.
-        CollectCheck(true);
-        if (m_historyState != HistoryState::Open || m_currentUserName.empty())
-            return;
-        LearnerMemories memories;
-        std::string error;
-        if (!m_histories->Memories(m_currentUserName, memories, error))
-            return;
-        // Closed first: the journal goes back into the file, and the stamp is the closed file's.
-        m_histories.reset();
-        const MemoryCache::Stamp stamp = MemoryCache::StampOf(m_historyPath);
-        if (stamp[0] >= 0) // a database in a file, not in memory
-            MemoryCache::Write(MemoryCache::PathFor(m_historyPath), stamp, m_currentUserName, memories);
-    } catch (const std::exception&) {
-        // Only a faster next start is lost.
-    }
 }
 
 pugi::xml_node XmlConfigStore::UsersNode() const
@@ -229,13 +202,10 @@ bool XmlConfigStore::AddUser(const std::string& name)
             return false;
         user.append_attribute("name") = name.c_str();
         m_userNames.push_back(name);
-        // Events left under this name by a learner whose deletion could not reach the database
+        // Events left under this name by a learner whose deletion could not reach the history
         // are not the new learner's.
-        if (HistoryStore* histories = Histories()) {
-            std::string error;
-            if (!histories->Forget(name, error))
-                HistoryFailed(error);
-        }
+        if (m_nameFreed)
+            m_nameFreed(name);
         return SaveFile();
     } catch (const std::bad_alloc&) {
         throw ConfigException(StoreMessage::SaveConfig);
@@ -256,13 +226,10 @@ bool XmlConfigStore::DeleteUser(const std::string& name)
         if (EqualsIgnoringAsciiCase(m_currentUserName, name))
             SetCurrentUser("");
         const bool saved = SaveFile();
-        // Their history goes with them, once the file no longer lists them: a failure here
+        // Their history goes with them, once the file no longer lists them: a failure there
         // leaves events that nobody can see, and adding a learner of that name clears them.
-        if (HistoryStore* histories = Histories()) {
-            std::string error;
-            if (!histories->Forget(name, error))
-                HistoryFailed(error);
-        }
+        if (m_nameFreed)
+            m_nameFreed(name);
         return saved;
     } catch (const std::bad_alloc&) {
         throw ConfigException(StoreMessage::SaveConfig);
@@ -385,199 +352,23 @@ bool XmlConfigStore::RewriteInPlace(const std::string& text)
     return true;
 }
 
-void XmlConfigStore::BringOverHistories()
+std::vector<KeptHistory> XmlConfigStore::KeptHistories() const
 {
-    if (m_historyState == HistoryState::InConfig)
-        return;
-    std::vector<HistoryStore::Kept> kept;
-    std::vector<pugi::xml_node> elements;
+    std::vector<KeptHistory> kept;
     for (pugi::xml_node user : UsersNode().children("User"))
-        for (pugi::xml_node history : user.children("History")) {
-            elements.push_back(history);
-            std::vector<LearnerEvent> events = ReadHistory(history);
-            if (!events.empty())
-                kept.push_back({user.attribute("name").value(), std::move(events)});
-        }
-    // Nothing to bring over: the database waits until it is needed.
-    if (elements.empty())
-        return;
-    HistoryStore* histories = Histories();
-    if (!histories)
-        return;
-    std::string error;
-    if (!histories->BringOver(kept, error)) {
-        HistoryFailed(error);
-        return;
-    }
-    // Committed: only now does the document lose them, written so with the next save.
-    for (pugi::xml_node history : elements)
-        history.parent().remove_child(history);
+        for (pugi::xml_node history : user.children("History"))
+            kept.push_back({user.attribute("name").value(), ReadHistory(history)});
+    return kept;
 }
 
-HistoryStore* XmlConfigStore::Histories(bool checked)
+void XmlConfigStore::DropKeptHistories()
 {
-    if (m_historyState == HistoryState::NotOpened) {
-        std::string error;
-        std::string keptAs;
-        m_histories = HistoryStore::Open(m_historyPath, error, &keptAs);
-        if (m_histories) {
-            m_historyState = HistoryState::Open;
-        } else {
-            HistoryFailed(error);
-            m_historyProblem.keptAs = keptAs;
-        }
-    }
-    if (m_historyState == HistoryState::Open && checked) {
-        CollectCheck(true);
-        if (m_historyState == HistoryState::Open && !m_historyChecked) {
-            m_historyChecked = true;
-            std::string error;
-            if (!m_histories->Check(error))
-                HistoryFailed(error);
-        }
-    }
-    return m_historyState == HistoryState::Open ? m_histories.get() : nullptr;
+    for (pugi::xml_node user : UsersNode().children("User"))
+        while (pugi::xml_node history = user.child("History"))
+            user.remove_child(history);
 }
 
-void XmlConfigStore::HistoryFailed(const std::string& reason, bool damagedFile)
+void XmlConfigStore::SetNameFreed(std::function<void(const std::string& name)> listener)
 {
-    if (m_historyState == HistoryState::InConfig)
-        return;
-    const bool damaged = damagedFile || (m_histories && m_histories->LastFailureWasDamage());
-    m_histories.reset();
-    m_historyState = HistoryState::InConfig;
-    m_historyProblem.reason = reason;
-    // A file found damaged after it was opened is put aside as one found damaged at opening.
-    m_historyProblem.keptAs.clear();
-    if (damaged) {
-        m_historyProblem.keptAs = HistoryStore::PutAside(m_historyPath);
-        if (m_historyProblem.keptAs.empty())
-            m_historyProblem.reason += " (the damaged file could not be put aside)";
-    }
-}
-
-void XmlConfigStore::Record(User& learner, const std::vector<LearnerEvent>& events)
-{
-    if (events.empty())
-        return;
-    if (HistoryStore* histories = Histories()) {
-        std::string error;
-        if (histories->Record(learner.Name() ? learner.Name() : "", events, error))
-            return;
-        HistoryFailed(error);
-    }
-    for (const LearnerEvent& event : events)
-        learner.AddEvent(event);
-}
-
-std::vector<LearnerEvent> XmlConfigStore::History(const User& learner)
-{
-    std::vector<LearnerEvent> events;
-    if (HistoryStore* histories = Histories()) {
-        std::string error;
-        if (!histories->Events(learner.Name() ? learner.Name() : "", events, error)) {
-            events.clear();
-            HistoryFailed(error);
-        }
-    }
-    // What could not go to the database comes after what did.
-    events.insert(events.end(), learner.History().begin(), learner.History().end());
-    return events;
-}
-
-bool XmlConfigStore::ImportUser(User& user)
-{
-    if (HistoryStore* histories = Histories()) {
-        std::string error;
-        if (histories->Replace(user.Name() ? user.Name() : "", user.History(), error))
-            user.ClearHistory();
-        else
-            HistoryFailed(error);
-    }
-    return SaveUser(user);
-}
-
-void XmlConfigStore::OpenHistory()
-{
-    if (!Histories(false) || m_historyChecked || m_checking.valid())
-        return;
-    // The check reads every page (tens of milliseconds for years of practice): on a connection
-    // of its own, beside the one the program goes on using.
-    m_checking = std::async(std::launch::async, [path = m_historyPath] {
-        CheckOutcome outcome;
-        auto checker = HistoryStore::Open(path, outcome.error);
-        if (!checker)
-            return outcome;
-        outcome.ok = checker->Check(outcome.error);
-        outcome.damaged = !outcome.ok && checker->LastFailureWasDamage();
-        return outcome;
-    });
-}
-
-void XmlConfigStore::CollectCheck(bool wait)
-{
-    if (!m_checking.valid()
-        || (!wait && m_checking.wait_for(std::chrono::seconds(0)) != std::future_status::ready))
-        return;
-    const CheckOutcome outcome = m_checking.get();
-    m_historyChecked = true;
-    if (!outcome.ok)
-        HistoryFailed(outcome.error, outcome.damaged);
-}
-
-bool XmlConfigStore::HistoryBeingChecked()
-{
-    CollectCheck(false);
-    return m_checking.valid();
-}
-
-HistoryProblem XmlConfigStore::TakeHistoryProblem()
-{
-    CollectCheck(false);
-    return std::exchange(m_historyProblem, HistoryProblem{});
-}
-
-LearnerMemories XmlConfigStore::Memories(const User& learner)
-{
-    // Read before the file's full check, which waits until the first page is up: a read does
-    // not spread damage, and a fault it meets is told like any other.
-    LearnerMemories memories;
-    // No file yet: no history to read, and none made only to read it.
-    std::error_code missing;
-    const bool none = m_historyState == HistoryState::NotOpened && !std::filesystem::exists(m_historyPath, missing);
-    // Not opened yet (at start): the memories kept at the last close, while they still hold.
-    std::optional<LearnerMemories> kept;
-    if (!none && m_historyState == HistoryState::NotOpened)
-        kept = MemoryCache::Read(MemoryCache::PathFor(m_historyPath), MemoryCache::StampOf(m_historyPath),
-            learner.Name() ? learner.Name() : "");
-    if (kept)
-        m_lastRead = {learner.Name() ? learner.Name() : "", *kept};
-    const std::string name = learner.Name() ? learner.Name() : "";
-    if (kept) {
-        memories = std::move(*kept);
-    } else if (HistoryStore* histories = none ? nullptr : Histories(false)) {
-        std::string error;
-        if (histories->Memories(name, memories, error)) {
-            m_lastRead = {name, memories};
-        } else {
-            memories = {};
-            HistoryFailed(error);
-        }
-    }
-    // The database given up during the session: what it held when last read, with what the
-    // session kept in config.xml since.
-    if (m_historyState == HistoryState::InConfig && m_lastRead.first == name && !name.empty())
-        memories = m_lastRead.second;
-    if (learner.History().empty())
-        return memories;
-    // What could not go to the database follows what did.
-    MemoryLedger ledger;
-    ledger.Load(memories.memories);
-    for (const LearnerEvent& e : learner.History()) {
-        ledger.Apply(e);
-        if (const int day = EventDay(e.at); day >= 0 && (memories.firstDay < 0 || day < memories.firstDay))
-            memories.firstDay = day;
-    }
-    memories.memories = ledger.Memories();
-    return memories;
+    m_nameFreed = std::move(listener);
 }

@@ -8,7 +8,9 @@
 #include "DatabaseLoadException.h"
 #include "FittedText.h"
 #include "KanjiInfoDialog.h"
+#include "LearnerSession.h"
 #include "Prompt.h"
+#include "SessionRecorder.h"
 #include "ui_CategoryPage.h"
 
 #include <QMenu>
@@ -60,7 +62,52 @@ CategoryPage::CategoryPage(CharacterDatabase& database, Prompt& prompt, SeedSour
     RefreshButtons();
 }
 
+CategoryPage::CategoryPage(
+    CharacterDatabase& database, Prompt& prompt, SeedSource seeds, LearnerSession& session, QWidget* parent)
+    : CategoryPage(database, prompt, std::move(seeds), parent)
+{
+    m_session = &session;
+    // Read again when next shown, or once the event at hand is over when shown: an action of
+    // this page's own recorder is still under way while the session tells of it.
+    connect(&session, &LearnerSession::progressChanged, this, [this] {
+        m_stale = true;
+        if (isVisible())
+            QMetaObject::invokeMethod(
+                this,
+                [this] {
+                    if (m_stale && isVisible() && m_category)
+                        ShowCategory(m_category->Id());
+                },
+                Qt::QueuedConnection);
+    });
+    connect(&session, &LearnerSession::learnerChanged, this, [this] {
+        m_recorder.reset();
+        m_category.reset();
+    });
+}
+
 CategoryPage::~CategoryPage() = default;
+
+bool CategoryPage::ShowCategory(std::uint16_t categoryId)
+{
+    if (!m_session)
+        return false;
+    m_stale = false;
+    SetReviews(m_session->Reviews());
+    return SetCategory(categoryId, RecorderFor(*m_session, categoryId));
+}
+
+std::optional<std::uint16_t> CategoryPage::CategoryId() const
+{
+    return m_category ? std::optional<std::uint16_t>(m_category->Id()) : std::nullopt;
+}
+
+void CategoryPage::showEvent(QShowEvent* event)
+{
+    Page::showEvent(event);
+    if (m_stale && m_session && m_category)
+        ShowCategory(m_category->Id());
+}
 
 CharacterGrid* CategoryPage::Grid() const
 {
@@ -108,9 +155,7 @@ const Form* CategoryPage::GlyphOf(std::uint16_t code)
 
 bool CategoryPage::SetCategory(std::uint16_t categoryId, std::optional<ProgressRecorder> recorder)
 {
-    m_recorder.reset();
-    if (recorder)
-        m_recorder.emplace(*recorder);
+    m_recorder = std::move(recorder);
     try {
         m_category = m_database.LoadCategory(categoryId);
     } catch (const ZavorenCommon::DatabaseLoadException& e) {
@@ -152,6 +197,24 @@ void CategoryPage::RefreshButtons()
     m_learnAction->setEnabled(s.lessonEnabled);
     Strip()->SetEmptyMessage(tr(s.lessonEnabled ? LessonHint : CategoryComplete));
     SetDefaultButton(s.testIsDefault ? TestButton() : LessonButton());
+}
+
+std::vector<std::uint16_t> CategoryPage::TestCharacters() const
+{
+    return m_recorder ? m_recorder->TestCharacters() : std::vector<std::uint16_t>{};
+}
+
+void CategoryPage::LessonFinished(const std::vector<std::uint16_t>& taught)
+{
+    if (m_recorder)
+        m_recorder->LessonFinished(taught);
+}
+
+void CategoryPage::TestTaken(const std::vector<std::uint16_t>& passed, const std::vector<std::uint16_t>& failed,
+    const ProgressRecorder::MistakeCount& mistakes)
+{
+    if (m_recorder)
+        m_recorder->TestTaken(passed, failed, mistakes);
 }
 
 std::vector<std::uint16_t> CategoryPage::PickLessonCharacters(std::size_t max) const
@@ -210,6 +273,8 @@ void CategoryPage::OnLearn()
     const std::vector<std::uint16_t> selected = Grid()->SelectedCodes();
     if (selected.empty() || !m_learnAction->isEnabled())
         return;
+    if (m_recorder)
+        m_recorder->LearnOne(selected.front());
     emit pageEvent(Learn, selected.front());
 }
 

@@ -16,6 +16,7 @@
 #include <vector>
 
 class CharacterDatabase;
+class LearnerSession;
 class Prompt;
 class CharacterGrid;
 class QLabel;
@@ -36,16 +37,32 @@ public:
 
     /// Messages go through `prompt`; random draws are seeded from `seeds`.
     CategoryPage(CharacterDatabase& database, Prompt& prompt, SeedSource seeds, QWidget* parent = nullptr);
+    /// The categories of the learner open in `session`: their progress changed while the page
+    /// was hidden shows when it is shown again.
+    CategoryPage(CharacterDatabase& database, Prompt& prompt, SeedSource seeds, LearnerSession& session,
+        QWidget* parent = nullptr);
     ~CategoryPage() override;
 
     /// Shows a category with the learner's record of it, which Retest and Forget change through
     /// `recorder` (none: a category without a learner). Returns false after an error box when
     /// the category cannot be read.
     bool SetCategory(std::uint16_t categoryId, std::optional<ProgressRecorder> recorder);
+    /// Shows a category with the record of the learner open in the session.
+    bool ShowCategory(std::uint16_t categoryId);
+    /// The category shown, if any.
+    std::optional<std::uint16_t> CategoryId() const;
     /// When the learned characters are due for review, told in Kanji Info (none: nothing told).
     void SetReviews(std::optional<ReviewSchedule> reviews) { m_reviews = std::move(reviews); }
     /// Kanji Info shows the words and parts of `context` (no lexicon: none).
     void SetWords(WordContext context) { m_words = std::move(context); }
+    /// The characters a test of the category takes now.
+    std::vector<std::uint16_t> TestCharacters() const;
+    /// A lesson of the category finished, having taught `taught`: recorded in the learner's
+    /// progress.
+    void LessonFinished(const std::vector<std::uint16_t>& taught);
+    /// A test of the category taken (to the end or not): recorded in the learner's progress.
+    void TestTaken(const std::vector<std::uint16_t>& passed, const std::vector<std::uint16_t>& failed,
+        const ProgressRecorder::MistakeCount& mistakes);
     /// Up to `max` characters for a lesson from the Lesson button.
     std::vector<std::uint16_t> PickLessonCharacters(std::size_t max) const;
     /// Refreshes grid, strip and buttons from the learner's record.
@@ -56,6 +73,7 @@ public:
 
 protected:
     void Cancel() override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     CharacterGrid* Grid() const;
@@ -92,4 +110,6 @@ private:
     QAction* m_learnAction = nullptr;
     QHash<std::uint16_t, std::shared_ptr<Element>> m_glyphs;
     Random15 m_random;
+    LearnerSession* m_session = nullptr;
+    bool m_stale = false; ///< the learner's progress changed since the page last read it
 };

@@ -3,7 +3,7 @@
 #include "CategoryRules.h"
 
 ProgressRecorder::ProgressRecorder(User& learner, std::uint16_t categoryId, EventClock clock, KeepEvents keep)
-    : m_learner(learner), m_categoryId(categoryId), m_clock(std::move(clock)), m_keep(std::move(keep))
+    : m_learner(&learner), m_categoryId(categoryId), m_clock(std::move(clock)), m_keep(std::move(keep))
 {
     learner.GetProgress(categoryId); // the record exists from now on
 }
@@ -82,6 +82,6 @@ void ProgressRecorder::Record(const char* kind, std::uint16_t code, int mistakes
 void ProgressRecorder::Keep()
 {
     if (!m_action.empty() && m_keep)
-        m_keep(m_learner, m_action);
+        m_keep(*m_learner, m_action);
     m_action.clear();
 }

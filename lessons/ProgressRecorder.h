@@ -24,7 +24,7 @@ public:
 
     /// The learner's record of the category (looked up on each use: the learner's list of
     /// records may grow meanwhile).
-    CategoryProgress& Progress() const { return m_learner.GetProgress(m_categoryId); }
+    CategoryProgress& Progress() const { return m_learner->GetProgress(m_categoryId); }
     /// The characters a test takes: the first few of the untested list, in order.
     std::vector<std::uint16_t> TestCharacters() const;
     /// A lesson finished: every character taught joins the untested list, in lesson order, as it
@@ -55,7 +55,7 @@ private:
     /// Hands the action's events over to be kept.
     void Keep();
 
-    User& m_learner;
+    User* m_learner; ///< never null: a pointer, so that a recorder can be assigned
     std::uint16_t m_categoryId;
     EventClock m_clock;
     KeepEvents m_keep;

@@ -2,7 +2,9 @@
 
 #include "AboutDialog.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
+#include <QMenuBar>
 #include <QUrl>
 
 bool OpenHelpContents(const UrlOpener& open)
@@ -31,4 +33,25 @@ QString VersionText()
 #else
     return QCoreApplication::translate("AboutDialog", "unknown version");
 #endif
+}
+
+void AddHelpMenu(QMenuBar* bar, const UrlOpener& open, QWidget* owner)
+{
+    // The menu bar is the main window's: its texts are translated as the window's.
+    auto text = [](const char* source) { return QCoreApplication::translate("MainWindow", source); };
+    auto add = [owner](QMenu* menu, const QString& caption, const char* name, auto slot) {
+        QAction* action = menu->addAction(caption, owner, slot);
+        action->setObjectName(QLatin1String(name));
+        return action;
+    };
+    QMenu* help = bar->addMenu(text(QT_TRANSLATE_NOOP("MainWindow", "&Help")));
+    add(help, text(QT_TRANSLATE_NOOP("MainWindow", "Contents")), "contentsAction", [open] { OpenHelpContents(open); });
+    QMenu* links = help->addMenu(text(QT_TRANSLATE_NOOP("MainWindow", "Links")));
+    add(links, text(QT_TRANSLATE_NOOP("MainWindow", "Quelmar Software site")), "siteAction", [open] {
+        OpenMakerSite(open);
+    })->setStatusTip(text(QT_TRANSLATE_NOOP("MainWindow", "Open Quelmar Software web site")));
+    help->addSeparator();
+    add(help, text(QT_TRANSLATE_NOOP("MainWindow", "About")), "aboutAction", [open, owner] {
+        ShowAbout(open, owner);
+    })->setStatusTip(text(QT_TRANSLATE_NOOP("MainWindow", "About Zavoren")));
 }

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+class QMenuBar;
 class QWidget;
 
 /// The maker's site and support address (product data).
@@ -17,5 +18,8 @@ bool OpenHelpContents(const UrlOpener& open);
 void OpenMakerSite(const UrlOpener& open);
 /// Help > About: the modal About box, centred over `owner`; its links open through `open`.
 void ShowAbout(const UrlOpener& open, QWidget* owner);
+/// The Help menu of `bar`: Contents, Links (the maker's site) and About over `owner`.
+void AddHelpMenu(QMenuBar* bar, const UrlOpener& open, QWidget* owner);
+
 /// "v1.2.3" from the version compiled in, or "unknown version".
 QString VersionText();

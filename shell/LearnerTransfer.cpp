@@ -4,15 +4,30 @@
 #include "CharacterDatabase.h"
 #include "ConfigStore.h"
 #include "LearnerFile.h"
+#include "LearnerSession.h"
+#include "LearningHistory.h"
 #include "Prompt.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
 
-LearnerTransfer::LearnerTransfer(CharacterDatabase& database, ConfigStore& store, Prompt& prompt, QWidget* parent)
-    : m_database(database), m_store(store), m_prompt(prompt), m_parent(parent)
+LearnerTransfer::LearnerTransfer(
+    CharacterDatabase& database, ConfigStore& store, LearningHistory& history, Prompt& prompt, QWidget* parent)
+    : m_database(database), m_store(store), m_history(history), m_prompt(prompt), m_parent(parent)
 {
+}
+
+LearnerTransfer::LearnerTransfer(CharacterDatabase& database, LearnerSession& session, Prompt& prompt, QWidget* parent)
+    : LearnerTransfer(database, session.Store(), session.History(), prompt, parent)
+{
+}
+
+void LearnerTransfer::Keep(User& learner)
+{
+    // The history first: the events it takes leave the record, which is then written without them.
+    m_history.Replace(learner);
+    m_store.SaveUser(learner);
 }
 
 void LearnerTransfer::Refuse(const QString& title, const QString& text)
@@ -50,7 +65,7 @@ LearnerTransfer::Outcome LearnerTransfer::ImportAsked(const std::string& openNam
 bool LearnerTransfer::Export(User& learner, const QString& path)
 {
     if (LearnerFile::Export(
-            QFile::encodeName(path).toStdString(), learner, m_store.History(learner), m_database.CategoryCount()))
+            QFile::encodeName(path).toStdString(), learner, m_history.Events(learner), m_database.CategoryCount()))
         return true;
     Refuse(tr("Export learner"),
         tr("The learner could not be written to \"%1\". Nothing was changed.").arg(QDir::toNativeSeparators(path)));
@@ -89,7 +104,7 @@ LearnerTransfer::Outcome LearnerTransfer::Import(const QString& path, const std:
                 .arg(QString::fromStdString(name)),
             QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel);
         if (answer == QMessageBox::Yes) {
-            m_store.ImportUser(learner);
+            Keep(learner);
             Outcome outcome{true, nullptr};
             if (name == openName)
                 outcome.replacedOpen = std::move(file.learner);
@@ -106,6 +121,6 @@ LearnerTransfer::Outcome LearnerTransfer::Import(const QString& path, const std:
             return {};
         learner.SetName(chosen);
     }
-    m_store.ImportUser(learner);
+    Keep(learner);
     return {true, nullptr};
 }

@@ -10,6 +10,8 @@
 
 class CharacterDatabase;
 class ConfigStore;
+class LearnerSession;
+class LearningHistory;
 class Prompt;
 class QWidget;
 
@@ -20,9 +22,12 @@ class QWidget;
 class LearnerTransfer {
     Q_DECLARE_TR_FUNCTIONS(LearnerTransfer)
 public:
-    /// Files are checked against `database`; learners go into `store`; messages and questions go
-    /// through `prompt`, owned by `parent`.
-    LearnerTransfer(CharacterDatabase& database, ConfigStore& store, Prompt& prompt, QWidget* parent);
+    /// Files are checked against `database`; learners go into `store`, their history into
+    /// `history`; messages and questions go through `prompt`, owned by `parent`.
+    LearnerTransfer(
+        CharacterDatabase& database, ConfigStore& store, LearningHistory& history, Prompt& prompt, QWidget* parent);
+    /// As above, with the store and the history of `session`.
+    LearnerTransfer(CharacterDatabase& database, LearnerSession& session, Prompt& prompt, QWidget* parent);
 
     /// The file name offered for exporting `learner`, in the home folder.
     static QString SuggestedPath(const User& learner);
@@ -46,9 +51,12 @@ public:
 
 private:
     void Refuse(const QString& title, const QString& text);
+    /// Writes an imported learner's record and makes the history it carries their whole history.
+    void Keep(User& learner);
 
     CharacterDatabase& m_database;
     ConfigStore& m_store;
+    LearningHistory& m_history;
     Prompt& m_prompt;
     QWidget* m_parent;
 };

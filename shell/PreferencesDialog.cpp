@@ -6,6 +6,7 @@
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
 #include <QFormLayout>
+#include <QGroupBox>
 #include <QLabel>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -36,10 +37,21 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
     m_reviews = new QCheckBox(tr("Review characters when they are due"), this);
     m_reviews->setToolTip(tr("Each learned character comes back for a test when you are about to forget it"));
     m_reviews->setChecked(preferences.reviewWhenDue);
-    for (QCheckBox* box : {m_explain, m_grid, m_hint, m_ownFrame, m_onScreen, m_words, m_wordAfterAnswer, m_reviews}) {
+    for (QCheckBox* box : {m_explain, m_grid, m_hint, m_ownFrame, m_onScreen, m_words, m_wordAfterAnswer, m_reviews})
         box->setAccessibleName(box->text());
+    // A heading for what each group of aids changes; each group a column of its boxes.
+    auto group = [this, layout](const QString& title, const char* name) {
+        auto* box = new QGroupBox(title, this);
+        box->setObjectName(QLatin1String(name));
+        box->setAccessibleName(title);
         layout->addWidget(box);
-    }
+        return new QVBoxLayout(box);
+    };
+    QVBoxLayout* writing = group(tr("Writing"), "writingGroup");
+    for (QCheckBox* box : {m_explain, m_grid, m_hint, m_ownFrame})
+        writing->addWidget(box);
+    QVBoxLayout* reviews = group(tr("Reviews"), "reviewsGroup");
+    reviews->addWidget(m_reviews);
     // The schedule of the reviews, indented under their box.
     auto* schedule = new QFormLayout;
     schedule->setContentsMargins(24, 0, 0, 0);
@@ -67,7 +79,11 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
     auto* intervalLabel = new QLabel(tr("&Maximum interval:"), this);
     intervalLabel->setBuddy(m_interval);
     schedule->addRow(intervalLabel, m_interval);
-    layout->addLayout(schedule);
+    reviews->addLayout(schedule);
+    QVBoxLayout* words = group(tr("Words"), "wordsGroup");
+    for (QCheckBox* box : {m_words, m_wordAfterAnswer})
+        words->addWidget(box);
+    group(tr("Window"), "windowGroup")->addWidget(m_onScreen);
     auto follow = [this, retentionLabel, meaning, intervalLabel](bool on) {
         for (QWidget* w : std::initializer_list<QWidget*>{m_retention, m_interval, retentionLabel, meaning, intervalLabel})
             w->setEnabled(on);

@@ -1,5 +1,6 @@
 #include "ProgressViewer.h"
 
+#include "LearnerSession.h"
 #include "Prompt.h"
 
 #include <QWidget>
@@ -12,6 +13,14 @@ ProgressViewer::ProgressViewer(CharacterDatabase& database, Prompt& prompt, Even
 void ProgressViewer::Close()
 {
     delete m_window;
+}
+
+void ProgressViewer::Open(LearnerSession& session, bool withWords, QWidget* parent)
+{
+    if (!session.Learner())
+        return;
+    std::vector<LearnerEvent> history = session.Events();
+    Open(session.Learner(), std::move(history), session.Reviews(), withWords ? &session.Lexicon() : nullptr, parent);
 }
 
 void ProgressViewer::Open(

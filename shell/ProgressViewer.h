@@ -9,6 +9,7 @@
 #include <vector>
 
 class CharacterDatabase;
+class LearnerSession;
 class LexiconAccess;
 class Prompt;
 class User;
@@ -28,6 +29,9 @@ public:
     /// shows words and parts from `words` (null: none).
     void Open(const User* learner, std::vector<LearnerEvent> history, std::optional<ReviewSchedule> reviews,
         LexiconAccess* words, QWidget* parent);
+    /// Tools > Progress…: opens the window on the learner open in `session` (with words and
+    /// parts from its lexicon when `withWords`).
+    void Open(LearnerSession& session, bool withWords, QWidget* parent);
     /// Closes the window open, if any.
     void Close();
 

@@ -4,6 +4,7 @@
 #include "ConfigException.h"
 #include "ConfigStore.h"
 #include "HomePage.h"
+#include "LearnerSession.h"
 #include "MainWindow.h"
 #include "Prompt.h"
 #include "SingleInstance.h"
@@ -79,8 +80,10 @@ int RunZavoren(const StartupOptions& options, Prompt& prompt)
     database.Preload(&*splash);
 
     ConfigStore* store = nullptr;
+    LearningHistory* history = nullptr;
     try {
         store = &GetConfigStore();
+        history = &GetLearningHistory();
     } catch (const ZavorenCommon::ConfigException& e) {
         splash.reset();
         prompt.StoreError(nullptr, ConfigurationErrorTitle, e.what());
@@ -89,27 +92,25 @@ int RunZavoren(const StartupOptions& options, Prompt& prompt)
     }
     int result = 0;
     {
-        MainWindow window(database, *store, prompt, ClockSeed, OpenWithDesktop, LocalTimeNow, LoadProgressModule);
-        if (!window.ChooseLearnerAtStart()) {
-            splash.reset();
-            ReleaseDataStores();
-            return 0;
-        }
+        // Gone before the stores it listens to.
+        LearnerSession session(database, *store, *history, LocalTimeNow);
+        MainWindow window(database, session, prompt, ClockSeed, OpenWithDesktop, LoadProgressModule);
+        const bool chosen = window.ChooseLearnerAtStart();
         splash.reset();
-        QApplication::setQuitOnLastWindowClosed(false);
-        QObject::connect(&window, &MainWindow::closed, [&result] {
-            result = 1;
-            QTimer::singleShot(0, [] { QApplication::exit(1); });
-        });
-        if (!window.ShowChosenLearner()) {
-            ReleaseDataStores();
-            return 0;
+        if (chosen) {
+            QApplication::setQuitOnLastWindowClosed(false);
+            QObject::connect(&window, &MainWindow::closed, [&result] {
+                result = 1;
+                QTimer::singleShot(0, [] { QApplication::exit(1); });
+            });
         }
-        // Watching from now on, its filter sees the first paint before the window's own (which
-        // opens the history once the page is up): the run ends where start-up ends.
-        if (options.quitAfterFirstPaint)
-            new FirstPaintWatcher(window.findChild<HomePage*>(), &window);
-        QApplication::exec();
+        if (chosen && window.ShowChosenLearner()) {
+            // Watching from now on, its filter sees the first paint before the window's own
+            // (which opens the history once the page is up): the run ends where start-up ends.
+            if (options.quitAfterFirstPaint)
+                new FirstPaintWatcher(window.findChild<HomePage*>(), &window);
+            QApplication::exec();
+        }
     }
     ReleaseDataStores();
     return result;

@@ -248,6 +248,25 @@ Möchten Sie einen Minidump davon erhalten?</translation>
     </message>
 </context>
 <context>
+    <name>HistoryNotice</name>
+    <message>
+        <source>Learning history</source>
+        <translation>Lernverlauf</translation>
+    </message>
+    <message>
+        <source>The learning history cannot be kept: %1</source>
+        <translation>Der Lernverlauf kann nicht gespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>The damaged file is kept as &quot;%1&quot;.</source>
+        <translation>Die beschädigte Datei wird als „%1“ aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>Until it can be kept again, your progress and history are saved in config.xml.</source>
+        <translation>Bis er wieder gespeichert werden kann, werden Ihr Fortschritt und Ihr Verlauf in config.xml gesichert.</translation>
+    </message>
+</context>
+<context>
     <name>HomePage</name>
     <message>
         <source>Home</source>
@@ -539,22 +558,6 @@ Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</transl
         <source>About Zavoren</source>
         <translation>Über Zavoren</translation>
     </message>
-    <message>
-        <source>The learning history cannot be kept: %1</source>
-        <translation>Der Lernverlauf kann nicht gespeichert werden: %1</translation>
-    </message>
-    <message>
-        <source>The damaged file is kept as &quot;%1&quot;.</source>
-        <translation>Die beschädigte Datei wird als „%1“ aufbewahrt.</translation>
-    </message>
-    <message>
-        <source>Until it can be kept again, your progress and history are saved in config.xml.</source>
-        <translation>Bis er wieder gespeichert werden kann, werden Ihr Fortschritt und Ihr Verlauf in config.xml gesichert.</translation>
-    </message>
-    <message>
-        <source>Learning history</source>
-        <translation>Lernverlauf</translation>
-    </message>
 </context>
 <context>
     <name>Page</name>
@@ -640,6 +643,22 @@ Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</transl
     <message>
         <source>In the reading test, a common word that uses the character with the reading you have just chosen</source>
         <translation>Im Lesetest ein gebräuchliches Wort, das das Zeichen mit der eben gewählten Lesung verwendet</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Schreiben</translation>
+    </message>
+    <message>
+        <source>Reviews</source>
+        <translation>Wiederholungen</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Wörter</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
     </message>
 </context>
 <context>

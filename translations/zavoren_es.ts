@@ -248,6 +248,25 @@ Error fatal en Zavoren.<byte value="xd"/>
     </message>
 </context>
 <context>
+    <name>HistoryNotice</name>
+    <message>
+        <source>Learning history</source>
+        <translation>Historial de aprendizaje</translation>
+    </message>
+    <message>
+        <source>The learning history cannot be kept: %1</source>
+        <translation>No se puede conservar el historial de aprendizaje: %1</translation>
+    </message>
+    <message>
+        <source>The damaged file is kept as &quot;%1&quot;.</source>
+        <translation>El archivo dañado se conserva como «%1».</translation>
+    </message>
+    <message>
+        <source>Until it can be kept again, your progress and history are saved in config.xml.</source>
+        <translation>Hasta que pueda conservarse de nuevo, su progreso y su historial se guardan en config.xml.</translation>
+    </message>
+</context>
+<context>
     <name>HomePage</name>
     <message>
         <source>Home</source>
@@ -539,22 +558,6 @@ Sí lo sustituye; No importa al alumno con otro nombre.</translation>
         <source>About Zavoren</source>
         <translation>Acerca de Zavoren</translation>
     </message>
-    <message>
-        <source>The learning history cannot be kept: %1</source>
-        <translation>No se puede conservar el historial de aprendizaje: %1</translation>
-    </message>
-    <message>
-        <source>The damaged file is kept as &quot;%1&quot;.</source>
-        <translation>El archivo dañado se conserva como «%1».</translation>
-    </message>
-    <message>
-        <source>Until it can be kept again, your progress and history are saved in config.xml.</source>
-        <translation>Hasta que pueda conservarse de nuevo, su progreso y su historial se guardan en config.xml.</translation>
-    </message>
-    <message>
-        <source>Learning history</source>
-        <translation>Historial de aprendizaje</translation>
-    </message>
 </context>
 <context>
     <name>Page</name>
@@ -640,6 +643,22 @@ Sí lo sustituye; No importa al alumno con otro nombre.</translation>
     <message>
         <source>In the reading test, a common word that uses the character with the reading you have just chosen</source>
         <translation>En la prueba de lectura, una palabra común que usa el carácter con la lectura que acaba de elegir</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Escritura</translation>
+    </message>
+    <message>
+        <source>Reviews</source>
+        <translation>Repasos</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Palabras</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Ventana</translation>
     </message>
 </context>
 <context>

@@ -248,6 +248,25 @@ Voulez-vous en obtenir un minidump ?</translation>
     </message>
 </context>
 <context>
+    <name>HistoryNotice</name>
+    <message>
+        <source>Learning history</source>
+        <translation>Historique d’apprentissage</translation>
+    </message>
+    <message>
+        <source>The learning history cannot be kept: %1</source>
+        <translation>L’historique d’apprentissage ne peut pas être conservé : %1</translation>
+    </message>
+    <message>
+        <source>The damaged file is kept as &quot;%1&quot;.</source>
+        <translation>Le fichier endommagé est conservé sous le nom « %1 ».</translation>
+    </message>
+    <message>
+        <source>Until it can be kept again, your progress and history are saved in config.xml.</source>
+        <translation>En attendant qu’il puisse l’être à nouveau, vos progrès et votre historique sont enregistrés dans config.xml.</translation>
+    </message>
+</context>
+<context>
     <name>HomePage</name>
     <message>
         <source>Home</source>
@@ -539,22 +558,6 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
         <source>About Zavoren</source>
         <translation>À propos de Zavoren</translation>
     </message>
-    <message>
-        <source>The learning history cannot be kept: %1</source>
-        <translation>L’historique d’apprentissage ne peut pas être conservé : %1</translation>
-    </message>
-    <message>
-        <source>The damaged file is kept as &quot;%1&quot;.</source>
-        <translation>Le fichier endommagé est conservé sous le nom « %1 ».</translation>
-    </message>
-    <message>
-        <source>Until it can be kept again, your progress and history are saved in config.xml.</source>
-        <translation>En attendant qu’il puisse l’être à nouveau, vos progrès et votre historique sont enregistrés dans config.xml.</translation>
-    </message>
-    <message>
-        <source>Learning history</source>
-        <translation>Historique d’apprentissage</translation>
-    </message>
 </context>
 <context>
     <name>Page</name>
@@ -640,6 +643,22 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
     <message>
         <source>In the reading test, a common word that uses the character with the reading you have just chosen</source>
         <translation>Dans le test de lecture, un mot courant qui emploie le caractère avec la lecture que vous venez de choisir</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Écriture</translation>
+    </message>
+    <message>
+        <source>Reviews</source>
+        <translation>Révisions</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Mots</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenêtre</translation>
     </message>
 </context>
 <context>

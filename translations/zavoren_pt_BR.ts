@@ -248,6 +248,25 @@ Deseja obter um minidump?</translation>
     </message>
 </context>
 <context>
+    <name>HistoryNotice</name>
+    <message>
+        <source>Learning history</source>
+        <translation>Histórico de aprendizado</translation>
+    </message>
+    <message>
+        <source>The learning history cannot be kept: %1</source>
+        <translation>O histórico de aprendizado não pode ser mantido: %1</translation>
+    </message>
+    <message>
+        <source>The damaged file is kept as &quot;%1&quot;.</source>
+        <translation>O arquivo danificado foi mantido como “%1”.</translation>
+    </message>
+    <message>
+        <source>Until it can be kept again, your progress and history are saved in config.xml.</source>
+        <translation>Até que possa ser mantido novamente, seu progresso e seu histórico são salvos em config.xml.</translation>
+    </message>
+</context>
+<context>
     <name>HomePage</name>
     <message>
         <source>Home</source>
@@ -539,22 +558,6 @@ Sim substitui; Não importa o aluno com outro nome.</translation>
         <source>About Zavoren</source>
         <translation>Sobre o Zavoren</translation>
     </message>
-    <message>
-        <source>The learning history cannot be kept: %1</source>
-        <translation>O histórico de aprendizado não pode ser mantido: %1</translation>
-    </message>
-    <message>
-        <source>The damaged file is kept as &quot;%1&quot;.</source>
-        <translation>O arquivo danificado foi mantido como “%1”.</translation>
-    </message>
-    <message>
-        <source>Until it can be kept again, your progress and history are saved in config.xml.</source>
-        <translation>Até que possa ser mantido novamente, seu progresso e seu histórico são salvos em config.xml.</translation>
-    </message>
-    <message>
-        <source>Learning history</source>
-        <translation>Histórico de aprendizado</translation>
-    </message>
 </context>
 <context>
     <name>Page</name>
@@ -640,6 +643,22 @@ Sim substitui; Não importa o aluno com outro nome.</translation>
     <message>
         <source>In the reading test, a common word that uses the character with the reading you have just chosen</source>
         <translation>No teste de leitura, uma palavra comum que usa o caractere com a leitura que você acabou de escolher</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Escrita</translation>
+    </message>
+    <message>
+        <source>Reviews</source>
+        <translation>Revisões</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Palavras</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Janela</translation>
     </message>
 </context>
 <context>

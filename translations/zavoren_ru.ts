@@ -248,6 +248,25 @@ Do you want to get minidump for it?</source>
     </message>
 </context>
 <context>
+    <name>HistoryNotice</name>
+    <message>
+        <source>Learning history</source>
+        <translation>История обучения</translation>
+    </message>
+    <message>
+        <source>The learning history cannot be kept: %1</source>
+        <translation>Не удаётся сохранить историю обучения: %1</translation>
+    </message>
+    <message>
+        <source>The damaged file is kept as &quot;%1&quot;.</source>
+        <translation>Повреждённый файл сохранён как «%1».</translation>
+    </message>
+    <message>
+        <source>Until it can be kept again, your progress and history are saved in config.xml.</source>
+        <translation>Пока её нельзя сохранить, ваш прогресс и история записываются в config.xml.</translation>
+    </message>
+</context>
+<context>
     <name>HomePage</name>
     <message>
         <source>Home</source>
@@ -539,22 +558,6 @@ Yes replaces it; No imports the learner under another name.</source>
         <source>About Zavoren</source>
         <translation>О программе Zavoren</translation>
     </message>
-    <message>
-        <source>The learning history cannot be kept: %1</source>
-        <translation>Не удаётся сохранить историю обучения: %1</translation>
-    </message>
-    <message>
-        <source>The damaged file is kept as &quot;%1&quot;.</source>
-        <translation>Повреждённый файл сохранён как «%1».</translation>
-    </message>
-    <message>
-        <source>Until it can be kept again, your progress and history are saved in config.xml.</source>
-        <translation>Пока её нельзя сохранить, ваш прогресс и история записываются в config.xml.</translation>
-    </message>
-    <message>
-        <source>Learning history</source>
-        <translation>История обучения</translation>
-    </message>
 </context>
 <context>
     <name>Page</name>
@@ -640,6 +643,22 @@ Yes replaces it; No imports the learner under another name.</source>
     <message>
         <source>In the reading test, a common word that uses the character with the reading you have just chosen</source>
         <translation>В тесте чтений — частое слово с этим иероглифом в только что выбранном чтении</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Письмо</translation>
+    </message>
+    <message>
+        <source>Reviews</source>
+        <translation>Повторения</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Слова</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Окно</translation>
     </message>
 </context>
 <context>

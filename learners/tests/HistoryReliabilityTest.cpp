@@ -2,7 +2,7 @@
 // moment of a commit, and files damaged on disk. Nothing committed is lost, nothing half is
 // kept, and damage is always told and never written over.
 
-#include "XmlConfigStore.h"
+#include "StoreWithHistory.h"
 
 #include "FileCharacterDatabase.h"
 #include "StoreFiles.h"
@@ -144,7 +144,7 @@ TEST_F(HistoryReliability, EveryDamagedCopyIsToldAndKeptAside)
     WriteText(config, "<Zavoren><Users><User name=\"Anna\"/><User name=\"Ben\"/><User name=\"Chie\"/></Users></Zavoren>");
     const fs::path original = m_dir / "original.db";
     {
-        XmlConfigStore store(config.string(), database, original.string());
+        StoreWithHistory store(config.string(), database, original.string());
         for (const char* name : {"Anna", "Ben", "Chie"}) {
             auto learner = store.LoadUser(name);
             const int days = name[0] == 'A' ? 3650 : 200;
@@ -204,7 +204,7 @@ TEST_F(HistoryReliability, EveryDamagedCopyIsToldAndKeptAside)
         const std::string verdict = QueryValue(m_dir / "judge.db", "PRAGMA integrity_check(1)");
         fs::remove(m_dir / "judge.db");
 
-        XmlConfigStore store(config.string(), database, copy.string());
+        StoreWithHistory store(config.string(), database, copy.string());
         store.OpenHistory();
         for (const char* name : {"Anna", "Ben", "Chie"})
             store.History(*store.LoadUser(name));

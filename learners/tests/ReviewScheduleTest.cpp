@@ -6,7 +6,7 @@
 #include "HistoryStore.h"
 #include "MemoryCache.h"
 #include "StoreFiles.h"
-#include "XmlConfigStore.h"
+#include "StoreWithHistory.h"
 
 #include <gtest/gtest.h>
 
@@ -193,7 +193,7 @@ TEST_F(KeptMemories, TheMemoriesKeptAtCloseServeOnlyWhileTheHistoryIsUntouched)
 {
     const std::vector<LearnerEvent> events = {At(0, LearnerEvent::Passed, 1, 0), At(2, LearnerEvent::Passed, 2, 1)};
     {
-        XmlConfigStore store(config, *database, history);
+        StoreWithHistory store(config, *database, history);
         store.Record(*store.LoadUser("Anna"), events);
     } // closed: the cache is written beside the history
     const std::string cache = MemoryCache::PathFor(history);
@@ -215,7 +215,7 @@ TEST_F(KeptMemories, TheMemoriesKeptAtCloseServeOnlyWhileTheHistoryIsUntouched)
     other.memories[0].memory.stability = 123.0;
     ASSERT_TRUE(MemoryCache::Write(cache, stamp, "Anna", other));
     {
-        XmlConfigStore store(config, *database, history);
+        StoreWithHistory store(config, *database, history);
         auto anna = store.LoadUser("Anna");
         EXPECT_DOUBLE_EQ(store.Memories(*anna).memories[0].memory.stability, 123.0);
         // Once the history has moved on, the database's own.
@@ -241,7 +241,7 @@ TEST_F(KeptMemories, TheMemoriesKeptAtCloseServeOnlyWhileTheHistoryIsUntouched)
 
 TEST_F(KeptMemories, ADatabaseGivenUpDuringTheSessionKeepsWhatItHeld)
 {
-    XmlConfigStore store(config, *database, history);
+    StoreWithHistory store(config, *database, history);
     auto anna = store.LoadUser("Anna");
     std::vector<LearnerEvent> all = {At(0, LearnerEvent::Passed, 1, 0), At(1, LearnerEvent::Passed, 2, 0)};
     store.Record(*anna, all);

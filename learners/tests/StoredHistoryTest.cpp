@@ -3,7 +3,7 @@
 // has them brought over exactly once, and a database that cannot be kept leaves the history in
 // config.xml, told once, with nothing lost.
 
-#include "XmlConfigStore.h"
+#include "StoreWithHistory.h"
 
 #include "FileCharacterDatabase.h"
 #include "LearnerFile.h"
@@ -44,15 +44,15 @@ protected:
     fs::path Config() const { return m_dir / "config.xml"; }
     fs::path Histories() const { return m_dir / "history.db"; }
     /// The store as the program opens it: the history in history.db beside config.xml.
-    std::unique_ptr<XmlConfigStore> Open(const fs::path& history)
+    std::unique_ptr<StoreWithHistory> Open(const fs::path& history)
     {
-        return std::make_unique<XmlConfigStore>(Config().string(), *m_database, history.string());
+        return std::make_unique<StoreWithHistory>(Config().string(), *m_database, history.string());
     }
-    std::unique_ptr<XmlConfigStore> Open() { return Open(Histories()); }
+    std::unique_ptr<StoreWithHistory> Open() { return Open(Histories()); }
     /// The store as it was before history.db: the history in config.xml.
-    std::unique_ptr<XmlConfigStore> OpenWithoutDatabase()
+    std::unique_ptr<StoreWithHistory> OpenWithoutDatabase()
     {
-        return std::make_unique<XmlConfigStore>(Config().string(), *m_database);
+        return std::make_unique<StoreWithHistory>(Config().string(), *m_database);
     }
     /// One value a query on history.db gives, read by a connection of the test's own.
     std::string Query(const char* sql) const { return QueryValue(Histories(), sql); }
@@ -316,8 +316,7 @@ TEST_F(StoredHistoryTest, TheFullCheckRunsBesideTheProgramAndTellsWhatItFinds)
     {
         auto store = Open();
         store->OpenHistory();
-        while (store->HistoryBeingChecked())
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        store->FinishCheck(); // waits for the check to end
         EXPECT_TRUE(store->TakeHistoryProblem().reason.empty());
         auto anna = store->LoadUser("Anna");
         store->Record(*anna, {Event("lesson", 1)});
@@ -332,8 +331,7 @@ TEST_F(StoredHistoryTest, TheFullCheckRunsBesideTheProgramAndTellsWhatItFinds)
     }
     auto store = Open();
     store->OpenHistory();
-    while (store->HistoryBeingChecked())
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    store->FinishCheck(); // waits for the check to end
     const HistoryProblem problem = store->TakeHistoryProblem();
     EXPECT_FALSE(problem.reason.empty());
     ASSERT_FALSE(problem.keptAs.empty()) << problem.reason;

@@ -23,9 +23,9 @@ public:
     explicit StoreFolder(const std::string& config)
     {
         std::ofstream(Path()) << config;
-        m_store = std::make_unique<XmlConfigStore>(Path(), StandardDatabase());
+        m_store = std::make_unique<StoreWithHistory>(Path(), StandardDatabase());
     }
-    XmlConfigStore& Store() { return *m_store; }
+    StoreWithHistory& Store() { return *m_store; }
     std::string Path() const { return m_dir.filePath(QStringLiteral("config.xml")).toStdString(); }
     std::string Read() const
     {
@@ -41,7 +41,7 @@ public:
 
 private:
     QTemporaryDir m_dir;
-    std::unique_ptr<XmlConfigStore> m_store;
+    std::unique_ptr<StoreWithHistory> m_store;
 };
 
 } // namespace
@@ -60,11 +60,11 @@ private slots:
         anna.GetProgress(1).AddUntested(90);
         anna.AddEvent({FixedClock(), LearnerEvent::Passed, 0, 5, 2});
         StoreFolder from(OneLearner("Anna"));
-        QVERIFY(LearnerTransfer(StandardDatabase(), from.Store(), m_prompt, nullptr).Export(anna, Exported()));
+        QVERIFY(LearnerTransfer(StandardDatabase(), from.Store(), from.Store().Histories(), m_prompt, nullptr).Export(anna, Exported()));
         QVERIFY(m_prompt.messages.isEmpty());
 
         StoreFolder to("<Zavoren><Users/></Zavoren>");
-        const auto outcome = LearnerTransfer(StandardDatabase(), to.Store(), m_prompt, nullptr).Import(Exported(), "");
+        const auto outcome = LearnerTransfer(StandardDatabase(), to.Store(), to.Store().Histories(), m_prompt, nullptr).Import(Exported(), "");
         QVERIFY(outcome.imported);
         QVERIFY(!outcome.replacedOpen);
         QVERIFY(m_prompt.messages.isEmpty());
@@ -79,7 +79,7 @@ private slots:
     {
         ExportAnnaWithOneLearned();
         StoreFolder folder(R"(<Z><Users currentUser="Ben"><User name="Anna"/><User name="Ben"/></Users></Z>)");
-        LearnerTransfer transfer(StandardDatabase(), folder.Store(), m_prompt, nullptr);
+        LearnerTransfer transfer(StandardDatabase(), folder.Store(), folder.Store().Histories(), m_prompt, nullptr);
         // Cancel: the file is not touched.
         const std::string before = folder.Read();
         m_prompt.answer = QMessageBox::Cancel;
@@ -116,7 +116,7 @@ private slots:
         StoreFolder folder(OneLearner("Anna"));
         m_prompt.answer = QMessageBox::Yes;
         const auto outcome
-            = LearnerTransfer(StandardDatabase(), folder.Store(), m_prompt, nullptr).Import(Exported(), "Anna");
+            = LearnerTransfer(StandardDatabase(), folder.Store(), folder.Store().Histories(), m_prompt, nullptr).Import(Exported(), "Anna");
         QVERIFY(outcome.imported);
         QVERIFY(outcome.replacedOpen);
         QCOMPARE(outcome.replacedOpen->GetProgress(0).Learned(), Codes{7});
@@ -133,7 +133,7 @@ private slots:
                        .toUtf8());
         file.close();
         StoreFolder folder("<Zavoren><Users/></Zavoren>");
-        QVERIFY(!LearnerTransfer(StandardDatabase(), folder.Store(), m_prompt, nullptr).Import(Exported(), "").imported);
+        QVERIFY(!LearnerTransfer(StandardDatabase(), folder.Store(), folder.Store().Histories(), m_prompt, nullptr).Import(Exported(), "").imported);
         QVERIFY2(m_prompt.messages.value(0).endsWith(QStringLiteral("is damaged. Nothing was imported.")),
             qPrintable(m_prompt.messages.value(0)));
         QCOMPARE(folder.Store().UserCount(), 0);
@@ -142,7 +142,7 @@ private slots:
     void aDamagedOrForeignFileChangesNothing()
     {
         StoreFolder folder(OneLearner("Anna"));
-        LearnerTransfer transfer(StandardDatabase(), folder.Store(), m_prompt, nullptr);
+        LearnerTransfer transfer(StandardDatabase(), folder.Store(), folder.Store().Histories(), m_prompt, nullptr);
         const std::string before = folder.Read();
         const QString categories = QString::number(StandardDatabase().CategoryCount());
         const QStringList files{
@@ -194,7 +194,7 @@ private:
         anna.SetName("Anna");
         anna.GetProgress(0).AddLearned(7);
         StoreFolder from(OneLearner("Anna"));
-        QVERIFY(LearnerTransfer(StandardDatabase(), from.Store(), m_prompt, nullptr).Export(anna, Exported()));
+        QVERIFY(LearnerTransfer(StandardDatabase(), from.Store(), from.Store().Histories(), m_prompt, nullptr).Export(anna, Exported()));
     }
 
     RecordingPrompt m_prompt;

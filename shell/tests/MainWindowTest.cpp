@@ -31,6 +31,7 @@
 #include <QBarSet>
 #include <QCheckBox>
 #include <QFileDialog>
+#include <QGroupBox>
 #include <QPointer>
 #include <QLineSeries>
 #include <QPluginLoader>
@@ -552,13 +553,19 @@ private slots:
             ModalAnswerer<PreferencesDialog> untick([](PreferencesDialog& dialog) {
                 // The checks return early when one fails; the dialog is closed all the same.
                 [&dialog] {
+                    // Under a heading for what they change: writing, reviews, words, the window.
+                    QStringList headings;
+                    for (QGroupBox* group : dialog.findChildren<QGroupBox*>())
+                        headings << group->title();
+                    QCOMPARE(headings, (QStringList{QStringLiteral("Writing"), QStringLiteral("Reviews"),
+                                           QStringLiteral("Words"), QStringLiteral("Window")}));
                     const QStringList captions{QStringLiteral("Explain refused strokes"), QStringLiteral("Practice grid"),
                         QStringLiteral("Show where a stroke starts after three misses"),
                         QStringLiteral("Judge place by my own character"),
-                        QStringLiteral("Bring the window onto the screen at start"),
+                        QStringLiteral("Review characters when they are due"),
                         QStringLiteral("Show words and parts in Kanji Info"),
                         QStringLiteral("Show a word after each answer"),
-                        QStringLiteral("Review characters when they are due")};
+                        QStringLiteral("Bring the window onto the screen at start")};
                     const QList<QCheckBox*> boxes = dialog.findChildren<QCheckBox*>();
                     QCOMPARE(boxes.size(), captions.size());
                     for (int i = 0; i < boxes.size(); ++i) {

@@ -10,8 +10,9 @@
 #include "ProgressModule.h"
 #include "RecordingOpener.h"
 #include "RecordingPrompt.h"
+#include "LearnerSession.h"
 #include "ShellTestSupport.h"
-#include "XmlConfigStore.h"
+#include "StoreWithHistory.h"
 
 #include <QAction>
 #include <QSettings>
@@ -39,6 +40,7 @@ inline ProgressViewFactory* NoProgressModule(QString& error)
 struct HistoryPlace {
     bool database = false;
     std::string path; ///< empty: history.db in the folder
+    std::string lexicon = "lexicon"; ///< where the session's words and parts come from
 };
 
 class WindowFixture {
@@ -55,7 +57,8 @@ public:
     ~WindowFixture() { Close(); }
 
     MainWindow& Window() { return *m_window; }
-    XmlConfigStore& Store() { return *m_store; }
+    StoreWithHistory& Store() { return *m_store; }
+    LearnerSession& Session() { return *m_session; }
     RecordingPrompt& Prompt() { return m_prompt; }
     RecordingOpener& Urls() { return m_urls; }
     QString Path() const { return m_dir.path(); }
@@ -76,6 +79,7 @@ public:
         if (m_window)
             m_window->close();
         m_window.reset();
+        m_session.reset();
         m_store.reset();
     }
     /// Closes everything and opens it again from the folder, as a new start of the program.
@@ -99,10 +103,12 @@ public:
 private:
     void Open()
     {
-        m_store = std::make_unique<XmlConfigStore>(
+        m_store = std::make_unique<StoreWithHistory>(
             ConfigPath(), StandardDatabase(), m_history.database ? HistoryPath() : std::string());
+        m_session = std::make_unique<LearnerSession>(
+            StandardDatabase(), *m_store, m_store->Histories(), [this] { return m_now; }, m_history.lexicon);
         m_window = std::make_unique<MainWindow>(
-            StandardDatabase(), *m_store, m_prompt, FixedSeed, m_urls.Opener(), [this] { return m_now; }, m_views);
+            StandardDatabase(), *m_session, m_prompt, FixedSeed, m_urls.Opener(), m_views);
     }
 
     QTemporaryDir m_dir;
@@ -111,7 +117,8 @@ private:
     ProgressViewSource m_views;
     HistoryPlace m_history;
     std::string m_now = FixedClock();
-    std::unique_ptr<XmlConfigStore> m_store;
+    std::unique_ptr<StoreWithHistory> m_store;
+    std::unique_ptr<LearnerSession> m_session;
     std::unique_ptr<MainWindow> m_window;
 };
 

@@ -60,6 +60,14 @@ void SetPreference(MainWindow& window, const QString& caption, bool on)
     QCOMPARE(answer.Shown(), 1);
 }
 
+/// The history with the learners, the words from the standard lexicon.
+HistoryPlace WithStandardLexicon()
+{
+    HistoryPlace place;
+    place.lexicon = ZAVOREN_STANDARD_LEXICON;
+    return place;
+}
+
 } // namespace
 
 class WordAidsTest : public QObject {
@@ -69,8 +77,7 @@ private slots:
     void kanjiInfoShowsWordsWithTheLearnersOwnCharacters()
     {
         // Anna has learned 大 (and nothing else): in 大学, 大 is in the normal colour, 学 dimmed.
-        WindowFixture f(OneLearner("Anna", {}, {IdOf(U'大')}));
-        f.Window().SetLexicon(std::make_unique<LexiconAccess>(ZAVOREN_STANDARD_LEXICON, StandardDatabase()));
+        WindowFixture f(OneLearner("Anna", {}, {IdOf(U'大')}), NoProgressModule, WithStandardLexicon());
         QVERIFY(f.Start());
         OpenCategory(f.Window(), 0);
         QStringList rows;
@@ -94,8 +101,7 @@ private slots:
     void bothAidsSwitchedOffShowNoWords()
     {
         // 日 waits for its test; 学 is still to be learned.
-        WindowFixture f(OneLearner("Anna", {IdOf(U'日')}, {IdOf(U'大')}));
-        f.Window().SetLexicon(std::make_unique<LexiconAccess>(ZAVOREN_STANDARD_LEXICON, StandardDatabase()));
+        WindowFixture f(OneLearner("Anna", {IdOf(U'日')}, {IdOf(U'大')}), NoProgressModule, WithStandardLexicon());
         QVERIFY(f.Start());
         SetPreference(f.Window(), QStringLiteral("Show words and parts in Kanji Info"), false);
         SetPreference(f.Window(), QStringLiteral("Show a word after each answer"), false);
@@ -121,8 +127,7 @@ private slots:
 
     void theReadingTestShowsAWordAfterTheRightAnswer()
     {
-        WindowFixture f(OneLearner("Anna", {IdOf(U'学')}));
-        f.Window().SetLexicon(std::make_unique<LexiconAccess>(ZAVOREN_STANDARD_LEXICON, StandardDatabase()));
+        WindowFixture f(OneLearner("Anna", {IdOf(U'学')}), NoProgressModule, WithStandardLexicon());
         QVERIFY(f.Start());
         OpenCategory(f.Window(), 0);
         QTest::mouseClick(Named<QPushButton>(ChildOf<CategoryPage>(f.Window()), "testButton"), Qt::LeftButton);

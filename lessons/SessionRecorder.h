@@ -1,0 +1,13 @@
+#pragma once
+
+#include "ProgressRecorder.h"
+
+#include <cstdint>
+#include <optional>
+
+class LearnerSession;
+
+/// The rules for the open learner's progress in category `categoryId`, their events kept in
+/// the session's history (none without a learner). Retest sends the due characters back first
+/// while the reviews are on.
+std::optional<ProgressRecorder> RecorderFor(LearnerSession& session, std::uint16_t categoryId);
