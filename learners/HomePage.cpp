@@ -101,8 +101,7 @@ void HomePage::FillItem(QTreeWidgetItem* item, std::uint16_t categoryId)
     const std::size_t learned = m_user->GetProgress(category->Id()).LearnedCount();
     const int due = m_reviews ? m_reviews->DueCount(category->Id()) : 0;
     item->setText(0, CategoryText(category->Name(), learned, category->CharacterCount(), due));
-    item->setIcon(0,
-        learned > 0 ? m_progressIcon : m_newIcon);
+    item->setIcon(0, learned > 0 ? m_progressIcon : m_newIcon);
     item->setData(0, Qt::UserRole, categoryId);
     item->setData(0, Qt::UserRole + 1, learned > 0 ? 1 : 0); // the picture shown: 1 with progress
 }

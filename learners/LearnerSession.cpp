@@ -36,6 +36,13 @@ std::unique_ptr<User> LearnerSession::Open(std::unique_ptr<User> learner)
     return previous;
 }
 
+void LearnerSession::SaveLearner(bool onlyWhileCurrent)
+{
+    if (!m_learner || (onlyWhileCurrent && (!m_learner->Name() || m_store.CurrentUserName() != m_learner->Name())))
+        return;
+    m_store.SaveUser(*m_learner);
+}
+
 std::string LearnerSession::LearnerName() const
 {
     return m_learner && m_learner->Name() ? m_learner->Name() : "";
@@ -64,8 +71,8 @@ std::vector<LearnerEvent> LearnerSession::Events()
 
 void LearnerSession::SetReviewRules(const ReviewRules& rules)
 {
-    const bool changed
-        = rules.on != m_rules.on || rules.retention != m_rules.retention || rules.maximumInterval != m_rules.maximumInterval;
+    const bool changed = rules.on != m_rules.on || rules.retention != m_rules.retention
+        || rules.maximumInterval != m_rules.maximumInterval;
     m_rules = rules;
     if (changed)
         emit progressChanged();

@@ -42,6 +42,9 @@ public:
     /// Makes `learner` the open learner (none: nobody) and tells the listeners; the one open
     /// before is handed back, unsaved.
     std::unique_ptr<User> Open(std::unique_ptr<User> learner);
+    /// Writes the open learner's record to the store (only while they are the store's current
+    /// learner when `onlyWhileCurrent`); throws ConfigException when the store fails.
+    void SaveLearner(bool onlyWhileCurrent = false);
     /// The open learner's name; empty for none.
     std::string LearnerName() const;
 

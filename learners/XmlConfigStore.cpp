@@ -27,7 +27,6 @@ using ZavorenCommon::ConfigException;
 
 namespace {
 
-
 /// Deepest element nesting a learner file may have. The program writes six levels (the document
 /// element, Users, User, Progress, Learned, Character); anything far deeper was not written by
 /// it, and saving it back would indent each line by its depth.
@@ -36,7 +35,6 @@ constexpr unsigned MaxDepth = 64;
 /// A temporary file of a save older than this belongs to no running save: a save takes
 /// milliseconds, so such a file was left by a save that was killed before its rename.
 constexpr auto StaleTemporaryAge = std::chrono::minutes(1);
-
 
 /// The whole content of a regular file; false when it cannot be read.
 bool ReadWholeFile(const std::string& path, std::string& text)

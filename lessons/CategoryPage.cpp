@@ -242,7 +242,8 @@ void CategoryPage::ShowInfo(CharacterGrid* grid)
     KanjiInfoDialog dialog(m_database, m_prompt, this);
     dialog.SetWords(m_words);
     if (m_reviews && m_recorder)
-        if (const ReviewSchedule::Review* review = m_reviews->Find(m_recorder->Progress().CategoryId(), selected.front()))
+        if (const ReviewSchedule::Review* review
+            = m_reviews->Find(m_recorder->Progress().CategoryId(), selected.front()))
             dialog.SetNextReview(review->dueDay, m_reviews->Today());
     if (dialog.SetCode(selected.front()))
         dialog.exec();

@@ -4,15 +4,14 @@
 #include "CategoryRules.h"
 #include "ConfigException.h"
 #include "ConfigStore.h"
-#include "HelpActions.h"
 #include "FirstPaint.h"
+#include "HelpActions.h"
 #include "HistoryNotice.h"
 #include "HomePage.h"
 #include "LearnerSession.h"
 #include "LearnerTransfer.h"
 #include "LessonPage.h"
 #include "PageStack.h"
-#include "PreferencesEditor.h"
 #include "Prompt.h"
 #include "ScreenPlacement.h"
 #include "StoredPicture.h"
@@ -52,8 +51,6 @@ MainWindow::MainWindow(CharacterDatabase& database, LearnerSession& session, Pro
     new HistoryNotice(session, prompt, this);
     InstallWindowKeys(this);
 }
-
-MainWindow::~MainWindow() = default;
 
 void MainWindow::BuildMenu()
 {
@@ -117,10 +114,8 @@ bool MainWindow::ShowChosenLearner()
 void MainWindow::SetLearner(std::unique_ptr<User> learner, SaveOpenLearner save)
 {
     try {
-        const User* open = m_session.Learner();
-        if (save == SaveOpenLearner::Yes && open && open->Name()
-            && m_session.Store().CurrentUserName() == open->Name())
-            m_session.Store().SaveUser(*m_session.Learner());
+        if (save == SaveOpenLearner::Yes)
+            m_session.SaveLearner(true);
     } catch (const ConfigException& e) {
         ReportStoreError(e.what());
     }
@@ -185,12 +180,12 @@ void MainWindow::closeEvent(QCloseEvent* event)
     }
     m_closing = true;
     m_progress.Close();
-    if (User* learner = m_session.Learner()) {
+    if (m_session.Learner()) {
         // A test in progress counts as taken so far.
         if (m_pages->Shown() == m_test)
             ApplyTestOutcome();
         try {
-            m_session.Store().SaveUser(*learner);
+            m_session.SaveLearner();
         } catch (const ConfigException& e) {
             m_prompt.StoreError(this, ConfigurationErrorTitle, e.what());
         }

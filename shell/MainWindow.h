@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PreferencesEditor.h"
 #include "ProgramSettings.h"
 #include "ProgressViewer.h"
 #include "Random15.h"
@@ -18,7 +19,6 @@ class LearnerSession;
 class LessonPage;
 class Page;
 class PageStack;
-class PreferencesEditor;
 class Prompt;
 class TestContainer;
 
@@ -34,7 +34,6 @@ public:
     /// `progressViews`.
     MainWindow(CharacterDatabase& database, LearnerSession& session, Prompt& prompt, SeedSource seeds, UrlOpener open,
         ProgressViewSource progressViews, QWidget* parent = nullptr);
-    ~MainWindow() override;
 
     /// Chooses the learner to open: the recorded current one, else the only one, else the User
     /// Manager's choice. False when the User Manager was cancelled (the program ends).

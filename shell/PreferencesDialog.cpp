@@ -85,7 +85,8 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
         words->addWidget(box);
     group(tr("Window"), "windowGroup")->addWidget(m_onScreen);
     auto follow = [this, retentionLabel, meaning, intervalLabel](bool on) {
-        for (QWidget* w : std::initializer_list<QWidget*>{m_retention, m_interval, retentionLabel, meaning, intervalLabel})
+        for (QWidget* w :
+            std::initializer_list<QWidget*>{m_retention, m_interval, retentionLabel, meaning, intervalLabel})
             w->setEnabled(on);
     };
     connect(m_reviews, &QCheckBox::toggled, this, follow);

@@ -23,8 +23,7 @@ void ProgressViewer::Open(LearnerSession& session, bool withWords, QWidget* pare
     Open(session.Learner(), std::move(history), session.Reviews(), withWords ? &session.Lexicon() : nullptr, parent);
 }
 
-void ProgressViewer::Open(
-    const User* learner, std::vector<LearnerEvent> history, std::optional<ReviewSchedule> reviews,
+void ProgressViewer::Open(const User* learner, std::vector<LearnerEvent> history, std::optional<ReviewSchedule> reviews,
     LexiconAccess* words, QWidget* parent)
 {
     Close();
@@ -34,8 +33,8 @@ void ProgressViewer::Open(
     ProgressViewFactory* factory = m_source ? m_source(error) : nullptr;
     try {
         if (factory)
-            m_window = factory->CreateProgressView(
-                m_database, m_prompt, *learner, std::move(history), m_clock ? m_clock() : LocalTimeNow(), std::move(reviews), words, parent);
+            m_window = factory->CreateProgressView(m_database, m_prompt, *learner, std::move(history),
+                m_clock ? m_clock() : LocalTimeNow(), std::move(reviews), words, parent);
     } catch (const std::exception& e) {
         factory = nullptr;
         error = QString::fromUtf8(e.what());

@@ -5,12 +5,12 @@
 // the folder too. Nothing changes the current folder or goes through the process-wide stores.
 
 #include "FileCharacterDatabase.h"
+#include "LearnerSession.h"
 #include "MainWindow.h"
 #include "Page.h"
 #include "ProgressModule.h"
 #include "RecordingOpener.h"
 #include "RecordingPrompt.h"
-#include "LearnerSession.h"
 #include "ShellTestSupport.h"
 #include "StoreWithHistory.h"
 
