@@ -6,6 +6,7 @@
 #include "ConfigException.h"
 #include "DatabaseWriter.h"
 #include "FileCharacterDatabase.h"
+#include "HistoryDatabase.h"
 #include "LearnerFile.h"
 #include "XmlConfigStore.h"
 
@@ -60,17 +61,19 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Write(path, data, size);
     try {
         // The history in a database of its own in memory: brought over, read, written.
-        XmlConfigStore store(path, database, ":memory:");
+        XmlConfigStore store(path, database);
+        HistoryDatabase history(":memory:");
+        history.Attach(store);
         for (std::uint16_t i = 0; i < store.UserCount(); ++i) {
             const std::string name = store.UserName(i);
             auto learner = store.LoadUser(name);
             if (!learner)
                 continue;
-            (void)store.History(*learner);
-            store.Record(*learner, {{"2026-11-23T10:00:00+01:00", LearnerEvent::Lesson, 0, 1, -1}});
+            (void)history.Events(*learner);
+            history.Record(*learner, {{"2026-11-23T10:00:00+01:00", LearnerEvent::Lesson, 0, 1, -1}});
+            (void)history.Memories(*learner);
             store.SaveUser(*learner);
         }
-        (void)store.TakeHistoryProblem();
     } catch (const ZavorenCommon::ConfigException&) {
     }
     return 0;

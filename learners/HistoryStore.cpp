@@ -1,6 +1,6 @@
 #include "HistoryStore.h"
 
-#include <sqlite3.h>
+#include "SqliteLibrary.h"
 
 #include <cstdio>
 #include <ctime>
@@ -42,11 +42,13 @@ const char* const Migrations[] = {
     " PRIMARY KEY (learner, category, character)) WITHOUT ROWID;"
     "CREATE TRIGGER characters_follow_events AFTER INSERT ON events BEGIN"
     " INSERT INTO characters VALUES (new.learner, new.category, new.character, new.id, new.at, new.kind,"
-    "  new.kind IN ('passed', 'failed'), CASE WHEN new.kind IN ('passed', 'failed') THEN max(new.mistakes, 0) ELSE 0 END,"
+    "  new.kind IN ('passed', 'failed'), CASE WHEN new.kind IN ('passed', 'failed') THEN max(new.mistakes, 0) ELSE 0 "
+    "END,"
     "  new.kind = 'failed')"
     " ON CONFLICT (learner, category, character) DO UPDATE SET"
     "  last_event = excluded.last_event, last_at = excluded.last_at, last_kind = excluded.last_kind,"
-    "  tests = tests + excluded.tests, mistakes = mistakes + excluded.mistakes, failures = failures + excluded.failures;"
+    "  tests = tests + excluded.tests, mistakes = mistakes + excluded.mistakes, failures = failures + "
+    "excluded.failures;"
     " END;"
     "INSERT INTO characters SELECT learner, category, character, max(id), '', '',"
     " sum(kind IN ('passed', 'failed')), sum(CASE WHEN kind IN ('passed', 'failed') THEN max(mistakes, 0) ELSE 0 END),"
@@ -71,7 +73,7 @@ static_assert(std::size(Migrations) == HistoryStore::SchemaVersion);
 
 std::string Reason(sqlite3* db)
 {
-    return db ? sqlite3_errmsg(db) : "out of memory";
+    return db ? Sqlite().errmsg(db) : "out of memory";
 }
 
 /// A statement that is finalised when it goes.
@@ -79,9 +81,9 @@ class Statement {
 public:
     Statement(sqlite3* db, const char* sql)
     {
-        m_ok = sqlite3_prepare_v2(db, sql, -1, &m_statement, nullptr) == SQLITE_OK;
+        m_ok = Sqlite().prepare_v2(db, sql, -1, &m_statement, nullptr) == SQLITE_OK;
     }
-    ~Statement() { sqlite3_finalize(m_statement); }
+    ~Statement() { Sqlite().finalize(m_statement); }
     Statement(const Statement&) = delete;
     Statement& operator=(const Statement&) = delete;
     bool Ok() const { return m_ok; }
@@ -95,7 +97,7 @@ private:
 /// A text column of the row, empty when it is null.
 std::string Text(sqlite3_stmt* statement, int column)
 {
-    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+    const auto* text = reinterpret_cast<const char*>(Sqlite().column_text(statement, column));
     return text ? text : "";
 }
 
@@ -132,20 +134,20 @@ std::string RenameAside(const std::string& path)
 /// is ready at the current schema.
 int OpenChecked(const std::string& path, sqlite3*& db, std::string& error)
 {
-    int code
-        = sqlite3_open_v2(path.c_str(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
+    int code = Sqlite().open_v2(
+        path.c_str(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
     if (code != SQLITE_OK) {
         error = Reason(db);
         return code;
     }
-    sqlite3_extended_result_codes(db, 1);
-    sqlite3_busy_timeout(db, HistoryStore::BusyTimeoutMs);
+    Sqlite().extended_result_codes(db, 1);
+    Sqlite().busy_timeout(db, HistoryStore::BusyTimeoutMs);
     auto run = [&](const char* sql) {
         char* message = nullptr;
-        const int result = sqlite3_exec(db, sql, nullptr, nullptr, &message);
+        const int result = Sqlite().exec(db, sql, nullptr, nullptr, &message);
         if (result != SQLITE_OK)
             error = message ? message : Reason(db);
-        sqlite3_free(message);
+        Sqlite().free(message);
         return result;
     };
     // Reading the schema version reads the file's header: a file that is not a database says
@@ -155,14 +157,14 @@ int OpenChecked(const std::string& path, sqlite3*& db, std::string& error)
         Statement read(db, "PRAGMA user_version");
         if (!read.Ok()) {
             error = Reason(db);
-            return sqlite3_extended_errcode(db);
+            return Sqlite().extended_errcode(db);
         }
-        code = sqlite3_step(read.Get());
+        code = Sqlite().step(read.Get());
         if (code != SQLITE_ROW) {
             error = Reason(db);
             return code;
         }
-        version = sqlite3_column_int(read.Get(), 0);
+        version = Sqlite().column_int(read.Get(), 0);
     }
     if (version > HistoryStore::SchemaVersion) {
         error = "it was written by a newer Zavoren! (schema " + std::to_string(version) + ")";
@@ -170,8 +172,8 @@ int OpenChecked(const std::string& path, sqlite3*& db, std::string& error)
     }
     // A small page cache: each action writes a few rows, and the history is read from start to
     // end; the file's pages stay in the system's cache anyway.
-    if ((code = run("PRAGMA journal_mode = WAL")) != SQLITE_OK
-        || (code = run("PRAGMA synchronous = FULL")) != SQLITE_OK || (code = run("PRAGMA cache_size = -512")) != SQLITE_OK)
+    if ((code = run("PRAGMA journal_mode = WAL")) != SQLITE_OK || (code = run("PRAGMA synchronous = FULL")) != SQLITE_OK
+        || (code = run("PRAGMA cache_size = -512")) != SQLITE_OK)
         return code;
     for (int v = version; v < HistoryStore::SchemaVersion; ++v) {
         const std::string migration = std::string("BEGIN IMMEDIATE;") + Migrations[v]
@@ -190,16 +192,19 @@ HistoryStore::HistoryStore(sqlite3* db) : m_db(db) { }
 
 HistoryStore::~HistoryStore()
 {
-    sqlite3_close(m_db);
+    Sqlite().close(m_db);
 }
 
 std::unique_ptr<HistoryStore> HistoryStore::Open(const std::string& path, std::string& error, std::string* keptAs)
 {
+    // SQLite is loaded now, the first time a history is opened.
+    if (!LoadSqlite(error))
+        return nullptr;
     sqlite3* db = nullptr;
     const int code = OpenChecked(path, db, error);
     if (code == SQLITE_OK)
         return std::unique_ptr<HistoryStore>(new HistoryStore(db));
-    sqlite3_close(db);
+    Sqlite().close(db);
     if (IsDamage(code)) {
         const std::string aside = RenameAside(path);
         if (aside.empty())
@@ -213,10 +218,10 @@ std::unique_ptr<HistoryStore> HistoryStore::Open(const std::string& path, std::s
 bool HistoryStore::Execute(const char* sql, std::string& error) const
 {
     char* message = nullptr;
-    const bool ok = sqlite3_exec(m_db, sql, nullptr, nullptr, &message) == SQLITE_OK;
+    const bool ok = Sqlite().exec(m_db, sql, nullptr, nullptr, &message) == SQLITE_OK;
     if (!ok)
         error = message ? message : Reason(m_db);
-    sqlite3_free(message);
+    Sqlite().free(message);
     return ok;
 }
 
@@ -241,12 +246,12 @@ bool HistoryStore::Insert(const std::string& learner, const std::vector<LearnerE
     for (std::size_t i = 0; ok && i < events.size(); ++i) {
         const LearnerEvent& e = events[i];
         sqlite3_stmt* s = insert.Get();
-        ok = sqlite3_bind_text(s, 1, learner.c_str(), -1, SQLITE_STATIC) == SQLITE_OK
-            && sqlite3_bind_text(s, 2, e.at.c_str(), -1, SQLITE_STATIC) == SQLITE_OK
-            && sqlite3_bind_text(s, 3, e.kind.c_str(), -1, SQLITE_STATIC) == SQLITE_OK
-            && sqlite3_bind_int(s, 4, e.categoryId) == SQLITE_OK && sqlite3_bind_int(s, 5, e.id) == SQLITE_OK
-            && sqlite3_bind_int(s, 6, e.mistakes) == SQLITE_OK && sqlite3_step(s) == SQLITE_DONE;
-        sqlite3_reset(s);
+        ok = Sqlite().bind_text(s, 1, learner.c_str(), -1, SQLITE_STATIC) == SQLITE_OK
+            && Sqlite().bind_text(s, 2, e.at.c_str(), -1, SQLITE_STATIC) == SQLITE_OK
+            && Sqlite().bind_text(s, 3, e.kind.c_str(), -1, SQLITE_STATIC) == SQLITE_OK
+            && Sqlite().bind_int(s, 4, e.categoryId) == SQLITE_OK && Sqlite().bind_int(s, 5, e.id) == SQLITE_OK
+            && Sqlite().bind_int(s, 6, e.mistakes) == SQLITE_OK && Sqlite().step(s) == SQLITE_DONE;
+        Sqlite().reset(s);
     }
     return ok;
 }
@@ -257,8 +262,8 @@ bool HistoryStore::Delete(const std::string& learner)
              "DELETE FROM imported WHERE learner = ?", "DELETE FROM memories WHERE learner = ?",
              "DELETE FROM memories_through WHERE learner = ?"}) {
         Statement remove(m_db, sql);
-        if (!remove.Ok() || sqlite3_bind_text(remove.Get(), 1, learner.c_str(), -1, SQLITE_STATIC) != SQLITE_OK
-            || sqlite3_step(remove.Get()) != SQLITE_DONE)
+        if (!remove.Ok() || Sqlite().bind_text(remove.Get(), 1, learner.c_str(), -1, SQLITE_STATIC) != SQLITE_OK
+            || Sqlite().step(remove.Get()) != SQLITE_DONE)
             return false;
     }
     return true;
@@ -280,16 +285,18 @@ bool HistoryStore::Record(const std::string& learner, const std::vector<LearnerE
 long long HistoryStore::LastEvent(const std::string& learner) const
 {
     long long last = -1;
-    SelectLearner("SELECT coalesce(max(id), 0) FROM events WHERE learner = ?", learner,
-        [&last](sqlite3_stmt* s) { last = sqlite3_column_int64(s, 0); }, m_ignored);
+    SelectLearner(
+        "SELECT coalesce(max(id), 0) FROM events WHERE learner = ?", learner,
+        [&last](sqlite3_stmt* s) { last = Sqlite().column_int64(s, 0); }, m_ignored);
     return last;
 }
 
 long long HistoryStore::MemoriesThrough(const std::string& learner) const
 {
     long long through = -1;
-    SelectLearner("SELECT last_event FROM memories_through WHERE learner = ?", learner,
-        [&through](sqlite3_stmt* s) { through = sqlite3_column_int64(s, 0); }, m_ignored);
+    SelectLearner(
+        "SELECT last_event FROM memories_through WHERE learner = ?", learner,
+        [&through](sqlite3_stmt* s) { through = Sqlite().column_int64(s, 0); }, m_ignored);
     return through;
 }
 
@@ -304,13 +311,13 @@ bool HistoryStore::UpdateMemories(const std::string& learner, const std::vector<
         return false;
     for (const LearnerEvent& e : events) {
         sqlite3_stmt* s = read.Get();
-        sqlite3_bind_text(s, 1, learner.c_str(), -1, SQLITE_STATIC);
-        sqlite3_bind_int(s, 2, e.categoryId);
-        sqlite3_bind_int(s, 3, e.id);
-        if (sqlite3_step(s) == SQLITE_ROW)
-            touched.push_back({e.categoryId, e.id, {sqlite3_column_double(s, 0), sqlite3_column_double(s, 1)},
-                sqlite3_column_int(s, 2)});
-        sqlite3_reset(s);
+        Sqlite().bind_text(s, 1, learner.c_str(), -1, SQLITE_STATIC);
+        Sqlite().bind_int(s, 2, e.categoryId);
+        Sqlite().bind_int(s, 3, e.id);
+        if (Sqlite().step(s) == SQLITE_ROW)
+            touched.push_back({e.categoryId, e.id, {Sqlite().column_double(s, 0), Sqlite().column_double(s, 1)},
+                Sqlite().column_int(s, 2)});
+        Sqlite().reset(s);
     }
     ledger.Load(touched);
     for (const LearnerEvent& e : events)
@@ -321,29 +328,29 @@ bool HistoryStore::UpdateMemories(const std::string& learner, const std::vector<
     return SetMemoriesThrough(learner, LastEvent(learner));
 }
 
-bool HistoryStore::WriteMemory(const std::string& learner, std::pair<std::uint16_t, std::uint16_t> key,
-    const CharacterMemory* memory)
+bool HistoryStore::WriteMemory(
+    const std::string& learner, std::pair<std::uint16_t, std::uint16_t> key, const CharacterMemory* memory)
 {
     Statement write(m_db,
         memory ? "INSERT OR REPLACE INTO memories VALUES (?, ?, ?, ?, ?, ?)"
                : "DELETE FROM memories WHERE learner = ? AND category = ? AND character = ?");
     sqlite3_stmt* s = write.Get();
-    if (!write.Ok() || sqlite3_bind_text(s, 1, learner.c_str(), -1, SQLITE_STATIC) != SQLITE_OK
-        || sqlite3_bind_int(s, 2, key.first) != SQLITE_OK || sqlite3_bind_int(s, 3, key.second) != SQLITE_OK)
+    if (!write.Ok() || Sqlite().bind_text(s, 1, learner.c_str(), -1, SQLITE_STATIC) != SQLITE_OK
+        || Sqlite().bind_int(s, 2, key.first) != SQLITE_OK || Sqlite().bind_int(s, 3, key.second) != SQLITE_OK)
         return false;
     if (memory
-        && (sqlite3_bind_double(s, 4, memory->memory.stability) != SQLITE_OK
-            || sqlite3_bind_double(s, 5, memory->memory.difficulty) != SQLITE_OK
-            || sqlite3_bind_int(s, 6, memory->lastDay) != SQLITE_OK))
+        && (Sqlite().bind_double(s, 4, memory->memory.stability) != SQLITE_OK
+            || Sqlite().bind_double(s, 5, memory->memory.difficulty) != SQLITE_OK
+            || Sqlite().bind_int(s, 6, memory->lastDay) != SQLITE_OK))
         return false;
-    return sqlite3_step(s) == SQLITE_DONE;
+    return Sqlite().step(s) == SQLITE_DONE;
 }
 
 bool HistoryStore::SetMemoriesThrough(const std::string& learner, long long lastEvent)
 {
     Statement write(m_db, "INSERT OR REPLACE INTO memories_through VALUES (?, ?)");
-    return write.Ok() && sqlite3_bind_text(write.Get(), 1, learner.c_str(), -1, SQLITE_STATIC) == SQLITE_OK
-        && sqlite3_bind_int64(write.Get(), 2, lastEvent) == SQLITE_OK && sqlite3_step(write.Get()) == SQLITE_DONE;
+    return write.Ok() && Sqlite().bind_text(write.Get(), 1, learner.c_str(), -1, SQLITE_STATIC) == SQLITE_OK
+        && Sqlite().bind_int64(write.Get(), 2, lastEvent) == SQLITE_OK && Sqlite().step(write.Get()) == SQLITE_DONE;
 }
 
 bool HistoryStore::Memories(const std::string& learner, LearnerMemories& memories, std::string& error)
@@ -355,7 +362,8 @@ bool HistoryStore::Memories(const std::string& learner, LearnerMemories& memorie
         return false;
     }
     if (last > 0)
-        SelectLearner("SELECT at FROM events WHERE learner = ? ORDER BY id LIMIT 1", learner,
+        SelectLearner(
+            "SELECT at FROM events WHERE learner = ? ORDER BY id LIMIT 1", learner,
             [&memories](sqlite3_stmt* s) { memories.firstDay = EventDay(Text(s, 0)); }, m_ignored);
     if (MemoriesThrough(learner) == last) {
         return SelectLearner(
@@ -363,9 +371,9 @@ bool HistoryStore::Memories(const std::string& learner, LearnerMemories& memorie
             " ORDER BY category, character",
             learner,
             [&memories](sqlite3_stmt* s) {
-                memories.memories.push_back({static_cast<std::uint16_t>(sqlite3_column_int(s, 0)),
-                    static_cast<std::uint16_t>(sqlite3_column_int(s, 1)),
-                    {sqlite3_column_double(s, 2), sqlite3_column_double(s, 3)}, sqlite3_column_int(s, 4)});
+                memories.memories.push_back({static_cast<std::uint16_t>(Sqlite().column_int(s, 0)),
+                    static_cast<std::uint16_t>(Sqlite().column_int(s, 1)),
+                    {Sqlite().column_double(s, 2), Sqlite().column_double(s, 3)}, Sqlite().column_int(s, 4)});
             },
             error);
     }
@@ -381,8 +389,8 @@ bool HistoryStore::Memories(const std::string& learner, LearnerMemories& memorie
     InTransaction(
         [&] {
             Statement clear(m_db, "DELETE FROM memories WHERE learner = ?");
-            if (!clear.Ok() || sqlite3_bind_text(clear.Get(), 1, learner.c_str(), -1, SQLITE_STATIC) != SQLITE_OK
-                || sqlite3_step(clear.Get()) != SQLITE_DONE)
+            if (!clear.Ok() || Sqlite().bind_text(clear.Get(), 1, learner.c_str(), -1, SQLITE_STATIC) != SQLITE_OK
+                || Sqlite().step(clear.Get()) != SQLITE_DONE)
                 return false;
             for (const CharacterMemory& c : memories.memories)
                 if (!WriteMemory(learner, {c.categoryId, c.id}, &c))
@@ -435,12 +443,12 @@ bool HistoryStore::BringOver(const std::vector<Kept>& histories, std::string& er
             for (const Kept& kept : histories) {
                 const std::string fingerprint = Fingerprint(kept.events);
                 sqlite3_stmt* s = mark.Get();
-                if (sqlite3_bind_text(s, 1, kept.learner.c_str(), -1, SQLITE_STATIC) != SQLITE_OK
-                    || sqlite3_bind_text(s, 2, fingerprint.c_str(), -1, SQLITE_STATIC) != SQLITE_OK
-                    || sqlite3_step(s) != SQLITE_DONE)
+                if (Sqlite().bind_text(s, 1, kept.learner.c_str(), -1, SQLITE_STATIC) != SQLITE_OK
+                    || Sqlite().bind_text(s, 2, fingerprint.c_str(), -1, SQLITE_STATIC) != SQLITE_OK
+                    || Sqlite().step(s) != SQLITE_DONE)
                     return false;
-                const bool broughtBefore = sqlite3_changes(m_db) == 0;
-                sqlite3_reset(s);
+                const bool broughtBefore = Sqlite().changes(m_db) == 0;
+                Sqlite().reset(s);
                 if (!broughtBefore && !Insert(kept.learner, kept.events))
                     return false;
             }
@@ -453,12 +461,12 @@ bool HistoryStore::SelectLearner(const char* sql, const std::string& learner,
     const std::function<void(sqlite3_stmt*)>& row, std::string& error) const
 {
     Statement select(m_db, sql);
-    if (!select.Ok() || sqlite3_bind_text(select.Get(), 1, learner.c_str(), -1, SQLITE_STATIC) != SQLITE_OK) {
+    if (!select.Ok() || Sqlite().bind_text(select.Get(), 1, learner.c_str(), -1, SQLITE_STATIC) != SQLITE_OK) {
         error = Reason(m_db);
         return false;
     }
     int code = SQLITE_ROW;
-    while ((code = sqlite3_step(select.Get())) == SQLITE_ROW)
+    while ((code = Sqlite().step(select.Get())) == SQLITE_ROW)
         row(select.Get());
     if (code != SQLITE_DONE) {
         error = Reason(m_db);
@@ -470,11 +478,11 @@ bool HistoryStore::SelectLearner(const char* sql, const std::string& learner,
 bool HistoryStore::Events(const std::string& learner, std::vector<LearnerEvent>& events, std::string& error) const
 {
     events.clear();
-    return SelectLearner("SELECT at, kind, category, character, mistakes FROM events WHERE learner = ? ORDER BY id",
-        learner,
+    return SelectLearner(
+        "SELECT at, kind, category, character, mistakes FROM events WHERE learner = ? ORDER BY id", learner,
         [&events](sqlite3_stmt* s) {
-            events.push_back({Text(s, 0), Text(s, 1), static_cast<std::uint16_t>(sqlite3_column_int(s, 2)),
-                static_cast<std::uint16_t>(sqlite3_column_int(s, 3)), sqlite3_column_int(s, 4)});
+            events.push_back({Text(s, 0), Text(s, 1), static_cast<std::uint16_t>(Sqlite().column_int(s, 2)),
+                static_cast<std::uint16_t>(Sqlite().column_int(s, 3)), Sqlite().column_int(s, 4)});
         },
         error);
 }
@@ -488,9 +496,9 @@ bool HistoryStore::Characters(
         " WHERE learner = ? ORDER BY category, character",
         learner,
         [&characters](sqlite3_stmt* s) {
-            characters.push_back({static_cast<std::uint16_t>(sqlite3_column_int(s, 0)),
-                static_cast<std::uint16_t>(sqlite3_column_int(s, 1)), Text(s, 2), Text(s, 3),
-                sqlite3_column_int(s, 4), sqlite3_column_int(s, 5), sqlite3_column_int(s, 6)});
+            characters.push_back({static_cast<std::uint16_t>(Sqlite().column_int(s, 0)),
+                static_cast<std::uint16_t>(Sqlite().column_int(s, 1)), Text(s, 2), Text(s, 3),
+                Sqlite().column_int(s, 4), Sqlite().column_int(s, 5), Sqlite().column_int(s, 6)});
         },
         error);
 }
@@ -500,7 +508,7 @@ bool HistoryStore::Check(std::string& error)
     // Every page and index (about 30 ms for ten years of daily practice): damage found now is
     // told now, not at a later write, and never spread by writing into it.
     Statement check(m_db, "PRAGMA integrity_check(1)");
-    if (!check.Ok() || sqlite3_step(check.Get()) != SQLITE_ROW) {
+    if (!check.Ok() || Sqlite().step(check.Get()) != SQLITE_ROW) {
         error = Reason(m_db);
         m_damaged = LastFailureWasDamage();
         return false;
@@ -521,5 +529,5 @@ std::string HistoryStore::PutAside(const std::string& path)
 
 bool HistoryStore::LastFailureWasDamage() const
 {
-    return m_damaged || IsDamage(sqlite3_extended_errcode(m_db));
+    return m_damaged || IsDamage(Sqlite().extended_errcode(m_db));
 }

@@ -7,6 +7,7 @@
 #include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -39,18 +40,25 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
     m_reviews->setChecked(preferences.reviewWhenDue);
     for (QCheckBox* box : {m_explain, m_grid, m_hint, m_ownFrame, m_onScreen, m_words, m_wordAfterAnswer, m_reviews})
         box->setAccessibleName(box->text());
-    // A heading for what each group of aids changes; each group a column of its boxes.
-    auto group = [this, layout](const QString& title, const char* name) {
+    // A heading for what each group of aids changes, the groups in two columns so that the
+    // dialog stays one screen tall on a small screen at ratio 2.
+    auto* columns = new QHBoxLayout;
+    auto* left = new QVBoxLayout;
+    auto* right = new QVBoxLayout;
+    columns->addLayout(left);
+    columns->addLayout(right);
+    layout->addLayout(columns);
+    auto group = [this](QVBoxLayout* column, const QString& title, const char* name) {
         auto* box = new QGroupBox(title, this);
         box->setObjectName(QLatin1String(name));
         box->setAccessibleName(title);
-        layout->addWidget(box);
+        column->addWidget(box);
         return new QVBoxLayout(box);
     };
-    QVBoxLayout* writing = group(tr("Writing"), "writingGroup");
+    QVBoxLayout* writing = group(left, tr("Writing"), "writingGroup");
     for (QCheckBox* box : {m_explain, m_grid, m_hint, m_ownFrame})
         writing->addWidget(box);
-    QVBoxLayout* reviews = group(tr("Reviews"), "reviewsGroup");
+    QVBoxLayout* reviews = group(right, tr("Reviews"), "reviewsGroup");
     reviews->addWidget(m_reviews);
     // The schedule of the reviews, indented under their box.
     auto* schedule = new QFormLayout;
@@ -68,6 +76,9 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
     auto* meaning = new QLabel(tr("higher: more reviews, fewer characters forgotten"), this);
     meaning->setObjectName(QStringLiteral("retentionMeaning"));
     meaning->setWordWrap(true);
+    // The dialog's size does not follow a wrapped label's height for its width: room for the
+    // two lines it takes in the column.
+    meaning->setMinimumHeight(2 * meaning->fontMetrics().lineSpacing());
     m_retention->setAccessibleDescription(meaning->text());
     schedule->addRow(meaning);
     m_interval = new QSpinBox(this);
@@ -80,10 +91,12 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
     intervalLabel->setBuddy(m_interval);
     schedule->addRow(intervalLabel, m_interval);
     reviews->addLayout(schedule);
-    QVBoxLayout* words = group(tr("Words"), "wordsGroup");
+    QVBoxLayout* words = group(right, tr("Words"), "wordsGroup");
     for (QCheckBox* box : {m_words, m_wordAfterAnswer})
         words->addWidget(box);
-    group(tr("Window"), "windowGroup")->addWidget(m_onScreen);
+    group(left, tr("Window"), "windowGroup")->addWidget(m_onScreen);
+    left->addStretch();
+    right->addStretch();
     auto follow = [this, retentionLabel, meaning, intervalLabel](bool on) {
         for (QWidget* w :
             std::initializer_list<QWidget*>{m_retention, m_interval, retentionLabel, meaning, intervalLabel})

@@ -20,6 +20,7 @@
 #include "LessonPage.h"
 #include "MainWindow.h"
 #include "Named.h"
+#include "PreferencesDialog.h"
 #include "ReadingTestPage.h"
 #include "RecordingOpener.h"
 #include "RecordingPrompt.h"
@@ -340,6 +341,19 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(&about));
         QVERIFY2(ClippedLabels(&about).isEmpty(), qPrintable(ClippedLabels(&about)));
         QVERIFY2(ChildrenOutside(&about).isEmpty(), qPrintable(ChildrenOutside(&about)));
+    }
+
+    void thePreferencesFitASmallScreenAtRatioTwo()
+    {
+        // 1280 x 800 at ratio 2 is 640 x 400 logical pixels; a panel and the title bar take some
+        // 60 of the height.
+        PreferencesDialog preferences(CoachingPreferences{});
+        preferences.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&preferences));
+        QVERIFY2(preferences.height() <= 340, qPrintable(QString::number(preferences.height())));
+        QVERIFY2(preferences.width() <= 640, qPrintable(QString::number(preferences.width())));
+        QVERIFY2((ChildrenOutside(&preferences) + ClippedLabels(&preferences)).isEmpty(),
+            qPrintable(ChildrenOutside(&preferences) + ClippedLabels(&preferences)));
     }
 
     void backBuffersAreDrawnAtTheRatio()
