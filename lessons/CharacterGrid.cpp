@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QScrollBar>
 
+#include <algorithm>
+
 namespace {
 /// Pen width of glyphs in cells.
 constexpr int CellPenWidth = 1;

@@ -30,6 +30,8 @@
 #include <QValueAxis>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 /// How many trouble characters are shown.

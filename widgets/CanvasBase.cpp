@@ -3,6 +3,8 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include <algorithm>
+
 CanvasBase::CanvasBase(QWidget* parent) : QFrame(parent)
 {
     // The frame of an edit box around the client area.

@@ -5,6 +5,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace {
 /// Glyphs are drawn in the ink colour with a pen of 2 pixels (8 in the enlarged drawing).
 constexpr int GlyphPenWidth = 2;

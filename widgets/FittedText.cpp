@@ -10,6 +10,8 @@
 #include <QStyleOptionButton>
 #include <QTextLayout>
 
+#include <algorithm>
+
 namespace {
 
 /// Kept by a control shown with ShowFitted: its full text, fitted again when the control's size

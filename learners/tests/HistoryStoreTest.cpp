@@ -9,6 +9,7 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <csignal>
 #include <filesystem>
 #include <fstream>

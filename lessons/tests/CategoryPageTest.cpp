@@ -293,3 +293,5 @@ private:
 
 QTEST_MAIN(CategoryPageTest)
 #include "CategoryPageTest.moc"
+
+#include <algorithm>

@@ -377,3 +377,5 @@ private:
 
 QTEST_MAIN(LessonPageTest)
 #include "LessonPageTest.moc"
+
+#include <algorithm>

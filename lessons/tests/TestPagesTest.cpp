@@ -323,3 +323,5 @@ private:
 
 QTEST_MAIN(TestPagesTest)
 #include "TestPagesTest.moc"
+
+#include <algorithm>

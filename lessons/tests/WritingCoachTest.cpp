@@ -296,3 +296,5 @@ private:
 
 QTEST_MAIN(WritingCoachTest)
 #include "WritingCoachTest.moc"
+
+#include <algorithm>

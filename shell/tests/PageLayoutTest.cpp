@@ -525,3 +525,5 @@ private:
 
 QTEST_MAIN(PageLayoutTest)
 #include "PageLayoutTest.moc"
+
+#include <algorithm>

@@ -214,3 +214,5 @@ private slots:
 
 QTEST_MAIN(ReviewsTest)
 #include "ReviewsTest.moc"
+
+#include <algorithm>
