@@ -43,6 +43,12 @@ for m in proc sys dev; do
     mounted+=("$tree/$m")
 done
 cp /etc/resolv.conf "$tree/etc/resolv.conf"
+# A certificate authority this machine trusts of its own (a proxy's, say) is trusted in the
+# tree too, so that npm reaches its registry as it does here.
+if [ -d /usr/local/share/ca-certificates ] && [ -n "$(ls -A /usr/local/share/ca-certificates)" ]; then
+    mkdir -p "$tree/usr/local/share/ca-certificates"
+    cp -r /usr/local/share/ca-certificates/. "$tree/usr/local/share/ca-certificates/"
+fi
 
 echo "== cloning $(git -C "$root" rev-parse --short HEAD) into the tree"
 git clone --quiet --no-hardlinks "$root" "$tree/root/zavoren"

@@ -30,9 +30,12 @@ namespace {
 const char* const Usage
     = "usage:\n"
       "  zavoren-db build --kanjivg DIR --kanjidic FILE --out PATH [--lang en|fr|es|pt] [--set standard|all]\n"
+      "                   [--ids TABLE] [--write-ids TABLE]\n"
       "                   [--edict FILE [--kanjivg-parts DIR] [--lexicon PATH]]\n"
       "      with --edict also writes the lexicon (words and parts), by default \"lexicon\" beside PATH;\n"
-      "      the parts come from the full KanjiVG SVGs in --kanjivg-parts (default: --kanjivg)\n"
+      "      the parts come from the full KanjiVG SVGs in --kanjivg-parts (default: --kanjivg);\n"
+      "      --ids gives each character the id the table keeps for it (a new one: the next free id),\n"
+      "      --write-ids writes the ids of this build as a table\n"
       "  zavoren-db dump [--json] PATH\n"
       "  zavoren-db info PATH\n"
       "  zavoren-db score --db PATH --char ID --canvas X,Y,W,H --stroke K --ink FILE\n"
@@ -103,7 +106,8 @@ int Build(const std::vector<std::string>& args)
     std::vector<std::string> positional;
     std::string error;
     const std::vector<std::string> names
-        = {"--kanjivg", "--kanjidic", "--out", "--lang", "--set", "--edict", "--kanjivg-parts", "--lexicon"};
+        = {"--kanjivg", "--kanjidic", "--out", "--lang", "--set", "--edict", "--kanjivg-parts", "--lexicon", "--ids",
+            "--write-ids"};
     if (!ParseOptions(args, names, o, positional, error))
         return Fail(error);
     for (const auto& [name, value] : o)
@@ -132,6 +136,8 @@ int Build(const std::vector<std::string>& args)
     BuildReport report;
     std::vector<std::uint8_t> bytes;
     try {
+        if (o.count("--ids"))
+            options.ids = ReadCharacterIds(o["--ids"]);
         bytes = BuildDatabase(options, report);
     } catch (const BuildError& e) {
         return Fail(e.what());
@@ -172,6 +178,22 @@ int Build(const std::vector<std::string>& args)
         for (std::size_t i = 0; i < report.leftOut.size(); ++i)
             std::cout << (i ? " " : "") << Utf8(report.leftOut[i]);
         std::cout << ")";
+    }
+    std::size_t kept = 0;
+    for (char32_t codePoint : report.ids)
+        kept += codePoint == 0;
+    const std::size_t tableSize = options.ids.codePoints.size();
+    if (o.count("--ids") && report.ids.size() > tableSize)
+        std::cout << "\n" << report.ids.size() - tableSize << " characters not in " << o["--ids"]
+                  << " were given new ids: keep them with --write-ids";
+    if (kept)
+        std::cout << "\n" << kept << " ids kept for characters no longer in the data";
+    if (o.count("--write-ids")) {
+        try {
+            WriteCharacterIds(o["--write-ids"], report.ids);
+        } catch (const BuildError& e) {
+            return Fail(e.what());
+        }
     }
     std::cout << "\nwrote " << out << " (" << bytes.size() << " bytes)\n";
     if (!lexiconPath.empty())

@@ -1,5 +1,7 @@
 #include "DatabaseBuilder.h"
 
+#include "CharacterIds.h"
+
 #include "DatabaseKey.h"
 #include "DatabaseWriter.h"
 #include "KanjiDic.h"
@@ -12,6 +14,7 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
+#include <map>
 #include <set>
 
 namespace {
@@ -166,13 +169,18 @@ std::vector<std::uint8_t> BuildDatabase(const BuildOptions& options, BuildReport
         plan.push_back(std::move(other));
     }
 
-    DatabaseWriter writer;
-    DatabaseKey key;
-    for (PlannedCategory& category : plan) {
+    // Each category's characters in teaching order, with their glyphs; then the ids they keep.
+    struct Member {
+        const KanjiDicEntry* entry;
+        Form glyph;
+    };
+    std::vector<std::vector<Member>> members(plan.size());
+    std::vector<char32_t> met;
+    for (std::size_t c = 0; c < plan.size(); ++c) {
+        PlannedCategory& category = plan[c];
         std::sort(category.members.begin(), category.members.end(),
             [](const KanjiDicEntry* a, const KanjiDicEntry* b) { return TeachesBefore(*a, *b); });
         BuildReport::CategoryCount count{category.name, 0, 0};
-        std::vector<std::uint16_t> ids;
         for (const KanjiDicEntry* entry : category.members) {
             std::optional<Form> glyph = LoadKanjiVgGlyph(options.kanjivgDir, entry->codePoint);
             if (!glyph || glyph->StrokeCount() == 0) {
@@ -180,18 +188,50 @@ std::vector<std::uint8_t> BuildDatabase(const BuildOptions& options, BuildReport
                 ++count.withoutStrokes;
                 continue;
             }
-            const std::uint16_t element = writer.AddStrokeElement(*glyph);
-            const std::string on = JoinLimited(entry->onReadings, "\xE3\x80\x81");
-            const std::string kun = JoinLimited(entry->kunReadings, "\xE3\x80\x81");
-            ids.push_back(writer.AddCharacter(element, on, kun, JoinLimited(entry->meanings, ", ")));
-            key.Add(on, kun);
-            report.built.push_back(LexiconCharacter{entry->codePoint, static_cast<int>(report.categories.size()),
-                static_cast<int>(ids.size() - 1), entry->onReadings, entry->kunReadings, glyph->Strokes().size()});
+            members[c].push_back({entry, std::move(*glyph)});
+            met.push_back(entry->codePoint);
         }
-        count.characters = ids.size();
-        report.characters += ids.size();
-        writer.AddCategory(category.name, ids);
+        count.characters = members[c].size();
+        report.characters += members[c].size();
         report.categories.push_back(count);
+    }
+    const std::vector<char32_t> byId = AssignCharacterIds(options.ids, met);
+    report.ids = byId;
+    struct Placed {
+        std::size_t category = 0;
+        std::size_t position = 0;
+    };
+    std::map<char32_t, Placed> placed;
+    for (std::size_t c = 0; c < members.size(); ++c)
+        for (std::size_t k = 0; k < members[c].size(); ++k)
+            placed[members[c][k].entry->codePoint] = {c, k};
+
+    DatabaseWriter writer;
+    DatabaseKey key;
+    std::map<char32_t, std::uint16_t> idOf;
+    for (char32_t codePoint : byId) {
+        if (codePoint == 0) {
+            // An id whose character left the data: kept, in no category, never given again.
+            const std::uint16_t element = writer.AddStrokeElement(Form(KanjiVgBox, KanjiVgBox));
+            writer.AddCharacter(element, "", "", "");
+            report.built.push_back(LexiconCharacter{});
+            continue;
+        }
+        const Placed at = placed.at(codePoint);
+        const Member& member = members[at.category][at.position];
+        const std::uint16_t element = writer.AddStrokeElement(member.glyph);
+        const std::string on = JoinLimited(member.entry->onReadings, "\xE3\x80\x81");
+        const std::string kun = JoinLimited(member.entry->kunReadings, "\xE3\x80\x81");
+        idOf[codePoint] = writer.AddCharacter(element, on, kun, JoinLimited(member.entry->meanings, ", "));
+        key.Add(on, kun);
+        report.built.push_back(LexiconCharacter{codePoint, static_cast<int>(at.category), static_cast<int>(at.position),
+            member.entry->onReadings, member.entry->kunReadings, member.glyph.Strokes().size()});
+    }
+    for (std::size_t c = 0; c < plan.size(); ++c) {
+        std::vector<std::uint16_t> ids;
+        for (const Member& member : members[c])
+            ids.push_back(idOf.at(member.entry->codePoint));
+        writer.AddCategory(plan[c].name, ids);
     }
     report.databaseKey = key.Value();
     try {

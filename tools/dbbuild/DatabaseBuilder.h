@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CharacterIds.h"
 #include "Form.h"
 #include "LexiconBuilder.h"
 
@@ -22,6 +23,8 @@ struct BuildOptions {
     std::string kanjidicPath; ///< KANJIDIC2 XML, gzipped or plain
     std::string language = "en";
     bool allKanji = false; ///< add the category "Other" with every remaining KanjiVG kanji
+    /// The ids the characters keep (empty: ids in the order met, categories then teaching order).
+    CharacterIdTable ids;
 };
 
 /// What a build did, for the tool's report.
@@ -34,8 +37,11 @@ struct BuildReport {
     std::vector<CategoryCount> categories;
     std::vector<char32_t> leftOut; ///< characters without KanjiVG strokes
     std::size_t characters = 0;
-    /// The characters written, in id order, as the lexicon builder takes them.
+    /// The characters written, in id order, as the lexicon builder takes them (an empty one for
+    /// an id kept for a character no longer in the data).
     std::vector<LexiconCharacter> built;
+    /// The code point of each id (0 for one kept for a character no longer in the data).
+    std::vector<char32_t> ids;
     /// The DatabaseKey of the file.
     std::uint64_t databaseKey = 0;
 };
