@@ -69,6 +69,12 @@ std::uint16_t DatabaseWriter::AddCategory(const std::string& name, const std::ve
     return id;
 }
 
+std::uint16_t DatabaseWriter::AddMissingCharacter()
+{
+    m_characters.emplace_back();
+    return static_cast<std::uint16_t>(m_characters.size() - 1);
+}
+
 std::vector<std::uint8_t> DatabaseWriter::Serialize() const
 {
     const std::vector<std::vector<std::uint8_t>>* kinds[] = {&m_elements, &m_characters, &m_categories};
@@ -88,6 +94,12 @@ std::vector<std::uint8_t> DatabaseWriter::Serialize() const
         for (const auto& record : *records) {
             if (record.size() > 0xFFFF || recordOffset > 0xFFFFFFFEu)
                 throw std::length_error("record too large for the database format");
+            if (record.empty()) {
+                // A hole: an id kept with no record (no record is ever empty).
+                w.U32(0xFFFFFFFFu);
+                w.U16(0);
+                continue;
+            }
             w.U32(static_cast<std::uint32_t>(recordOffset));
             w.U16(static_cast<std::uint16_t>(record.size()));
             recordOffset += record.size();

@@ -17,6 +17,9 @@ public:
     /// Adds a character; texts longer than 255 bytes are a programming error. Returns its id.
     std::uint16_t AddCharacter(
         std::uint16_t elementId, const std::string& on, const std::string& kun, const std::string& meaning);
+    /// Keeps an id with no character (one gone from the data, whose id is never given again):
+    /// the reader finds no character there. Returns the id.
+    std::uint16_t AddMissingCharacter();
     /// Adds a category with its members in teaching order; returns its id.
     std::uint16_t AddCategory(const std::string& name, const std::vector<std::uint16_t>& members);
 

@@ -3,6 +3,7 @@
 #include "ConfigStore.h"
 #include "LexiconAccess.h"
 #include "MemoryModel.h"
+#include "MovedCharacters.h"
 
 #include <QCoreApplication>
 #include <QMetaMethod>
@@ -31,6 +32,10 @@ LearnerSession::~LearnerSession()
 
 std::unique_ptr<User> LearnerSession::Open(std::unique_ptr<User> learner)
 {
+    // Characters that this database teaches in another category than the learner's record has
+    // them under (a newer KANJIDIC2) take their progress along, written so with the next save.
+    if (learner)
+        FollowMovedCharacters(*learner, m_database);
     std::unique_ptr<User> previous = std::exchange(m_learner, std::move(learner));
     emit learnerChanged();
     return previous;

@@ -40,7 +40,8 @@ public:
     /// The learner who is open, or null.
     User* Learner() const { return m_learner.get(); }
     /// Makes `learner` the open learner (none: nobody) and tells the listeners; the one open
-    /// before is handed back, unsaved.
+    /// before is handed back, unsaved. A character the database now teaches in another
+    /// category than the record has it under takes its progress there (FollowMovedCharacters).
     std::unique_ptr<User> Open(std::unique_ptr<User> learner);
     /// Writes the open learner's record to the store (only while they are the store's current
     /// learner when `onlyWhileCurrent`); throws ConfigException when the store fails.

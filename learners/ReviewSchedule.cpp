@@ -1,6 +1,7 @@
 #include "ReviewSchedule.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 std::optional<MemoryModel::Grade> MemoryLedger::GradeOf(const LearnerEvent& event)
 {
@@ -67,7 +68,8 @@ LearnerMemories MemoryLedger::Fold(const std::vector<LearnerEvent>& history)
     return result;
 }
 
-ReviewSchedule::ReviewSchedule(const User& learner, const LearnerMemories& memories, const MemoryModel& model, int today)
+ReviewSchedule::ReviewSchedule(
+    const User& learner, const LearnerMemories& memories, const MemoryModel& model, int today)
     : m_today(today)
 {
     // The memories by category and character, for a binary search per learned character.
@@ -78,22 +80,32 @@ ReviewSchedule::ReviewSchedule(const User& learner, const LearnerMemories& memor
     auto key = [](const CharacterMemory* c) { return std::pair(c->categoryId, c->id); };
     if (!std::is_sorted(known.begin(), known.end(), [&](auto a, auto b) { return key(a) < key(b); }))
         std::sort(known.begin(), known.end(), [&](auto a, auto b) { return key(a) < key(b); });
+    // A character a newer database teaches in another category keeps the memory it has under
+    // the category it was learned in: the latest by id, for those not found under their own.
+    std::unordered_map<std::uint16_t, const CharacterMemory*> byId;
+    for (const CharacterMemory* c : known) {
+        auto [at, added] = byId.emplace(c->id, c);
+        if (!added && c->lastDay > at->second->lastDay)
+            at->second = c;
+    }
     const int firstDay = memories.firstDay >= 0 ? std::min(memories.firstDay, today) : today;
     const MemoryModel::Memory ungraded = model.First(MemoryModel::Grade::Good);
     for (const CategoryProgress& record : learner.Progress())
         for (std::uint16_t id : record.Learned()) {
             const auto wanted = std::pair(record.CategoryId(), id);
-            const auto found = std::lower_bound(
-                known.begin(), known.end(), wanted, [&](const CharacterMemory* c, const auto& k) { return key(c) < k; });
+            const auto found = std::lower_bound(known.begin(), known.end(), wanted,
+                [&](const CharacterMemory* c, const auto& k) { return key(c) < k; });
             const CharacterMemory* c = found != known.end() && key(*found) == wanted ? *found : nullptr;
+            if (!c)
+                if (const auto other = byId.find(id); other != byId.end())
+                    c = other->second;
             const MemoryModel::Memory memory = c ? c->memory : ungraded;
             const int lastDay = c ? c->lastDay : firstDay;
             m_reviews.push_back({record.CategoryId(), id, model.Recall(today - lastDay, memory.stability),
                 lastDay + model.Interval(memory.stability)});
         }
-    std::sort(m_reviews.begin(), m_reviews.end(), [](const Review& a, const Review& b) {
-        return std::pair(a.categoryId, a.id) < std::pair(b.categoryId, b.id);
-    });
+    std::sort(m_reviews.begin(), m_reviews.end(),
+        [](const Review& a, const Review& b) { return std::pair(a.categoryId, a.id) < std::pair(b.categoryId, b.id); });
     // A character listed twice in the learned list is one character.
     m_reviews.erase(std::unique(m_reviews.begin(), m_reviews.end(),
                         [](const Review& a, const Review& b) { return a.categoryId == b.categoryId && a.id == b.id; }),

@@ -3,8 +3,8 @@
 #include "DatabaseBuilder.h"
 #include "DatabaseInspector.h"
 #include "DatabaseKey.h"
-#include "Edict.h"
 #include "DatabaseLoadException.h"
+#include "Edict.h"
 #include "FileCharacterDatabase.h"
 #include "InkFile.h"
 #include "Lexicon.h"
@@ -105,9 +105,8 @@ int Build(const std::vector<std::string>& args)
     std::map<std::string, std::string> o;
     std::vector<std::string> positional;
     std::string error;
-    const std::vector<std::string> names
-        = {"--kanjivg", "--kanjidic", "--out", "--lang", "--set", "--edict", "--kanjivg-parts", "--lexicon", "--ids",
-            "--write-ids"};
+    const std::vector<std::string> names = {"--kanjivg", "--kanjidic", "--out", "--lang", "--set", "--edict",
+        "--kanjivg-parts", "--lexicon", "--ids", "--write-ids"};
     if (!ParseOptions(args, names, o, positional, error))
         return Fail(error);
     for (const auto& [name, value] : o)
@@ -160,9 +159,8 @@ int Build(const std::vector<std::string>& args)
         return Fail(wrong);
     std::string lexiconPath;
     if (o.count("--edict")) {
-        lexiconPath = o.count("--lexicon")
-            ? o["--lexicon"]
-            : (std::filesystem::path(out).parent_path() / "lexicon").string();
+        lexiconPath
+            = o.count("--lexicon") ? o["--lexicon"] : (std::filesystem::path(out).parent_path() / "lexicon").string();
         if (const std::string wrong = WriteWhole(lexiconPath, lexicon); !wrong.empty())
             return Fail(wrong);
     }
@@ -184,7 +182,8 @@ int Build(const std::vector<std::string>& args)
         kept += codePoint == 0;
     const std::size_t tableSize = options.ids.codePoints.size();
     if (o.count("--ids") && report.ids.size() > tableSize)
-        std::cout << "\n" << report.ids.size() - tableSize << " characters not in " << o["--ids"]
+        std::cout << "\n"
+                  << report.ids.size() - tableSize << " characters not in " << o["--ids"]
                   << " were given new ids: keep them with --write-ids";
     if (kept)
         std::cout << "\n" << kept << " ids kept for characters no longer in the data";

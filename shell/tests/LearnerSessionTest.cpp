@@ -183,6 +183,26 @@ private slots:
         QVERIFY(prompt.messages.isEmpty());
     }
 
+    void aCharacterTaughtInAnotherCategoryNowTakesItsProgressThere()
+    {
+        // The record has Grade 1's first character under Grade 2, as a database built from an
+        // older KANJIDIC2 that taught it there would have left it.
+        const std::string record
+            = "<Zavoren><Users currentUser=\"Anna\"><User name=\"Anna\"><Progress categoryId=\"1\">"
+              "<Learned><Character id=\""
+            + std::to_string(Grade1()[0])
+            + "\"/></Learned><Untested/></Progress>"
+              "</User></Users></Zavoren>";
+        XmlConfigStore store(WriteConfig(record), StandardDatabase());
+        HistoryDatabase history("");
+        LearnerSession session(StandardDatabase(), store, history, FixedClock);
+        session.Open(store.LoadUser("Anna"));
+        QCOMPARE(session.Learner()->GetProgress(0).Learned(), Codes{Grade1()[0]});
+        QVERIFY(session.Learner()->GetProgress(1).Learned().empty());
+        session.SaveLearner(); // kept so
+        QCOMPARE(store.LoadUser("Anna")->GetProgress(0).Learned(), Codes{Grade1()[0]});
+    }
+
     void aReviewRuleChangeReschedulesAtOnce()
     {
         XmlConfigStore store(WriteConfig(AnnaWithOneDue()), StandardDatabase());

@@ -211,9 +211,8 @@ std::vector<std::uint8_t> BuildDatabase(const BuildOptions& options, BuildReport
     std::map<char32_t, std::uint16_t> idOf;
     for (char32_t codePoint : byId) {
         if (codePoint == 0) {
-            // An id whose character left the data: kept, in no category, never given again.
-            const std::uint16_t element = writer.AddStrokeElement(Form(KanjiVgBox, KanjiVgBox));
-            writer.AddCharacter(element, "", "", "");
+            // An id whose character left the data: kept with no record, never given again.
+            writer.AddMissingCharacter();
             report.built.push_back(LexiconCharacter{});
             continue;
         }

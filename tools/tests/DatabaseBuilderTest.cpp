@@ -159,3 +159,92 @@ TEST(InkFile, ParsesPairsAndRefusesAnythingElse)
         EXPECT_THROW(ParseInkJson(bad), InkFileError) << bad;
     EXPECT_THROW(ReadInkFile("/nonexistent/ink.json"), InkFileError);
 }
+
+namespace {
+
+/// The sample dictionary with `from` replaced by `to`, in a file of the test's own.
+std::string EditedSample(const std::string& name, const std::string& from, const std::string& to)
+{
+    std::ifstream in(Data + "/kanjidic2-sample.xml");
+    std::string text((std::istreambuf_iterator<char>(in)), {});
+    const std::size_t at = text.find(from);
+    if (at != std::string::npos)
+        text.replace(at, from.size(), to);
+    const std::string path = TempPath(name);
+    std::ofstream(path) << text;
+    return path;
+}
+
+} // namespace
+
+TEST(CharacterIds, KnownCharactersKeepTheirIdsAndNewOnesTakeTheNext)
+{
+    CharacterIdTable table;
+    table.codePoints = {U'一', U'水', U'右', U'二'};
+    // Met in another order (a newer dictionary's teaching order): the ids are the table's.
+    EXPECT_EQ(AssignCharacterIds(table, {U'二', U'水', U'一', U'右'}), table.codePoints);
+    // A new character takes the next free id; one gone keeps its id, empty.
+    EXPECT_EQ(AssignCharacterIds(table, {U'犬', U'一', U'二', U'水'}),
+        (std::vector<char32_t>{U'一', U'水', 0, U'二', U'犬'}));
+    // The last ones gone: the database ends with the last id given.
+    EXPECT_EQ(AssignCharacterIds(table, {U'水', U'一'}), (std::vector<char32_t>{U'一', U'水'}));
+    // No table: ids in the order met.
+    EXPECT_EQ(AssignCharacterIds({}, {U'水', U'一'}), (std::vector<char32_t>{U'水', U'一'}));
+}
+
+TEST(CharacterIds, TheTableIsReadAsWrittenAndAMalformedOneIsNamed)
+{
+    const std::string path = TempPath("ids.txt");
+    WriteCharacterIds(path, {U'日', 0, U'一'});
+    EXPECT_EQ(ReadCharacterIds(path).codePoints, (std::vector<char32_t>{U'日', 0, U'一'}));
+    std::ofstream(path) << "# ids\n65e5 \xE6\x97\xA5\n4e00\n65e5\n";
+    try {
+        ReadCharacterIds(path);
+        FAIL() << "a character given two ids was read";
+    } catch (const BuildError& e) {
+        EXPECT_NE(std::string(e.what()).find("line 4"), std::string::npos) << e.what();
+    }
+    std::ofstream(path) << "4e00\nwater\n";
+    EXPECT_THROW(ReadCharacterIds(path), BuildError);
+    EXPECT_THROW(ReadCharacterIds(TempPath("missing-ids.txt")), BuildError);
+}
+
+TEST(DatabaseBuilder, ACharacterKeepsItsIdWhenANewerDictionaryMovesOrDropsOthers)
+{
+    BuildReport first;
+    auto before = BuildSample(SampleOptions(), first, "ids-before");
+    CharacterIdTable table;
+    table.codePoints = first.ids;
+    ASSERT_EQ(table.codePoints, (std::vector<char32_t>{U'一', U'水', U'右', U'二'}));
+
+    // 水 moves to Grade 2 and, ranked first there, would come before 二; 右 leaves the data.
+    BuildOptions newer = SampleOptions();
+    newer.kanjidicPath
+        = EditedSample("kanjidic-newer.xml", "<grade>1</grade><stroke_count>4</stroke_count><freq>223</freq>",
+            "<grade>2</grade><stroke_count>4</stroke_count><freq>3</freq>");
+    const std::string without = EditedSample("kanjidic-without.xml", "<literal>\xE5\x8F\xB3</literal>",
+        "<literal>\xE5\xB7\xA6</literal>"); // 右 becomes 左, which has no strokes here
+    newer.ids = table;
+    BuildReport report;
+    auto after = BuildSample(newer, report, "ids-after");
+    EXPECT_EQ(report.ids, table.codePoints);
+    EXPECT_EQ(after->LoadCategory(0)->Characters(), (std::vector<std::uint16_t>{0, 2}));
+    EXPECT_EQ(after->LoadCategory(1)->Characters(), (std::vector<std::uint16_t>{1, 3})); // 水 first, by rank
+    // The same strokes under the same id.
+    for (std::uint16_t id = 0; id < 4; ++id)
+        EXPECT_EQ(after->LoadElement(after->LoadCharacter(id)->ElementId())->GetForm(0).StrokeCount(),
+            before->LoadElement(before->LoadCharacter(id)->ElementId())->GetForm(0).StrokeCount());
+
+    BuildOptions gone = SampleOptions();
+    gone.kanjidicPath = without;
+    gone.ids = table;
+    BuildReport goneReport;
+    auto third = BuildSample(gone, goneReport, "ids-gone");
+    EXPECT_EQ(goneReport.ids, (std::vector<char32_t>{U'一', U'水', 0, U'二'}));
+    EXPECT_EQ(third->CharacterCount(), 4);
+    EXPECT_EQ(third->LoadCategory(1)->Characters(), std::vector<std::uint16_t>{3}); // 二 keeps id 3
+    EXPECT_FALSE(third->CharacterExists(2)); // kept with no record, in no category
+    EXPECT_EQ(goneReport.built.size(), 4u);
+    EXPECT_EQ(goneReport.built[2].codePoint, 0u);
+    EXPECT_TRUE(ValidateDatabase(*third).empty());
+}

@@ -97,3 +97,49 @@ TEST(RealDatabase, WaterAndOne)
     ASSERT_NE(one, 0xFFFF);
     EXPECT_EQ(db.LoadElement(db.LoadCharacter(one)->ElementId())->GetForm(0).StrokeCount(), 1);
 }
+
+namespace {
+bool SameStrokes(const Form& a, const Form& b)
+{
+    if (a.Strokes().size() != b.Strokes().size())
+        return false;
+    for (std::size_t s = 0; s < a.Strokes().size(); ++s) {
+        const Stroke& x = a.Strokes()[s];
+        const Stroke& y = b.Strokes()[s];
+        if (!(x.Start() == y.Start()) || x.Segments().size() != y.Segments().size())
+            return false;
+        for (std::size_t k = 0; k < x.Segments().size(); ++k) {
+            const Segment& p = x.Segments()[k];
+            const Segment& q = y.Segments()[k];
+            if (p.Type() != q.Type() || !(p.P1() == q.P1()) || !(p.P2() == q.P2()) || !(p.P3() == q.P3()))
+                return false;
+        }
+    }
+    return true;
+}
+} // namespace
+
+TEST(RealDatabase, EveryIdIsTheCharacterTheIdTableKeepsForIt)
+{
+    // Whichever KANJIDIC2 built it (Debian 12's, Debian 13's), each id holds the strokes of the
+    // character the table in the repository names: learners' progress stays on its characters.
+    const CharacterIdTable table = ReadCharacterIds(ZAVOREN_IDS_STANDARD);
+    FileCharacterDatabase& db = Standard();
+    ASSERT_GE(db.CharacterCount(), table.codePoints.size());
+    std::size_t checked = 0;
+    for (std::size_t id = 0; id < table.codePoints.size(); ++id) {
+        const char32_t codePoint = table.codePoints[id];
+        const auto cid = static_cast<std::uint16_t>(id);
+        if (codePoint == 0) {
+            EXPECT_FALSE(db.CharacterExists(cid)) << id;
+            continue;
+        }
+        const std::optional<Form> glyph = LoadKanjiVgGlyph(ZAVOREN_KANJIVG_DIR, codePoint);
+        ASSERT_TRUE(glyph) << Utf8(codePoint);
+        ASSERT_TRUE(db.CharacterExists(cid)) << id << " " << Utf8(codePoint);
+        const auto element = db.LoadElement(db.LoadCharacter(cid)->ElementId());
+        EXPECT_TRUE(SameStrokes(element->GetForm(0), *glyph)) << id << " " << Utf8(codePoint);
+        ++checked;
+    }
+    EXPECT_EQ(checked, 2898u);
+}
