@@ -1,7 +1,10 @@
 #include "CharacterIds.h"
 
-#include "DatabaseBuilder.h"
+#include "BuildError.h"
+#include "Utf8.h"
 
+#include <algorithm>
+#include <cstdio>
 #include <fstream>
 #include <set>
 #include <sstream>
@@ -49,7 +52,7 @@ void WriteCharacterIds(const std::string& path, const std::vector<char32_t>& cod
         std::snprintf(hex, sizeof hex, "%04x", static_cast<unsigned>(codePoint));
         file << hex;
         if (codePoint != 0)
-            file << ' ' << Utf8(codePoint);
+            file << ' ' << EncodeUtf8(codePoint);
         file << '\n';
     }
     if (!file)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BuildError.h"
 #include "CharacterIds.h"
 #include "Form.h"
 #include "LexiconBuilder.h"
@@ -9,13 +10,6 @@
 #include <stdexcept>
 #include <string>
 #include <vector>
-
-/// A build input is missing or broken; the message names the file (and the character and
-/// path data for a bad SVG).
-class BuildError : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
 
 /// What `zavoren-db build` is asked to do.
 struct BuildOptions {
