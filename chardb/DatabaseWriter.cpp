@@ -29,6 +29,16 @@ std::uint16_t DatabaseWriter::AddStrokeElement(const Form& form)
     return AddRawElement(std::move(record));
 }
 
+std::uint16_t DatabaseWriter::AddStrokeElement(const std::vector<Form>& forms)
+{
+    if (forms.empty() || forms.size() > 255)
+        throw std::length_error("an element holds 1 to 255 forms");
+    std::vector<std::uint8_t> record{static_cast<std::uint8_t>(forms.size())};
+    for (const Form& form : forms)
+        EncodeStrokeForm(form, record);
+    return AddRawElement(std::move(record));
+}
+
 std::uint16_t DatabaseWriter::AddRawElement(std::vector<std::uint8_t> record)
 {
     const std::uint16_t id = NextId(m_elements);

@@ -12,6 +12,8 @@ class DatabaseWriter {
 public:
     /// Adds an element made of one kind-1 form; returns its id.
     std::uint16_t AddStrokeElement(const Form& form);
+    /// Adds an element made of several kind-1 forms (at most 255), in this order; returns its id.
+    std::uint16_t AddStrokeElement(const std::vector<Form>& forms);
     /// Adds an element from already encoded form bytes (u8 form count then forms); returns its id.
     std::uint16_t AddRawElement(std::vector<std::uint8_t> record);
     /// Adds a character; texts longer than 255 bytes are a programming error. Returns its id.

@@ -31,6 +31,9 @@ struct StrokeVerdict {
     float fromY = 0;
     float dx = 0; ///< WrongPlace: from there to the expected stroke's box centre
     float dy = 0;
+    /// Accepted: the stroke is right in another stroke order than the one being written (the
+    /// quiz follows that order once the stroke is kept).
+    bool otherOrder = false;
 
     /// WrongPlace: which way the stroke belongs.
     PlaceDirection Direction() const;

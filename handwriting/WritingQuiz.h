@@ -9,6 +9,8 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
+#include <utility>
 #include <vector>
 
 /// Writing one character stroke by stroke, as the lesson and the drawing test share it: which
@@ -21,8 +23,11 @@ public:
     /// for a null glyph).
     void Start(std::unique_ptr<Element> glyph, CanvasRect canvas);
 
-    /// The form being written, or null.
-    const Form* Glyph() const { return m_glyph ? &m_glyph->GetForm(0) : nullptr; }
+    /// The form being written, or null: the standard stroke order, or the other order the learner
+    /// has taken.
+    const Form* Glyph() const { return m_glyph ? &m_glyph->GetForm(m_form) : nullptr; }
+    /// Which form of the glyph is being written (0: the standard order).
+    std::uint8_t FormIndex() const { return m_form; }
     /// Strokes the character has (0 without one).
     std::uint16_t StrokeCount() const { return m_checker ? m_checker->StrokeCount() : 0; }
     /// Strokes accepted and kept so far: the index of the stroke expected next.
@@ -38,6 +43,15 @@ public:
     /// The frame the next stroke is judged in: the model's place without the own frame; with
     /// it, the fit of the accepted strokes, or for a first stroke its room toward the model.
     OwnFrame FrameFor(const StrokePath& ink) const;
+
+    /// Accepts the other stroke orders the glyph records (its forms after the first): a stroke
+    /// refused in the order being written but right as the same stroke of another order, whose
+    /// earlier strokes the learner has written as they stand, is accepted, and once kept the
+    /// learner is judged in that order. Off, only the order being written counts.
+    void SetOtherOrders(bool on) { m_otherOrders = on; }
+    bool OtherOrdersOn() const { return m_otherOrders; }
+    /// The stroke just kept took another stroke order than the one written before; true once.
+    bool TakeOrderChange() { return std::exchange(m_orderChanged, false); }
 
     /// Whether a drawn stroke is accepted as the stroke expected next: only a score of exactly
     /// 1.0 is (of the ink mapped through the frame). A stroke after the last one is scored at
@@ -75,9 +89,21 @@ public:
 private:
     /// Where drawn ink lies and how long it is, against expected stroke `index`.
     OwnFrame::Pair PairOf(const StrokeChecker::Ink& drawn, std::uint16_t index) const;
+    /// The verdict on `ink` as stroke `index` of form `form` (own frame and all).
+    StrokeVerdict JudgeIn(const StrokeChecker& checker, const StrokePath& ink) const;
+    /// The checker of form `form`, made when first needed.
+    const StrokeChecker& CheckerOf(std::uint8_t form) const;
+    /// Another order (a form of the glyph) in which every kept stroke and `ink` as the next are
+    /// right, the standard one first; none without.
+    std::optional<std::uint8_t> OtherOrderFor(const StrokePath& ink) const;
 
     std::unique_ptr<Element> m_glyph;
-    std::unique_ptr<StrokeChecker> m_checker;
+    const StrokeChecker* m_checker = nullptr; ///< the checker of the form being written
+    mutable std::vector<std::unique_ptr<StrokeChecker>> m_checkers; ///< by form, made when needed
+    std::uint8_t m_form = 0;
+    bool m_otherOrders = false;
+    bool m_orderChanged = false;
+    std::vector<StrokePath> m_keptInk; ///< the kept strokes as judged, in order
     CanvasRect m_canvas;
     std::vector<OwnFrame::Pair> m_accepted; ///< the kept strokes' places, in order
     bool m_ownFrame = false;

@@ -51,3 +51,9 @@ QString WritingCoach::Explain(const StrokeVerdict& verdict, bool lesson)
         text = text.arg(verdict.drawnAs + 1).arg(verdict.expected + 1);
     return text;
 }
+
+void WritingCoach::OtherOrderTaken()
+{
+    if (m_preferences.explainRefusals)
+        m_line->Say(tr("Also correct: the order taught in other schools."));
+}

@@ -31,6 +31,9 @@ public:
 
     /// A stroke was refused with this verdict; `ink` is what was drawn, `glyph` the model.
     void Refused(const StrokeVerdict& verdict, const StrokePath& ink, const Form* glyph);
+    /// The learner has taken another stroke order than the standard one: the line says it is
+    /// correct too.
+    void OtherOrderTaken();
     /// A stroke begins, or the character changes: the line empties.
     void Quiet();
 

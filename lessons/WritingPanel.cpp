@@ -1,6 +1,7 @@
 #include "WritingPanel.h"
 
 #include "FeedbackLine.h"
+#include "InkSteadier.h"
 #include "InputCanvas.h"
 #include "WritingCursor.h"
 
@@ -8,6 +9,7 @@ WritingPanel::WritingPanel(InputCanvas* canvas, WritingCoach::Mode mode, QWidget
     : QObject(page), m_canvas(canvas), m_line(new FeedbackLine(page)), m_coach(canvas, m_line, mode)
 {
     m_quiz.SetOwnFrame(m_coach.Preferences().ownFrame);
+    m_quiz.SetOtherOrders(m_coach.Preferences().otherOrders);
     m_canvas->MakeSquare();
     m_canvas->setCursor(WritingCursor());
     connect(m_canvas, &InputCanvas::strokeStarted, this, [this] { m_coach.Quiet(); });
@@ -16,6 +18,8 @@ WritingPanel::WritingPanel(InputCanvas* canvas, WritingCoach::Mode mode, QWidget
         m_canvas, &InputCanvas::strokeKept, this,
         [this] {
             m_quiz.StrokeKept(m_acceptedInk);
+            if (m_quiz.TakeOrderChange())
+                m_coach.OtherOrderTaken();
             emit strokeKept();
         },
         Qt::DirectConnection);
@@ -35,7 +39,9 @@ void WritingPanel::Start(std::unique_ptr<Element> glyph)
 
 void WritingPanel::OnStrokeEnded()
 {
-    const StrokePath ink = m_canvas->CurrentStroke();
+    // The canvas keeps the ink as drawn; the quiz, the coach and the own frame see it steadied.
+    const StrokePath drawn = m_canvas->CurrentStroke();
+    const StrokePath ink = m_coach.Preferences().steadyInk ? InkSteadier::Steady(drawn) : drawn;
     // One judgement: accepted exactly when the checker accepts the stroke, which the canvas
     // then keeps (and reports as kept).
     const StrokeVerdict verdict = m_quiz.Judge(ink);

@@ -39,6 +39,7 @@ public:
     {
         m_coach.SetPreferences(preferences);
         m_quiz.SetOwnFrame(preferences.ownFrame);
+        m_quiz.SetOtherOrders(preferences.otherOrders);
     }
     const CoachingPreferences& Coaching() const { return m_coach.Preferences(); }
 

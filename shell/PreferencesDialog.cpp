@@ -22,6 +22,12 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
     m_ownFrame = new QCheckBox(tr("Judge place by my own character"), this);
     m_ownFrame->setToolTip(tr("A character written a little off-centre, smaller or larger is fine: each stroke "
                               "is placed against the strokes you have already written"));
+    m_otherOrders = new QCheckBox(tr("Accept other stroke orders"), this);
+    m_otherOrders->setToolTip(tr("A stroke order taught in other schools, which KanjiVG records, is correct too"));
+    m_otherOrders->setChecked(preferences.otherOrders);
+    m_steady = new QCheckBox(tr("Steady my ink"), this);
+    m_steady->setToolTip(tr("A shaking hand, a finger or a cheap pen: each stroke is smoothed before it is judged"));
+    m_steady->setChecked(preferences.steadyInk);
     m_onScreen = new QCheckBox(tr("Bring the window onto the screen at start"), this);
     m_explain->setChecked(preferences.explainRefusals);
     m_grid->setChecked(preferences.practiceGrid);
@@ -38,7 +44,8 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
     m_reviews = new QCheckBox(tr("Review characters when they are due"), this);
     m_reviews->setToolTip(tr("Each learned character comes back for a test when you are about to forget it"));
     m_reviews->setChecked(preferences.reviewWhenDue);
-    for (QCheckBox* box : {m_explain, m_grid, m_hint, m_ownFrame, m_onScreen, m_words, m_wordAfterAnswer, m_reviews})
+    for (QCheckBox* box : {m_explain, m_grid, m_hint, m_ownFrame, m_otherOrders, m_steady, m_onScreen, m_words,
+             m_wordAfterAnswer, m_reviews})
         box->setAccessibleName(box->text());
     // A heading for what each group of aids changes, the groups in two columns so that the
     // dialog stays one screen tall on a small screen at ratio 2.
@@ -56,7 +63,7 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
         return new QVBoxLayout(box);
     };
     QVBoxLayout* writing = group(left, tr("Writing"), "writingGroup");
-    for (QCheckBox* box : {m_explain, m_grid, m_hint, m_ownFrame})
+    for (QCheckBox* box : {m_explain, m_grid, m_hint, m_ownFrame, m_otherOrders, m_steady})
         writing->addWidget(box);
     QVBoxLayout* reviews = group(right, tr("Reviews"), "reviewsGroup");
     reviews->addWidget(m_reviews);
@@ -118,5 +125,7 @@ CoachingPreferences PreferencesDialog::Chosen() const
     chosen.maximumInterval = m_interval->value();
     chosen.wordsAndParts = m_words->isChecked();
     chosen.wordAfterAnswer = m_wordAfterAnswer->isChecked();
+    chosen.otherOrders = m_otherOrders->isChecked();
+    chosen.steadyInk = m_steady->isChecked();
     return chosen;
 }

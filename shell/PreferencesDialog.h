@@ -23,6 +23,8 @@ private:
     QCheckBox* m_hint = nullptr;
     QCheckBox* m_onScreen = nullptr;
     QCheckBox* m_ownFrame = nullptr;
+    QCheckBox* m_otherOrders = nullptr;
+    QCheckBox* m_steady = nullptr;
     QCheckBox* m_reviews = nullptr;
     QCheckBox* m_words = nullptr;
     QCheckBox* m_wordAfterAnswer = nullptr;

@@ -25,6 +25,8 @@ const char* const RetentionKey = "Preferences/DesiredRetention";
 const char* const IntervalKey = "Preferences/MaximumInterval";
 const char* const WordsKey = "Preferences/WordsAndPartsInKanjiInfo";
 const char* const WordAfterAnswerKey = "Preferences/WordAfterEachAnswer";
+const char* const OtherOrdersKey = "Preferences/AcceptOtherStrokeOrders";
+const char* const SteadyInkKey = "Preferences/SteadyMyInk";
 
 constexpr int PlacementFields = 4;
 constexpr int PlacementBytes = 4 * PlacementFields;
@@ -82,6 +84,8 @@ CoachingPreferences ProgramSettings::Coaching() const
     p.reviewWhenDue = settings.value(QLatin1String(ReviewKey), p.reviewWhenDue).toBool();
     p.wordsAndParts = settings.value(QLatin1String(WordsKey), p.wordsAndParts).toBool();
     p.wordAfterAnswer = settings.value(QLatin1String(WordAfterAnswerKey), p.wordAfterAnswer).toBool();
+    p.otherOrders = settings.value(QLatin1String(OtherOrdersKey), p.otherOrders).toBool();
+    p.steadyInk = settings.value(QLatin1String(SteadyInkKey), p.steadyInk).toBool();
     // A value edited out of range by hand is brought back into it.
     bool ok = false;
     const double retention = settings.value(QLatin1String(RetentionKey), p.retention).toDouble(&ok);
@@ -107,4 +111,6 @@ void ProgramSettings::StoreCoaching(const CoachingPreferences& preferences)
     settings.setValue(QLatin1String(IntervalKey), preferences.maximumInterval);
     settings.setValue(QLatin1String(WordsKey), preferences.wordsAndParts);
     settings.setValue(QLatin1String(WordAfterAnswerKey), preferences.wordAfterAnswer);
+    settings.setValue(QLatin1String(OtherOrdersKey), preferences.otherOrders);
+    settings.setValue(QLatin1String(SteadyInkKey), preferences.steadyInk);
 }

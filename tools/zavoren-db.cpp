@@ -30,12 +30,14 @@ namespace {
 const char* const Usage
     = "usage:\n"
       "  zavoren-db build --kanjivg DIR --kanjidic FILE --out PATH [--lang en|fr|es|pt] [--set standard|all]\n"
-      "                   [--ids TABLE] [--write-ids TABLE]\n"
+      "                   [--ids TABLE] [--write-ids TABLE] [--kanjivg-orders DIR]\n"
       "                   [--edict FILE [--kanjivg-parts DIR] [--lexicon PATH]]\n"
       "      with --edict also writes the lexicon (words and parts), by default \"lexicon\" beside PATH;\n"
       "      the parts come from the full KanjiVG SVGs in --kanjivg-parts (default: --kanjivg);\n"
       "      --ids gives each character the id the table keeps for it (a new one: the next free id),\n"
-      "      --write-ids writes the ids of this build as a table\n"
+      "      --write-ids writes the ids of this build as a table;\n"
+      "      --kanjivg-orders adds the other stroke orders of KanjiVG's full drawings (HEX-VtLst.svg...)\n"
+      "      to each character's glyph, after the standard one\n"
       "  zavoren-db dump [--json] PATH\n"
       "  zavoren-db info PATH\n"
       "  zavoren-db score --db PATH --char ID --canvas X,Y,W,H --stroke K --ink FILE\n"
@@ -106,7 +108,7 @@ int Build(const std::vector<std::string>& args)
     std::vector<std::string> positional;
     std::string error;
     const std::vector<std::string> names = {"--kanjivg", "--kanjidic", "--out", "--lang", "--set", "--edict",
-        "--kanjivg-parts", "--lexicon", "--ids", "--write-ids"};
+        "--kanjivg-parts", "--lexicon", "--ids", "--write-ids", "--kanjivg-orders"};
     if (!ParseOptions(args, names, o, positional, error))
         return Fail(error);
     for (const auto& [name, value] : o)
@@ -137,6 +139,8 @@ int Build(const std::vector<std::string>& args)
     try {
         if (o.count("--ids"))
             options.ids = ReadCharacterIds(o["--ids"]);
+        if (o.count("--kanjivg-orders"))
+            options.ordersDir = o["--kanjivg-orders"];
         bytes = BuildDatabase(options, report);
     } catch (const BuildError& e) {
         return Fail(e.what());
@@ -176,6 +180,12 @@ int Build(const std::vector<std::string>& args)
         for (std::size_t i = 0; i < report.leftOut.size(); ++i)
             std::cout << (i ? " " : "") << Utf8(report.leftOut[i]);
         std::cout << ")";
+    }
+    if (o.count("--kanjivg-orders")) {
+        std::cout << "\ncharacters with other stroke orders: " << report.withOtherOrders << " (" << report.otherOrders
+                  << " orders)";
+        if (!report.ordersLeftOut.empty())
+            std::cout << "; left out for another stroke count: " << report.ordersLeftOut.size();
     }
     std::size_t kept = 0;
     for (char32_t codePoint : report.ids)
@@ -235,6 +245,18 @@ int Info(const std::vector<std::string>& args)
                   << "characters: " << database.CharacterCount() << "\nelements: " << database.ElementCount()
                   << "\ncategories: " << database.CategoryCount() << '\n';
         database.Preload(nullptr);
+        std::size_t withOrders = 0, orders = 0;
+        for (unsigned id = 0; id < database.CharacterCount(); ++id) {
+            const auto cid = static_cast<std::uint16_t>(id);
+            if (!database.CharacterExists(cid))
+                continue;
+            const auto element = database.LoadElement(database.LoadCharacter(cid)->ElementId());
+            if (element->FormCount() > 1) {
+                ++withOrders;
+                orders += element->FormCount() - 1u;
+            }
+        }
+        std::cout << "characters with other stroke orders: " << withOrders << " (" << orders << " orders)\n";
         for (unsigned id = 0; id < database.CategoryCount(); ++id) {
             const auto category = database.LoadCategory(static_cast<std::uint16_t>(id));
             std::cout << "  " << id << " " << (category->Name() ? category->Name() : "") << ": "

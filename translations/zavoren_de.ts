@@ -660,6 +660,22 @@ Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</transl
         <source>Window</source>
         <translation>Fenster</translation>
     </message>
+    <message>
+        <source>Accept other stroke orders</source>
+        <translation>Andere Strichfolgen annehmen</translation>
+    </message>
+    <message>
+        <source>A stroke order taught in other schools, which KanjiVG records, is correct too</source>
+        <translation>Eine Strichfolge, die an anderen Schulen gelehrt wird und die KanjiVG verzeichnet, ist auch richtig</translation>
+    </message>
+    <message>
+        <source>Steady my ink</source>
+        <translation>Meine Striche glätten</translation>
+    </message>
+    <message>
+        <source>A shaking hand, a finger or a cheap pen: each stroke is smoothed before it is judged</source>
+        <translation>Eine zitternde Hand, ein Finger oder ein einfacher Stift: Jeder Strich wird vor der Bewertung geglättet</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>
@@ -1028,6 +1044,10 @@ Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</transl
     <message>
         <source>The character is already complete.</source>
         <translation>Das Zeichen ist schon vollständig.</translation>
+    </message>
+    <message>
+        <source>Also correct: the order taught in other schools.</source>
+        <translation>Auch richtig: die Strichfolge, die an anderen Schulen gelehrt wird.</translation>
     </message>
 </context>
 <context>

@@ -660,6 +660,22 @@ Sí lo sustituye; No importa al alumno con otro nombre.</translation>
         <source>Window</source>
         <translation>Ventana</translation>
     </message>
+    <message>
+        <source>Accept other stroke orders</source>
+        <translation>Aceptar otros órdenes de trazos</translation>
+    </message>
+    <message>
+        <source>A stroke order taught in other schools, which KanjiVG records, is correct too</source>
+        <translation>Un orden de trazos que se enseña en otras escuelas, recogido por KanjiVG, también es correcto</translation>
+    </message>
+    <message>
+        <source>Steady my ink</source>
+        <translation>Estabilizar mi trazo</translation>
+    </message>
+    <message>
+        <source>A shaking hand, a finger or a cheap pen: each stroke is smoothed before it is judged</source>
+        <translation>Una mano temblorosa, un dedo o un lápiz barato: cada trazo se suaviza antes de juzgarlo</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>
@@ -1028,6 +1044,10 @@ Sí lo sustituye; No importa al alumno con otro nombre.</translation>
     <message>
         <source>The character is already complete.</source>
         <translation>El carácter ya está completo.</translation>
+    </message>
+    <message>
+        <source>Also correct: the order taught in other schools.</source>
+        <translation>También es correcto: el orden que se enseña en otras escuelas.</translation>
     </message>
 </context>
 <context>

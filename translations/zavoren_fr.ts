@@ -660,6 +660,22 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
         <source>Window</source>
         <translation>Fenêtre</translation>
     </message>
+    <message>
+        <source>Accept other stroke orders</source>
+        <translation>Accepter les autres ordres des traits</translation>
+    </message>
+    <message>
+        <source>A stroke order taught in other schools, which KanjiVG records, is correct too</source>
+        <translation>Un ordre des traits enseigné dans d’autres écoles, que KanjiVG répertorie, est correct aussi</translation>
+    </message>
+    <message>
+        <source>Steady my ink</source>
+        <translation>Stabiliser mon tracé</translation>
+    </message>
+    <message>
+        <source>A shaking hand, a finger or a cheap pen: each stroke is smoothed before it is judged</source>
+        <translation>Une main qui tremble, un doigt ou un stylet bon marché : chaque trait est lissé avant d’être jugé</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>
@@ -1028,6 +1044,10 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
     <message>
         <source>The character is already complete.</source>
         <translation>Le caractère est déjà complet.</translation>
+    </message>
+    <message>
+        <source>Also correct: the order taught in other schools.</source>
+        <translation>Correct aussi : l’ordre enseigné dans d’autres écoles.</translation>
     </message>
 </context>
 <context>

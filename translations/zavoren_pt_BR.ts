@@ -660,6 +660,22 @@ Sim substitui; Não importa o aluno com outro nome.</translation>
         <source>Window</source>
         <translation>Janela</translation>
     </message>
+    <message>
+        <source>Accept other stroke orders</source>
+        <translation>Aceitar outras ordens de traços</translation>
+    </message>
+    <message>
+        <source>A stroke order taught in other schools, which KanjiVG records, is correct too</source>
+        <translation>Uma ordem de traços ensinada em outras escolas, registrada pelo KanjiVG, também está correta</translation>
+    </message>
+    <message>
+        <source>Steady my ink</source>
+        <translation>Estabilizar meu traço</translation>
+    </message>
+    <message>
+        <source>A shaking hand, a finger or a cheap pen: each stroke is smoothed before it is judged</source>
+        <translation>Uma mão trêmula, um dedo ou uma caneta barata: cada traço é suavizado antes de ser avaliado</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>
@@ -1028,6 +1044,10 @@ Sim substitui; Não importa o aluno com outro nome.</translation>
     <message>
         <source>The character is already complete.</source>
         <translation>O caractere já está completo.</translation>
+    </message>
+    <message>
+        <source>Also correct: the order taught in other schools.</source>
+        <translation>Também está correto: a ordem ensinada em outras escolas.</translation>
     </message>
 </context>
 <context>

@@ -660,6 +660,22 @@ Yes replaces it; No imports the learner under another name.</source>
         <source>Window</source>
         <translation>Окно</translation>
     </message>
+    <message>
+        <source>Accept other stroke orders</source>
+        <translation>Принимать другой порядок черт</translation>
+    </message>
+    <message>
+        <source>A stroke order taught in other schools, which KanjiVG records, is correct too</source>
+        <translation>Порядок черт, которому учат в других школах и который записан в KanjiVG, тоже верен</translation>
+    </message>
+    <message>
+        <source>Steady my ink</source>
+        <translation>Сглаживать мои черты</translation>
+    </message>
+    <message>
+        <source>A shaking hand, a finger or a cheap pen: each stroke is smoothed before it is judged</source>
+        <translation>Дрожащая рука, палец или дешёвое перо: каждая черта сглаживается перед проверкой</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>
@@ -1028,6 +1044,10 @@ Yes replaces it; No imports the learner under another name.</source>
     <message>
         <source>The character is already complete.</source>
         <translation>Знак уже написан полностью.</translation>
+    </message>
+    <message>
+        <source>Also correct: the order taught in other schools.</source>
+        <translation>Тоже верно: порядок, которому учат в других школах.</translation>
     </message>
 </context>
 <context>

@@ -26,12 +26,20 @@ struct CoachingPreferences {
     bool wordsAndParts = true;
     /// The reading test shows a word that uses the character with the reading just answered.
     bool wordAfterAnswer = true;
+    /// A stroke right in another stroke order that KanjiVG records (the vertical stroke of 王
+    /// last, say) is accepted, and the learner is judged in that order from then on.
+    bool otherOrders = true;
+    /// A finished stroke is steadied (resampled and smoothed, its corners kept) before it is
+    /// judged: a shaking hand's or a finger's jitter is not refused as a wrong length or shape.
+    bool steadyInk = true;
 
     static CoachingPreferences AllOff()
     {
         CoachingPreferences off{false, false, false, false, false, false};
         off.wordsAndParts = false;
         off.wordAfterAnswer = false;
+        off.otherOrders = false;
+        off.steadyInk = false;
         return off;
     }
     bool operator==(const CoachingPreferences&) const = default;

@@ -1,4 +1,3 @@
-#include "Named.h"
 #include "MainWindow.h"
 #include "AddUserDialog.h"
 #include "CategoryPage.h"
@@ -13,32 +12,33 @@
 #include "InputCanvas.h"
 #include "LessonPage.h"
 #include "ModalAnswerer.h"
+#include "Named.h"
 #include "PreferencesDialog.h"
 #include "ProgressWindow.h"
 #include "ReadingTestPage.h"
 #include "RecordingOpener.h"
 #include "RecordingPrompt.h"
 #include "ShellTestSupport.h"
-#include "WindowActions.h"
-#include "WindowFixture.h"
 #include "TestContainer.h"
 #include "TestSupport.h"
 #include "UserManagerDialog.h"
 #include "UserRecordXml.h"
+#include "WindowActions.h"
+#include "WindowFixture.h"
 #include "XmlConfigStore.h"
 
-#include <QChartView>
 #include <QBarSet>
+#include <QChartView>
 #include <QCheckBox>
 #include <QFileDialog>
 #include <QGroupBox>
-#include <QPointer>
-#include <QLineSeries>
-#include <QPluginLoader>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLineSeries>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QPluginLoader>
+#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -47,9 +47,9 @@
 #include <QTimer>
 #include <QTreeWidget>
 
-#include <sys/stat.h>
 #include <QWhatsThis>
 #include <QtEndian>
+#include <sys/stat.h>
 
 #include <pugixml.hpp>
 
@@ -66,7 +66,8 @@ public:
         std::vector<LearnerEvent> history, const std::string& now, std::optional<ReviewSchedule> reviews,
         LexiconAccess* words, QWidget* parent) override
     {
-        auto* window = new ProgressWindow(database, prompt, learner, std::move(history), now, std::move(reviews), parent);
+        auto* window
+            = new ProgressWindow(database, prompt, learner, std::move(history), now, std::move(reviews), parent);
         window->SetWords(words);
         return window;
     }
@@ -120,7 +121,8 @@ private slots:
         QCOMPARE(ShownPage(window), lesson);
         for (int c = 0; c < 5; ++c) {
             WriteAll(Named<InputCanvas>(lesson, "inputCanvas"), *lesson->Glyph());
-            for (QCheckBox* box : {Named<QCheckBox>(lesson, "onReading"), Named<QCheckBox>(lesson, "kunReading"), Named<QCheckBox>(lesson, "meaning")})
+            for (QCheckBox* box : {Named<QCheckBox>(lesson, "onReading"), Named<QCheckBox>(lesson, "kunReading"),
+                     Named<QCheckBox>(lesson, "meaning")})
                 Tick(box);
             QVERIFY(Named<QPushButton>(lesson, "nextButton")->isEnabled());
             QTest::mouseClick(Named<QPushButton>(lesson, "nextButton"), Qt::LeftButton);
@@ -176,8 +178,9 @@ private slots:
 
         // Started again: Anna opens directly and the home page shows her progress.
         f.Restart();
-        ModalAnswerer<UserManagerDialog> manager(
-            [](UserManagerDialog& dialog) { QTest::mouseClick(Named<QPushButton>(&dialog, "closeButton"), Qt::LeftButton); });
+        ModalAnswerer<UserManagerDialog> manager([](UserManagerDialog& dialog) {
+            QTest::mouseClick(Named<QPushButton>(&dialog, "closeButton"), Qt::LeftButton);
+        });
         QVERIFY(f.Start());
         QCOMPARE(manager.Shown(), 0);
         QCOMPARE(Named<QTreeWidget>(ChildOf<HomePage>(f.Window()), "categoryList")->topLevelItem(0)->text(0),
@@ -189,8 +192,10 @@ private slots:
         auto* progress = ChildOf<ProgressWindow>(f.Window());
         QVERIFY(progress);
         QVERIFY(progress->isVisible());
-        QCOMPARE(Named<QLineSeries>(Named<QChartView>(progress, "learnedChart")->chart(), "learnedSeries")->count(), 1); // the history began today
-        QCOMPARE(Named<QLineSeries>(Named<QChartView>(progress, "learnedChart")->chart(), "learnedSeries")->at(0).y(), 5.0);
+        QCOMPARE(Named<QLineSeries>(Named<QChartView>(progress, "learnedChart")->chart(), "learnedSeries")->count(),
+            1); // the history began today
+        QCOMPARE(
+            Named<QLineSeries>(Named<QChartView>(progress, "learnedChart")->chart(), "learnedSeries")->at(0).y(), 5.0);
         QCOMPARE(Named<QBarSet>(Named<QChartView>(progress, "testsChart")->chart(), "passedBars")->at(0), 5.0);
         QPointer<ProgressWindow> watched(progress);
         f.Window().close();
@@ -207,8 +212,9 @@ private slots:
     void cancellingTheManagerAtStartEndsTheProgram()
     {
         WindowFixture f(R"(<Z><Users><User name="A"/><User name="B"/></Users></Z>)");
-        ModalAnswerer<UserManagerDialog> manager(
-            [](UserManagerDialog& dialog) { QTest::mouseClick(Named<QPushButton>(&dialog, "closeButton"), Qt::LeftButton); });
+        ModalAnswerer<UserManagerDialog> manager([](UserManagerDialog& dialog) {
+            QTest::mouseClick(Named<QPushButton>(&dialog, "closeButton"), Qt::LeftButton);
+        });
         QVERIFY(!f.Window().ChooseLearnerAtStart());
         QCOMPARE(manager.Shown(), 1);
         QVERIFY(!f.Window().isVisible());
@@ -260,8 +266,11 @@ private slots:
         QCOMPARE(grid->SelectedCodes(), Codes{grade1[20]});
         Named<QMenu>(category, "unlearnedMenu")->actions().value(1)->trigger(); // Info, Learn
         QCOMPARE(ShownPage(f.Window()), lesson);
-        QCOMPARE(lesson->Glyph()->StrokeCount(), StandardDatabase().LoadElement(
-            StandardDatabase().LoadCharacter(grade1[20])->ElementId())->GetForm(0).StrokeCount());
+        QCOMPARE(lesson->Glyph()->StrokeCount(),
+            StandardDatabase()
+                .LoadElement(StandardDatabase().LoadCharacter(grade1[20])->ElementId())
+                ->GetForm(0)
+                .StrokeCount());
         QTest::mouseClick(Named<QPushButton>(lesson, "abortButton"), Qt::LeftButton);
         QCOMPARE(ShownPage(f.Window()), category);
         QCOMPARE(Named<CharacterGrid>(category, "untestedStrip")->Groups()[0].codes, (Codes{grade1[0], grade1[1]}));
@@ -339,8 +348,10 @@ private slots:
         QVERIFY(f.Start());
         QVERIFY(QTest::qWaitForWindowExposed(&f.Window()));
         QTRY_COMPARE(f.Prompt().messages.size(), 1);
-        QVERIFY(f.Prompt().messages[0].startsWith(QStringLiteral("Learning history: The learning history cannot be kept: ")));
-        QVERIFY(f.Prompt().messages[0].contains(QStringLiteral("The damaged file is kept as \"") + QString::fromStdString(history) + QStringLiteral(".damaged-")));
+        QVERIFY(f.Prompt().messages[0].startsWith(
+            QStringLiteral("Learning history: The learning history cannot be kept: ")));
+        QVERIFY(f.Prompt().messages[0].contains(QStringLiteral("The damaged file is kept as \"")
+            + QString::fromStdString(history) + QStringLiteral(".damaged-")));
         QVERIFY(!QFile::exists(QString::fromStdString(history))); // put aside, not written over
     }
 
@@ -475,7 +486,7 @@ private slots:
         // Closed where it was restored: the file is left as it is (every save replaces it with
         // a new file, so the same inode means no save).
         const auto inode = [](const QString& path) {
-            struct stat status {};
+            struct stat status { };
             return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_ino : ino_t(0);
         };
         const ino_t inodeBefore = inode(file);
@@ -493,7 +504,8 @@ private slots:
         f.Close();
         QVERIFY(inode(file) != inodeBefore);
         settings.sync();
-        QCOMPARE(qFromLittleEndian<qint32>(settings.value(QStringLiteral("WindowPosition")).toByteArray().constData()), 210);
+        QCOMPARE(
+            qFromLittleEndian<qint32>(settings.value(QStringLiteral("WindowPosition")).toByteArray().constData()), 210);
     }
 
     void menuAndIgnoredKeys()
@@ -525,7 +537,8 @@ private slots:
         OpenCategory(window, 0);
         QTest::mouseClick(Named<QPushButton>(ChildOf<CategoryPage>(window), "lessonButton"), Qt::LeftButton);
         LessonPage* lesson = ChildOf<LessonPage>(window);
-        DrawInk(Named<InputCanvas>(lesson, "inputCanvas"), StrokeAsMouse(*lesson->Glyph(), 0, Named<InputCanvas>(lesson, "inputCanvas")->ClientRect().width()));
+        DrawInk(Named<InputCanvas>(lesson, "inputCanvas"),
+            StrokeAsMouse(*lesson->Glyph(), 0, Named<InputCanvas>(lesson, "inputCanvas")->ClientRect().width()));
         QCOMPARE(Named<InputCanvas>(lesson, "inputCanvas")->StrokeCount(), 1);
         QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
         QTest::keyClick(&window, Qt::Key_F6);
@@ -557,12 +570,14 @@ private slots:
                     QStringList headings;
                     for (QGroupBox* group : dialog.findChildren<QGroupBox*>())
                         headings << group->title();
-                    QCOMPARE(headings, (QStringList{QStringLiteral("Writing"), QStringLiteral("Reviews"),
-                                           QStringLiteral("Words"), QStringLiteral("Window")}));
-                    const QStringList captions{QStringLiteral("Explain refused strokes"), QStringLiteral("Practice grid"),
+                    QCOMPARE(headings,
+                        (QStringList{QStringLiteral("Writing"), QStringLiteral("Reviews"), QStringLiteral("Words"),
+                            QStringLiteral("Window")}));
+                    const QStringList captions{QStringLiteral("Explain refused strokes"),
+                        QStringLiteral("Practice grid"),
                         QStringLiteral("Show where a stroke starts after three misses"),
-                        QStringLiteral("Judge place by my own character"),
-                        QStringLiteral("Review characters when they are due"),
+                        QStringLiteral("Judge place by my own character"), QStringLiteral("Accept other stroke orders"),
+                        QStringLiteral("Steady my ink"), QStringLiteral("Review characters when they are due"),
                         QStringLiteral("Show words and parts in Kanji Info"),
                         QStringLiteral("Show a word after each answer"),
                         QStringLiteral("Bring the window onto the screen at start")};
@@ -587,7 +602,8 @@ private slots:
         QVERIFY(lesson->height() <= withLine.height());
         // Kept for the next start, and shown as kept.
         f.Restart();
-        QVERIFY(!Named<FeedbackLine>(ChildOf<LessonPage>(f.Window()), "strokeFeedback")->isVisibleTo(ChildOf<LessonPage>(f.Window())));
+        QVERIFY(!Named<FeedbackLine>(ChildOf<LessonPage>(f.Window()), "strokeFeedback")
+                     ->isVisibleTo(ChildOf<LessonPage>(f.Window())));
         QVERIFY(!Named<InputCanvas>(ChildOf<LessonPage>(f.Window()), "inputCanvas")->GuideLines());
         ModalAnswerer<PreferencesDialog> look([](PreferencesDialog& dialog) {
             for (QCheckBox* box : dialog.findChildren<QCheckBox*>())
@@ -664,8 +680,10 @@ private slots:
         QCOMPARE(open.Shown(), 1);
         QVERIFY(f.Prompt().messages.value(0).startsWith(QStringLiteral("Import learner: A learner named \"Anna\"")));
         // The open learner is now the imported record: the home page counts one learned.
-        QVERIFY(Named<QTreeWidget>(ChildOf<HomePage>(f.Window()), "categoryList")->topLevelItem(0)->text(0).startsWith(
-            QStringLiteral("Grade 1 (1 of ")));
+        QVERIFY(Named<QTreeWidget>(ChildOf<HomePage>(f.Window()), "categoryList")
+                    ->topLevelItem(0)
+                    ->text(0)
+                    .startsWith(QStringLiteral("Grade 1 (1 of ")));
         f.Close(); // saving at close keeps the imported record
         QCOMPARE(f.Saved("Anna")->GetProgress(0).Learned(), Codes{7});
     }

@@ -11,6 +11,7 @@
 #include <pugixml.hpp>
 
 #include <algorithm>
+#include <cctype>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
@@ -90,18 +91,39 @@ std::string JoinLimited(const std::vector<std::string>& items, const std::string
     return out;
 }
 
-std::optional<Form> LoadKanjiVgGlyph(const std::string& directory, char32_t codePoint)
+namespace {
+
+/// The stroke number at the end of a KanjiVG path id ("kvg:0738b-VtLst-s4": 4), or 0.
+int StrokeNumber(const char* id)
 {
-    const std::filesystem::path file = std::filesystem::path(directory) / HexName(codePoint);
-    std::error_code ec;
-    if (!std::filesystem::exists(file, ec))
-        return std::nullopt;
+    const char* s = std::strrchr(id, 's');
+    if (!s || s == id || s[-1] != '-' || !s[1])
+        return 0;
+    int number = 0;
+    for (const char* c = s + 1; *c; ++c) {
+        if (*c < '0' || *c > '9')
+            return 0;
+        number = number * 10 + (*c - '0');
+    }
+    return number;
+}
+
+/// The strokes of one KanjiVG drawing, in their order: by the number each path's id gives it
+/// where every path has one (a full drawing nests its paths in groups), else in document order.
+Form LoadDrawing(const std::filesystem::path& file, char32_t codePoint)
+{
     pugi::xml_document document;
     const pugi::xml_parse_result parsed = document.load_file(file.c_str());
     if (!parsed)
         throw BuildError(file.string() + ": cannot read SVG (" + parsed.description() + ")");
     std::vector<pugi::xml_node> paths;
     CollectPaths(document, paths);
+    const bool numbered = std::all_of(paths.begin(), paths.end(),
+        [](const pugi::xml_node& path) { return StrokeNumber(path.attribute("id").value()) > 0; });
+    if (numbered)
+        std::stable_sort(paths.begin(), paths.end(), [](const pugi::xml_node& a, const pugi::xml_node& b) {
+            return StrokeNumber(a.attribute("id").value()) < StrokeNumber(b.attribute("id").value());
+        });
     Form form(KanjiVgBox, KanjiVgBox);
     for (const pugi::xml_node& path : paths) {
         const char* data = path.attribute("d").value();
@@ -115,6 +137,56 @@ std::optional<Form> LoadKanjiVgGlyph(const std::string& directory, char32_t code
     if (form.Strokes().size() > 255)
         throw BuildError(file.string() + ": more than 255 strokes");
     return form;
+}
+
+} // namespace
+
+std::optional<Form> LoadKanjiVgGlyph(const std::string& directory, char32_t codePoint)
+{
+    const std::filesystem::path file = std::filesystem::path(directory) / HexName(codePoint);
+    std::error_code ec;
+    if (!std::filesystem::exists(file, ec))
+        return std::nullopt;
+    return LoadDrawing(file, codePoint);
+}
+
+bool IsStrokeOrderSuffix(const std::string& suffix)
+{
+    // Kaisho (the regular script's own shapes), Hyougai, Jinmei and Insatsu (print forms) draw
+    // the character otherwise; every other suffix names an order (VtLst: the vertical last).
+    if (suffix.empty())
+        return false;
+    for (const char* style : {"Kaisho", "Hyougai", "Jinmei", "Insatsu"})
+        if (suffix.find(style) != std::string::npos)
+            return false;
+    return std::all_of(
+        suffix.begin(), suffix.end(), [](char c) { return std::isalnum(static_cast<unsigned char>(c)); });
+}
+
+std::map<char32_t, std::vector<std::string>> FindStrokeOrders(const std::string& directory)
+{
+    std::map<char32_t, std::vector<std::string>> orders;
+    std::error_code ec;
+    for (std::filesystem::directory_iterator it(directory, ec), end; !ec && it != end; it.increment(ec)) {
+        const std::string name = it->path().filename().string();
+        const std::size_t dash = name.find('-');
+        if (it->path().extension() != ".svg" || dash == std::string::npos || dash == 0)
+            continue;
+        const std::string suffix = name.substr(dash + 1, name.size() - dash - 1 - 4);
+        if (!IsStrokeOrderSuffix(suffix))
+            continue;
+        char* digitsEnd = nullptr;
+        const unsigned long value = std::strtoul(name.c_str(), &digitsEnd, 16);
+        if (digitsEnd != name.c_str() + dash || value == 0 || value > 0x10FFFF)
+            continue;
+        orders[static_cast<char32_t>(value)].push_back(it->path().filename().string());
+    }
+    if (ec)
+        throw BuildError(directory + ": cannot list the KanjiVG drawings (" + ec.message() + ")");
+    // The same order whatever the folder listing gives: the same bytes from the same files.
+    for (auto& [codePoint, files] : orders)
+        std::sort(files.begin(), files.end());
+    return orders;
 }
 
 std::vector<std::uint8_t> BuildDatabase(const BuildOptions& options, BuildReport& report)
@@ -173,7 +245,11 @@ std::vector<std::uint8_t> BuildDatabase(const BuildOptions& options, BuildReport
     struct Member {
         const KanjiDicEntry* entry;
         Form glyph;
+        std::vector<Form> orders; ///< the other stroke orders KanjiVG records
     };
+    std::map<char32_t, std::vector<std::string>> orderFiles;
+    if (!options.ordersDir.empty())
+        orderFiles = FindStrokeOrders(options.ordersDir);
     std::vector<std::vector<Member>> members(plan.size());
     std::vector<char32_t> met;
     for (std::size_t c = 0; c < plan.size(); ++c) {
@@ -188,7 +264,22 @@ std::vector<std::uint8_t> BuildDatabase(const BuildOptions& options, BuildReport
                 ++count.withoutStrokes;
                 continue;
             }
-            members[c].push_back({entry, std::move(*glyph)});
+            std::vector<Form> orders;
+            if (auto found = orderFiles.find(entry->codePoint); found != orderFiles.end())
+                for (const std::string& file : found->second) {
+                    Form order = LoadDrawing(std::filesystem::path(options.ordersDir) / file, entry->codePoint);
+                    // Another order has the same strokes: a drawing with more or fewer is another
+                    // shape of the character and is left out.
+                    if (order.StrokeCount() == glyph->StrokeCount())
+                        orders.push_back(std::move(order));
+                    else
+                        report.ordersLeftOut.push_back(file);
+                }
+            if (!orders.empty()) {
+                ++report.withOtherOrders;
+                report.otherOrders += orders.size();
+            }
+            members[c].push_back({entry, std::move(*glyph), std::move(orders)});
             met.push_back(entry->codePoint);
         }
         count.characters = members[c].size();
@@ -218,7 +309,10 @@ std::vector<std::uint8_t> BuildDatabase(const BuildOptions& options, BuildReport
         }
         const Placed at = placed.at(codePoint);
         const Member& member = members[at.category][at.position];
-        const std::uint16_t element = writer.AddStrokeElement(member.glyph);
+        // Form 0 is the standard order, as it always was; the other orders follow it.
+        std::vector<Form> forms{member.glyph};
+        forms.insert(forms.end(), member.orders.begin(), member.orders.end());
+        const std::uint16_t element = writer.AddStrokeElement(forms);
         const std::string on = JoinLimited(member.entry->onReadings, "\xE3\x80\x81");
         const std::string kun = JoinLimited(member.entry->kunReadings, "\xE3\x80\x81");
         idOf[codePoint] = writer.AddCharacter(element, on, kun, JoinLimited(member.entry->meanings, ", "));

@@ -6,6 +6,7 @@
 #include "LexiconBuilder.h"
 
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -17,6 +18,9 @@ struct BuildOptions {
     std::string kanjidicPath; ///< KANJIDIC2 XML, gzipped or plain
     std::string language = "en";
     bool allKanji = false; ///< add the category "Other" with every remaining KanjiVG kanji
+    /// KanjiVG's full drawings (HEX-SUFFIX.svg), whose other stroke orders become further forms
+    /// of each character's element (empty: none).
+    std::string ordersDir;
     /// The ids the characters keep (empty: ids in the order met, categories then teaching order).
     CharacterIdTable ids;
 };
@@ -34,6 +38,11 @@ struct BuildReport {
     /// The characters written, in id order, as the lexicon builder takes them (an empty one for
     /// an id kept for a character no longer in the data).
     std::vector<LexiconCharacter> built;
+    /// Characters with other stroke orders, and those orders in all.
+    std::size_t withOtherOrders = 0;
+    std::size_t otherOrders = 0;
+    /// Drawings named as orders whose stroke count differs from the standard one's.
+    std::vector<std::string> ordersLeftOut;
     /// The code point of each id (0 for one kept for a character no longer in the data).
     std::vector<char32_t> ids;
     /// The DatabaseKey of the file.
@@ -43,6 +52,12 @@ struct BuildReport {
 /// Reads one KanjiVG SVG into a kind-1 form of box 109 x 109, strokes in document order; null
 /// when the file does not exist. Throws BuildError for an unreadable file or bad path data.
 std::optional<Form> LoadKanjiVgGlyph(const std::string& directory, char32_t codePoint);
+
+/// Whether a KanjiVG drawing's suffix ("VtLst", "HzFstRiLe") names another stroke order, and
+/// not another style of the character (Kaisho, Hyougai, Jinmei, Insatsu).
+bool IsStrokeOrderSuffix(const std::string& suffix);
+/// The drawings of `directory` that give other stroke orders, by character, sorted by name.
+std::map<char32_t, std::vector<std::string>> FindStrokeOrders(const std::string& directory);
 
 /// Builds the whole database file. Same inputs give the same bytes.
 std::vector<std::uint8_t> BuildDatabase(const BuildOptions& options, BuildReport& report);
