@@ -3,6 +3,7 @@
 #include "FileCharacterDatabase.h"
 #include "Flattening.h"
 #include "GlyphRendering.h"
+#include "InkSteadier.h"
 #include "StrokeChecker.h"
 #include "StrokeVerdict.h"
 #include "WritingQuiz.h"
@@ -13,6 +14,7 @@
 #include <QPainter>
 
 #include <cmath>
+#include <random>
 
 namespace {
 
@@ -94,8 +96,8 @@ void BM_JudgeInTheOwnFrame(benchmark::State& state)
     constexpr float Side = 298;
     auto drawn = [&](std::uint16_t k, float down) {
         StrokePath ink(FlattenStroke(glyph->GetStroke(k)));
-        ink.ScaleAndOffset(0.9f * Side / glyph->Width(), 0.9f * Side / glyph->Height(), 0.05f * Side + 12,
-            0.05f * Side + down);
+        ink.ScaleAndOffset(
+            0.9f * Side / glyph->Width(), 0.9f * Side / glyph->Height(), 0.05f * Side + 12, 0.05f * Side + down);
         ink.ResampleInPlace(static_cast<std::uint32_t>(std::lround(ink.Length() / 3)) + 2);
         return ink;
     };
@@ -114,6 +116,53 @@ void BM_JudgeInTheOwnFrame(benchmark::State& state)
         + (quiz.Judge(ink).kind == StrokeVerdict::Kind::Accepted ? "accepted" : "refused"));
 }
 BENCHMARK(BM_JudgeInTheOwnFrame)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
+
+void BM_JudgeWithBothAids(benchmark::State& state)
+{
+    // A stroke judged as the pages judge it with "Steady my ink" and "Accept other stroke
+    // orders" on: steadied, then judged in the learner's own frame, and, refused in the order
+    // being written, tried against the other orders. The character with the most other orders
+    // and, among those, the most strokes; ink jittered by σ 1.5 px every 2 px.
+    // arg 0: the last stroke of the standard order (accepted as it is); arg 1: the last stroke
+    // of its last other order, the earlier ones written in that order (taken there).
+    FileCharacterDatabase database(ZAVOREN_STANDARD_DATABASE);
+    database.Preload(nullptr);
+    std::unique_ptr<Element> most;
+    for (std::uint16_t id = 0; id < database.CharacterCount(); ++id) {
+        auto element = database.LoadElement(database.LoadCharacter(id)->ElementId());
+        if (!most || element->FormCount() > most->FormCount()
+            || (element->FormCount() == most->FormCount()
+                && element->GetForm(0).StrokeCount() > most->GetForm(0).StrokeCount()))
+            most = std::move(element);
+    }
+    const std::uint8_t form = state.range(0) == 0 ? 0 : static_cast<std::uint8_t>(most->FormCount() - 1);
+    const Form glyph = most->GetForm(form);
+    constexpr float Side = 298;
+    std::mt19937 random(3);
+    std::normal_distribution<float> jitter(0.0f, 1.5f);
+    auto drawn = [&](std::uint16_t k) {
+        StrokePath ink(FlattenStroke(glyph.GetStroke(k)));
+        ink.ScaleAndOffset(Side / glyph.Width(), Side / glyph.Height(), 0, 0);
+        ink.ResampleInPlace(static_cast<std::uint32_t>(std::lround(ink.Length() / 2)) + 2);
+        std::vector<Point> points;
+        for (const Point& p : ink.Points())
+            points.push_back({p.x + jitter(random), p.y + jitter(random)});
+        return StrokePath(std::move(points));
+    };
+    WritingQuiz quiz;
+    quiz.SetOwnFrame(true);
+    quiz.SetOtherOrders(true);
+    const auto forms = most->FormCount();
+    quiz.Start(std::move(most), CanvasRect{0, 0, 298, 298});
+    const auto last = static_cast<std::uint16_t>(glyph.StrokeCount() - 1);
+    for (std::uint16_t k = 0; k < last; ++k)
+        quiz.StrokeKept(InkSteadier::Steady(drawn(k)));
+    const StrokePath ink = drawn(last);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(quiz.Judge(InkSteadier::Steady(ink)));
+    state.SetLabel(std::to_string(glyph.StrokeCount()) + " strokes, " + std::to_string(forms) + " orders");
+}
+BENCHMARK(BM_JudgeWithBothAids)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 void BM_ScoreOneStroke(benchmark::State& state)
 {

@@ -241,6 +241,7 @@ void CategoryPage::ShowInfo(CharacterGrid* grid)
         return;
     KanjiInfoDialog dialog(m_database, m_prompt, this);
     dialog.SetWords(m_words);
+    dialog.SetOtherOrders(m_otherOrders);
     if (m_reviews && m_recorder)
         if (const ReviewSchedule::Review* review
             = m_reviews->Find(m_recorder->Progress().CategoryId(), selected.front()))

@@ -55,6 +55,8 @@ public:
     void SetReviews(std::optional<ReviewSchedule> reviews) { m_reviews = std::move(reviews); }
     /// Kanji Info shows the words and parts of `context` (no lexicon: none).
     void SetWords(WordContext context) { m_words = std::move(context); }
+    /// Kanji Info shows the other stroke orders of a character.
+    void SetOtherOrders(bool on) { m_otherOrders = on; }
     /// The characters a test of the category takes now.
     std::vector<std::uint16_t> TestCharacters() const;
     /// A lesson of the category finished, having taught `taught`: recorded in the learner's
@@ -102,6 +104,7 @@ private:
     std::optional<ProgressRecorder> m_recorder;
     std::optional<ReviewSchedule> m_reviews;
     WordContext m_words;
+    bool m_otherOrders = false;
     /// The learner's record of the category, or null without a learner.
     CategoryProgress* Progress() const { return m_recorder ? &m_recorder->Progress() : nullptr; }
     QMenu* m_learnedMenu = nullptr;

@@ -1,5 +1,7 @@
 #include "KanjiInfoDialog.h"
 
+#include <algorithm>
+
 #include "CharacterDatabase.h"
 #include "DatabaseLoadException.h"
 #include "DisplayCanvas.h"
@@ -14,6 +16,7 @@
 
 #include <QDate>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLocale>
 #include <QPixmap>
 #include <QToolButton>
@@ -89,7 +92,68 @@ bool KanjiInfoDialog::SetCode(std::uint16_t code)
     m_character = std::move(loaded.character);
     m_glyph = std::move(loaded.glyph);
     ShowWordsAndParts(code);
+    ShowOtherOrders();
     return true;
+}
+
+QPixmap KanjiInfoDialog::OrderStrip(const Form& form) const
+{
+    // Small frames in rows of at most eight, frame k drawing strokes 1..k.
+    constexpr int Frame = 26, Gap = 3, PerRow = 8;
+    const int count = form.StrokeCount();
+    const int columns = std::min(count, PerRow), rows = (count + PerRow - 1) / PerRow;
+    const qreal ratio = devicePixelRatioF();
+    QImage image(qRound((columns * (Frame + Gap) - Gap) * ratio), qRound((rows * (Frame + Gap) - Gap) * ratio),
+        QImage::Format_RGB32);
+    image.fill(palette().color(QPalette::Window));
+    const QRgb ink = palette().color(QPalette::WindowText).rgb();
+    const QRgb accent = palette().color(QPalette::Highlight).rgb();
+    for (int k = 0; k < count; ++k) {
+        const QRect frame(qRound((k % PerRow) * (Frame + Gap) * ratio), qRound((k / PerRow) * (Frame + Gap) * ratio),
+            qRound(Frame * ratio), qRound(Frame * ratio));
+        QImage box(frame.size(), QImage::Format_RGB32);
+        box.fill(palette().color(QPalette::Base));
+        Form before(form.Width(), form.Height()), newest(form.Width(), form.Height());
+        for (int j = 0; j < k; ++j)
+            before.AppendStroke(form.GetStroke(static_cast<std::uint16_t>(j)));
+        newest.AppendStroke(form.GetStroke(static_cast<std::uint16_t>(k)));
+        const QRect inside = box.rect().adjusted(2, 2, -2, -2);
+        DrawFormSmooth(box, inside, before, ink, 1.2 * ratio);
+        DrawFormSmooth(box, inside, newest, accent, 1.6 * ratio);
+        for (int y = 0; y < box.height(); ++y)
+            for (int x = 0; x < box.width(); ++x)
+                image.setPixel(frame.x() + x, frame.y() + y, box.pixel(x, y));
+    }
+    image.setDevicePixelRatio(ratio);
+    return QPixmap::fromImage(image);
+}
+
+void KanjiInfoDialog::ShowOtherOrders()
+{
+    delete m_orders;
+    m_orders = nullptr;
+    if (!m_otherOrders || !m_glyph || m_glyph->FormCount() < 2)
+        return;
+    m_orders = new QWidget(this);
+    m_orders->setObjectName(QStringLiteral("otherOrders"));
+    auto* layout = new QVBoxLayout(m_orders);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (std::uint8_t f = 1; f < m_glyph->FormCount(); ++f) {
+        QLabel* heading = new QLabel(tr("Other order"), m_orders);
+        heading->setObjectName(QStringLiteral("otherOrderHeading%1").arg(f));
+        QFont bold = heading->font();
+        bold.setBold(true);
+        heading->setFont(bold);
+        layout->addWidget(heading);
+        auto* strip = new QLabel(m_orders);
+        strip->setObjectName(QStringLiteral("otherOrder%1").arg(f));
+        strip->setPixmap(OrderStrip(m_glyph->GetForm(f)));
+        strip->setAccessibleName(tr("Another stroke order, shown stroke by stroke"));
+        layout->addWidget(strip);
+    }
+    // Under the words and parts (or the texts), above the Close button.
+    QWidget* above = m_wordsAndParts ? m_wordsAndParts : static_cast<QWidget*>(m_nextReview);
+    m_ui->texts->insertWidget(m_ui->texts->indexOf(above) + 1, m_orders);
 }
 
 void KanjiInfoDialog::SetWords(WordContext context)
@@ -173,7 +237,8 @@ QLabel* KanjiInfoDialog::WordRow(const Lexicon& lexicon, const LexiconWord& word
     auto* row = new QLabel(m_wordsAndParts);
     row->setTextFormat(Qt::RichText);
     row->setWordWrap(true);
-    row->setText(QStringLiteral("%1&nbsp;&nbsp;%2 \u2014 %3").arg(html, reading.toHtmlEscaped(), meaning.toHtmlEscaped()));
+    row->setText(
+        QStringLiteral("%1&nbsp;&nbsp;%2 \u2014 %3").arg(html, reading.toHtmlEscaped(), meaning.toHtmlEscaped()));
     row->setAccessibleName(QStringLiteral("%1, %2, %3").arg(writing, reading, meaning));
     if (!unknown.isEmpty())
         row->setAccessibleDescription(tr("Not learned yet: %1").arg(unknown.join(QLatin1Char(' '))));

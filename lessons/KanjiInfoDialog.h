@@ -35,6 +35,9 @@ public:
     /// Shows the character's words and parts from `context` (set before SetCode); not called,
     /// or without a lexicon, the dialog shows neither.
     void SetWords(WordContext context);
+    /// Shows the other stroke orders KanjiVG records for the character, stroke by stroke (set
+    /// before SetCode); not called, none are shown.
+    void SetOtherOrders(bool on) { m_otherOrders = on; }
 
     /// Words shown at most.
     static constexpr std::size_t MaxWords = 5;
@@ -46,6 +49,10 @@ protected:
 
 private:
     void ShowWordsAndParts(std::uint16_t code);
+    void ShowOtherOrders();
+    /// Form `form` of the glyph stroke by stroke: a small frame a stroke, the newest in the
+    /// accent colour.
+    QPixmap OrderStrip(const Form& form) const;
     QLabel* Heading(const QString& text, const char* name);
     /// A word with the characters not learned yet dimmed.
     QLabel* WordRow(const Lexicon& lexicon, const LexiconWord& word);
@@ -59,6 +66,8 @@ private:
     QPushButton* CloseButton() const;
     QLabel* m_nextReview = nullptr;
     QWidget* m_wordsAndParts = nullptr;
+    QWidget* m_orders = nullptr;
+    bool m_otherOrders = false;
     WordContext m_words;
     std::unique_ptr<Ui::KanjiInfoDialog> m_ui;
     CharacterDatabase& m_database;

@@ -43,6 +43,7 @@ void PreferencesEditor::Apply(const CoachingPreferences& preferences)
             context.learned = [session](std::uint16_t id) { return session->HasLearned(id); };
         }
         m_targets.category->SetWords(std::move(context));
+        m_targets.category->SetOtherOrders(preferences.otherOrders);
     }
     if (m_targets.test)
         m_targets.test->ReadingPage()->SetWordAid(preferences.wordAfterAnswer ? &session->Lexicon() : nullptr);

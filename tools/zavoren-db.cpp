@@ -7,6 +7,7 @@
 #include "Edict.h"
 #include "FileCharacterDatabase.h"
 #include "InkFile.h"
+#include "InkSteadier.h"
 #include "Lexicon.h"
 #include "StrokeChecker.h"
 #include "StrokeVerdict.h"
@@ -42,9 +43,10 @@ const char* const Usage
       "  zavoren-db info PATH\n"
       "  zavoren-db score --db PATH --char ID --canvas X,Y,W,H --stroke K --ink FILE\n"
       "      prints the checker's score, then its verdict (\"accepted\" or why it was refused)\n"
-      "  zavoren-db write --db PATH --char ID --canvas X,Y,W,H --ink FILE [--own-frame]\n"
+      "  zavoren-db write --db PATH --char ID --canvas X,Y,W,H --ink FILE [--own-frame] [--variants] [--steady]\n"
       "      judges a JSON array of strokes one after another as a lesson does, one line each;\n"
-      "      with --own-frame each stroke's place is judged in the learner's own character\n"
+      "      with --own-frame each stroke's place is judged in the learner's own character, with\n"
+      "      --variants the other stroke orders are accepted, with --steady each stroke is steadied first\n"
       "  zavoren-db words --db PATH --lexicon PATH --char ID\n"
       "      prints the character's parts (\"parts<TAB>...\"), then its words (writing<TAB>reading<TAB>meaning)\n";
 
@@ -341,7 +343,9 @@ std::string ReadCharacterOptions(const char* command, const std::vector<std::str
 /// The verdict as `score` and `write` print it: "accepted", or why the stroke was refused.
 std::string VerdictLine(const StrokeVerdict& verdict)
 {
-    return verdict.kind == StrokeVerdict::Kind::Accepted ? std::string("accepted") : VerdictText(verdict);
+    if (verdict.kind == StrokeVerdict::Kind::Accepted)
+        return verdict.otherOrder ? "accepted in another stroke order" : "accepted";
+    return VerdictText(verdict);
 }
 
 /// Opens the database and hands `use` the character's glyph element; the exit code, after
@@ -387,8 +391,8 @@ int Write(const std::vector<std::string>& args)
 {
     CharacterOnCanvas c;
     std::map<std::string, std::string> o;
-    if (const std::string wrong
-        = ReadCharacterOptions("write", args, {"--db", "--char", "--canvas", "--ink"}, {"--own-frame"}, c, o);
+    if (const std::string wrong = ReadCharacterOptions(
+            "write", args, {"--db", "--char", "--canvas", "--ink"}, {"--own-frame", "--variants", "--steady"}, c, o);
         !wrong.empty())
         return Fail(wrong);
     std::vector<StrokePath> strokes;
@@ -402,8 +406,11 @@ int Write(const std::vector<std::string>& args)
         // learner's character and the next stroke is expected; a refused one is wiped.
         WritingQuiz quiz;
         quiz.SetOwnFrame(o.count("--own-frame") > 0);
+        quiz.SetOtherOrders(o.count("--variants") > 0);
         quiz.Start(std::move(element), c.canvas);
-        for (const StrokePath& ink : strokes) {
+        for (const StrokePath& drawn : strokes) {
+            // Steadied as the page steadies a stroke with "Steady my ink" on.
+            const StrokePath ink = o.count("--steady") ? InkSteadier::Steady(drawn) : drawn;
             const StrokeVerdict verdict = quiz.Judge(ink);
             std::cout << VerdictLine(verdict) << '\n';
             if (verdict.kind == StrokeVerdict::Kind::Accepted)

@@ -386,6 +386,14 @@ Möchten Sie einen Minidump davon erhalten?</translation>
         <source>Part %1</source>
         <translation>Bestandteil %1</translation>
     </message>
+    <message>
+        <source>Other order</source>
+        <translation>Andere Strichfolge</translation>
+    </message>
+    <message>
+        <source>Another stroke order, shown stroke by stroke</source>
+        <translation>Eine andere Strichfolge, Strich für Strich gezeigt</translation>
+    </message>
 </context>
 <context>
     <name>LearnerTransfer</name>

@@ -386,6 +386,14 @@ Error fatal en Zavoren.<byte value="xd"/>
         <source>Part %1</source>
         <translation>Componente %1</translation>
     </message>
+    <message>
+        <source>Other order</source>
+        <translation>Otro orden</translation>
+    </message>
+    <message>
+        <source>Another stroke order, shown stroke by stroke</source>
+        <translation>Otro orden de trazos, mostrado trazo a trazo</translation>
+    </message>
 </context>
 <context>
     <name>LearnerTransfer</name>

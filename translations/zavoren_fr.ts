@@ -386,6 +386,14 @@ Voulez-vous en obtenir un minidump ?</translation>
         <source>Part %1</source>
         <translation>Composant %1</translation>
     </message>
+    <message>
+        <source>Other order</source>
+        <translation>Autre ordre</translation>
+    </message>
+    <message>
+        <source>Another stroke order, shown stroke by stroke</source>
+        <translation>Un autre ordre des traits, montré trait par trait</translation>
+    </message>
 </context>
 <context>
     <name>LearnerTransfer</name>

@@ -386,6 +386,14 @@ Deseja obter um minidump?</translation>
         <source>Part %1</source>
         <translation>Componente %1</translation>
     </message>
+    <message>
+        <source>Other order</source>
+        <translation>Outra ordem</translation>
+    </message>
+    <message>
+        <source>Another stroke order, shown stroke by stroke</source>
+        <translation>Outra ordem de traços, mostrada traço a traço</translation>
+    </message>
 </context>
 <context>
     <name>LearnerTransfer</name>

@@ -386,6 +386,14 @@ Do you want to get minidump for it?</source>
         <source>Part %1</source>
         <translation>Часть %1</translation>
     </message>
+    <message>
+        <source>Other order</source>
+        <translation>Другой порядок</translation>
+    </message>
+    <message>
+        <source>Another stroke order, shown stroke by stroke</source>
+        <translation>Другой порядок черт, показанный черта за чертой</translation>
+    </message>
 </context>
 <context>
     <name>LearnerTransfer</name>

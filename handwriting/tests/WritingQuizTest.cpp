@@ -228,3 +228,115 @@ TEST(WritingQuiz, AStrokeOutOfPlaceInTheLearnersCharacterIsToldTheWayThere)
     EXPECT_NEAR(verdict.fromY + verdict.dy, bounds.y + bounds.height * 0.5f, 4.0f);
     EXPECT_LT(frame.Scale(), 1.0f);
 }
+
+namespace {
+
+Stroke Line(Point from, Point to)
+{
+    Stroke stroke(from);
+    stroke.AppendSegment(Segment(SegmentType::Line, to));
+    return stroke;
+}
+
+/// 王's strokes in a 109 box: the top, the vertical, the middle and the bottom horizontal in the
+/// standard order (form 0), the vertical last in the other (form 1).
+std::unique_ptr<Element> King()
+{
+    const Stroke top = Line({30, 20}, {80, 20}), vertical = Line({55, 20}, {55, 90});
+    const Stroke middle = Line({32, 55}, {78, 55}), bottom = Line({15, 90}, {95, 90});
+    auto element = std::make_unique<Element>(70);
+    Form standard(109, 109);
+    for (const Stroke& s : {top, vertical, middle, bottom})
+        standard.AppendStroke(s);
+    Form verticalLast(109, 109);
+    for (const Stroke& s : {top, middle, bottom, vertical})
+        verticalLast.AppendStroke(s);
+    element->AppendForm(standard);
+    element->AppendForm(verticalLast);
+    return element;
+}
+
+/// Stroke `k` of form `form` of 王 as a learner draws it.
+StrokePath KingInk(std::uint8_t form, std::uint16_t k)
+{
+    static const std::unique_ptr<Element> king = King();
+    return LearnerInk(king->GetForm(form).GetStroke(k), king->GetForm(form), 300);
+}
+
+} // namespace
+
+TEST(WritingQuiz, AnotherStrokeOrderIsTakenAtItsFirstDifferingStrokeAndFollowed)
+{
+    WritingQuiz quiz;
+    quiz.SetOtherOrders(true);
+    quiz.Start(King(), Canvas);
+    quiz.StrokeKept(KingInk(1, 0)); // the top: the same in both orders
+    EXPECT_FALSE(quiz.TakeOrderChange());
+    // The middle horizontal second: wrong in the standard order, right in the other.
+    const StrokeVerdict second = quiz.Judge(KingInk(1, 1));
+    EXPECT_EQ(second.kind, StrokeVerdict::Kind::Accepted);
+    EXPECT_TRUE(second.otherOrder);
+    EXPECT_TRUE(quiz.Accepts(KingInk(1, 1)));
+    EXPECT_EQ(quiz.FormIndex(), 0); // taken once kept
+    quiz.StrokeKept(KingInk(1, 1));
+    EXPECT_EQ(quiz.FormIndex(), 1);
+    EXPECT_EQ(quiz.Glyph()->GetStroke(3).Start().x, 55.0f); // the vertical last: the hint and arrows follow
+    EXPECT_TRUE(quiz.TakeOrderChange());
+    EXPECT_FALSE(quiz.TakeOrderChange()); // told once
+    // From now on judged in that order: the bottom, then the vertical last.
+    const StrokeVerdict third = quiz.Judge(KingInk(1, 2));
+    EXPECT_EQ(third.kind, StrokeVerdict::Kind::Accepted);
+    EXPECT_FALSE(third.otherOrder);
+    quiz.StrokeKept(KingInk(1, 2));
+    EXPECT_EQ(quiz.Judge(KingInk(1, 3)).kind, StrokeVerdict::Kind::Accepted);
+    quiz.StrokeKept(KingInk(1, 3));
+    EXPECT_TRUE(quiz.IsComplete());
+    EXPECT_FALSE(quiz.TakeOrderChange());
+}
+
+TEST(WritingQuiz, WithoutOtherOrdersOrInNoOrderTheVerdictIsTodays)
+{
+    WritingQuiz off;
+    off.Start(King(), Canvas);
+    off.StrokeKept(KingInk(0, 0));
+    const StrokeVerdict early = off.Judge(KingInk(1, 1));
+    EXPECT_EQ(early.kind, StrokeVerdict::Kind::WrongOrder);
+    EXPECT_EQ(early.drawnAs, 2);
+    EXPECT_FALSE(off.Accepts(KingInk(1, 1)));
+
+    WritingQuiz on;
+    on.SetOtherOrders(true);
+    on.Start(King(), Canvas);
+    on.StrokeKept(KingInk(0, 0));
+    // The bottom horizontal second is right in no order: the standard order's verdict.
+    const StrokeVerdict wrong = on.Judge(KingInk(0, 3));
+    EXPECT_EQ(wrong.kind, StrokeVerdict::Kind::WrongOrder);
+    EXPECT_EQ(wrong.drawnAs, 3);
+    EXPECT_FALSE(wrong.otherOrder);
+    // The vertical drawn upwards: backwards in every order.
+    const StrokePath down = KingInk(0, 1);
+    StrokePath up(std::vector<Point>(down.Points().rbegin(), down.Points().rend()));
+    EXPECT_EQ(on.Judge(up).kind, StrokeVerdict::Kind::WrongDirection);
+    EXPECT_EQ(on.FormIndex(), 0);
+}
+
+TEST(WritingQuiz, TheStandardOrderCanBeTakenBackAndARestartBeginsWithIt)
+{
+    WritingQuiz quiz;
+    quiz.SetOtherOrders(true);
+    quiz.Start(King(), Canvas);
+    quiz.StrokeKept(KingInk(1, 0));
+    quiz.StrokeKept(KingInk(1, 1)); // the other order taken
+    ASSERT_EQ(quiz.FormIndex(), 1);
+    quiz.StrokeUndone(); // the middle horizontal taken back
+    // Now the vertical second: right in the standard order only.
+    const StrokeVerdict vertical = quiz.Judge(KingInk(0, 1));
+    EXPECT_EQ(vertical.kind, StrokeVerdict::Kind::Accepted);
+    EXPECT_TRUE(vertical.otherOrder);
+    quiz.StrokeKept(KingInk(0, 1));
+    EXPECT_EQ(quiz.FormIndex(), 0);
+    quiz.StrokeKept(KingInk(1, 1));
+    quiz.Restart();
+    EXPECT_EQ(quiz.FormIndex(), 0);
+    EXPECT_EQ(quiz.Kept(), 0);
+}

@@ -1,14 +1,14 @@
-#include "Named.h"
 #include "KanjiInfoDialog.h"
-#include "LearnerEvent.h"
 #include "DisplayCanvas.h"
+#include "LearnerEvent.h"
+#include "Named.h"
 #include "RecordingPrompt.h"
 #include "TestSupport.h"
 
-#include <QLabel>
-#include <QPushButton>
 #include <QDate>
+#include <QLabel>
 #include <QLocale>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
@@ -27,6 +27,46 @@ private slots:
         m_db = m_small.Open();
     }
 
+    void otherStrokeOrdersAreShownStrokeByStrokeWhenAsked()
+    {
+        // 三-like: the top, the vertical, the bottom; the other order draws the vertical last.
+        SmallDatabase small;
+        const Form standard = SmallDatabase::Lines({{10, 30, 99, 30}, {54, 10, 54, 99}, {10, 80, 99, 80}});
+        const Form verticalLast = SmallDatabase::Lines({{10, 30, 99, 30}, {10, 80, 99, 80}, {54, 10, 54, 99}});
+        small.writer.AddCharacter(
+            small.writer.AddStrokeElement(std::vector<Form>{standard, verticalLast}), "", "", "with another order");
+        small.writer.AddCharacter(small.writer.AddStrokeElement(standard), "", "", "in one order");
+        small.writer.AddCategory("Test", {0, 1});
+        auto db = small.Open();
+        RecordingPrompt prompt;
+        for (bool on : {true, false}) {
+            KanjiInfoDialog info(*db, prompt);
+            info.SetOtherOrders(on);
+            QVERIFY(info.SetCode(0));
+            info.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&info));
+            auto* orders = info.findChild<QWidget*>(QStringLiteral("otherOrders"));
+            QCOMPARE(orders != nullptr, on);
+            if (!on)
+                continue;
+            QCOMPARE(
+                info.findChild<QLabel*>(QStringLiteral("otherOrderHeading1"))->text(), QStringLiteral("Other order"));
+            auto* strip = info.findChild<QLabel*>(QStringLiteral("otherOrder1"));
+            QVERIFY(strip && !strip->accessibleName().isEmpty());
+            // Three frames, the last drawing the vertical in the accent colour.
+            const QImage picture = strip->pixmap().toImage();
+            QVERIFY(picture.width() > 3 * picture.height());
+            const QImage last = picture.copy(picture.width() * 2 / 3, 0, picture.width() / 3, picture.height());
+            QVERIFY(CountNear(last, info.palette().color(QPalette::Highlight), 40) > 0);
+            QVERIFY(CountNear(picture.copy(0, 0, picture.width() / 3, picture.height()),
+                        info.palette().color(QPalette::Highlight), 40)
+                > 0); // the first frame: its one stroke, the newest
+            // A character in one order only shows none.
+            QVERIFY(info.SetCode(1));
+            QVERIFY(!info.findChild<QWidget*>(QStringLiteral("otherOrders")));
+        }
+    }
+
     void showsTheCharacterWithNotAvailableForAMissingReading()
     {
         KanjiInfoDialog dialog(*m_db, m_prompt);
@@ -38,7 +78,8 @@ private slots:
         QCOMPARE(Named<QLabel>(&dialog, "kunReading")->text(), QStringLiteral("N/A"));
         QCOMPARE(Named<QLabel>(&dialog, "meaning")->text(), QStringLiteral("ten"));
         QVERIFY(CountNot(Named<DisplayCanvas>(&dialog, "displayCanvas")->BackBuffer(), qRgb(255, 255, 255)) > 0);
-        QCOMPARE(Named<DisplayCanvas>(&dialog, "displayCanvas")->width(), Named<DisplayCanvas>(&dialog, "displayCanvas")->height());
+        QCOMPARE(Named<DisplayCanvas>(&dialog, "displayCanvas")->width(),
+            Named<DisplayCanvas>(&dialog, "displayCanvas")->height());
     }
 
     void theNextReviewIsToldOnlyWhenGiven()
@@ -59,7 +100,8 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(&later));
         QLabel* next = Named<QLabel>(&later, "nextReview");
         QVERIFY(next->isVisible());
-        QCOMPARE(next->text(), QStringLiteral("Next review: %1").arg(QLocale().toString(QDate(2026, 12, 3), QLocale::ShortFormat)));
+        QCOMPARE(next->text(),
+            QStringLiteral("Next review: %1").arg(QLocale().toString(QDate(2026, 12, 3), QLocale::ShortFormat)));
         QCOMPARE(next->accessibleName(), next->text());
         QVERIFY(later.height() >= without.height());
 
@@ -91,7 +133,8 @@ private slots:
             dialog.SetCode(0);
             bool animatingWhenEnded = true;
             QTimer::singleShot(0, &dialog, [&] {
-                QTest::mouseClick(Named<DisplayCanvas>(&dialog, "displayCanvas"), Qt::LeftButton, Qt::NoModifier, Named<DisplayCanvas>(&dialog, "displayCanvas")->rect().center());
+                QTest::mouseClick(Named<DisplayCanvas>(&dialog, "displayCanvas"), Qt::LeftButton, Qt::NoModifier,
+                    Named<DisplayCanvas>(&dialog, "displayCanvas")->rect().center());
                 QVERIFY(Named<DisplayCanvas>(&dialog, "displayCanvas")->IsAnimating());
                 if (escape)
                     QTest::keyClick(&dialog, Qt::Key_Escape);

@@ -1,9 +1,9 @@
-#include "Named.h"
-#include "CoachingPreferences.h"
-#include "FeedbackLine.h"
 #include "LessonPage.h"
+#include "CoachingPreferences.h"
 #include "DisplayCanvas.h"
+#include "FeedbackLine.h"
 #include "InputCanvas.h"
+#include "Named.h"
 #include "RecordingPrompt.h"
 #include "TestSupport.h"
 
@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <random>
 
 using namespace testsupport;
 
@@ -42,8 +44,10 @@ private slots:
 
     void canvasesAreSquareWithTheirCursors()
     {
-        QCOMPARE(Named<InputCanvas>(m_page, "inputCanvas")->width(), Named<InputCanvas>(m_page, "inputCanvas")->height());
-        QCOMPARE(Named<DisplayCanvas>(m_page, "displayCanvas")->width(), Named<DisplayCanvas>(m_page, "displayCanvas")->height());
+        QCOMPARE(
+            Named<InputCanvas>(m_page, "inputCanvas")->width(), Named<InputCanvas>(m_page, "inputCanvas")->height());
+        QCOMPARE(Named<DisplayCanvas>(m_page, "displayCanvas")->width(),
+            Named<DisplayCanvas>(m_page, "displayCanvas")->height());
         QVERIFY(Named<InputCanvas>(m_page, "inputCanvas")->cursor().shape() == Qt::BitmapCursor);
         QCOMPARE(Named<DisplayCanvas>(m_page, "displayCanvas")->cursor().shape(), Qt::PointingHandCursor);
     }
@@ -101,19 +105,22 @@ private slots:
         const QImage blank = Named<InputCanvas>(m_page, "inputCanvas")->BackBuffer();
         QSignalSpy kept(Named<InputCanvas>(m_page, "inputCanvas"), &InputCanvas::strokeKept);
         // The vertical stroke first: wrong order.
-        DrawInk(Named<InputCanvas>(m_page, "inputCanvas"), StrokeAsMouse(*m_page->Glyph(), 1, Named<InputCanvas>(m_page, "inputCanvas")->ClientRect().width()));
+        DrawInk(Named<InputCanvas>(m_page, "inputCanvas"),
+            StrokeAsMouse(*m_page->Glyph(), 1, Named<InputCanvas>(m_page, "inputCanvas")->ClientRect().width()));
         QCOMPARE(Named<InputCanvas>(m_page, "inputCanvas")->StrokeCount(), 0);
         QCOMPARE(kept.count(), 0);
         QVERIFY(!Named<QPushButton>(m_page, "clearButton")->isEnabled());
         QVERIFY(!Named<QPushButton>(m_page, "undoButton")->isEnabled());
         QCOMPARE(Named<InputCanvas>(m_page, "inputCanvas")->BackBuffer(), blank);
         // Backwards is wrong too.
-        auto backwards = StrokeAsMouse(*m_page->Glyph(), 0, Named<InputCanvas>(m_page, "inputCanvas")->ClientRect().width());
+        auto backwards
+            = StrokeAsMouse(*m_page->Glyph(), 0, Named<InputCanvas>(m_page, "inputCanvas")->ClientRect().width());
         std::reverse(backwards.begin(), backwards.end());
         DrawInk(Named<InputCanvas>(m_page, "inputCanvas"), backwards);
         QCOMPARE(Named<InputCanvas>(m_page, "inputCanvas")->StrokeCount(), 0);
         // The right stroke counts.
-        DrawInk(Named<InputCanvas>(m_page, "inputCanvas"), StrokeAsMouse(*m_page->Glyph(), 0, Named<InputCanvas>(m_page, "inputCanvas")->ClientRect().width()));
+        DrawInk(Named<InputCanvas>(m_page, "inputCanvas"),
+            StrokeAsMouse(*m_page->Glyph(), 0, Named<InputCanvas>(m_page, "inputCanvas")->ClientRect().width()));
         QCOMPARE(Named<InputCanvas>(m_page, "inputCanvas")->StrokeCount(), 1);
         QVERIFY(Named<QPushButton>(m_page, "clearButton")->isEnabled());
         QVERIFY(Named<QPushButton>(m_page, "undoButton")->isEnabled());
@@ -131,7 +138,8 @@ private slots:
         QVERIFY(Named<QPushButton>(m_page, "hintButton")->isEnabled());
         // The marker sat at the first stroke's start, which the stroke now covers in black;
         // no marker-coloured pixel is left anywhere.
-        const QRgb marker = withHint.pixel(static_cast<int>(10 * Named<InputCanvas>(m_page, "inputCanvas")->ClientRect().width() / 109.0f),
+        const QRgb marker = withHint.pixel(
+            static_cast<int>(10 * Named<InputCanvas>(m_page, "inputCanvas")->ClientRect().width() / 109.0f),
             static_cast<int>(30 * Named<InputCanvas>(m_page, "inputCanvas")->ClientRect().width() / 109.0f));
         const QImage after = Named<InputCanvas>(m_page, "inputCanvas")->BackBuffer();
         int markerPixels = 0;
@@ -186,7 +194,8 @@ private slots:
     {
         m_page->StartLesson({1});
         QVERIFY(CountNot(Named<DisplayCanvas>(m_page, "displayCanvas")->BackBuffer(), qRgb(255, 255, 255)) > 0);
-        QTest::mouseClick(Named<DisplayCanvas>(m_page, "displayCanvas"), Qt::LeftButton, Qt::NoModifier, Named<DisplayCanvas>(m_page, "displayCanvas")->rect().center());
+        QTest::mouseClick(Named<DisplayCanvas>(m_page, "displayCanvas"), Qt::LeftButton, Qt::NoModifier,
+            Named<DisplayCanvas>(m_page, "displayCanvas")->rect().center());
         QVERIFY(Named<DisplayCanvas>(m_page, "displayCanvas")->IsAnimating());
         m_page->hide();
         QVERIFY(!Named<DisplayCanvas>(m_page, "displayCanvas")->IsAnimating());
@@ -226,7 +235,8 @@ private slots:
                 QCOMPARE(Named<InputCanvas>(&page, "inputCanvas")->StrokeCount(), int(k) + 1);
             }
             QVERIFY(!Named<QPushButton>(&page, "nextButton")->isEnabled());
-            for (QCheckBox* box : {Named<QCheckBox>(&page, "onReading"), Named<QCheckBox>(&page, "kunReading"), Named<QCheckBox>(&page, "meaning")})
+            for (QCheckBox* box : {Named<QCheckBox>(&page, "onReading"), Named<QCheckBox>(&page, "kunReading"),
+                     Named<QCheckBox>(&page, "meaning")})
                 Tick(box);
             QVERIFY(Named<QPushButton>(&page, "nextButton")->isEnabled());
             QTest::mouseClick(Named<QPushButton>(&page, "nextButton"), Qt::LeftButton);
@@ -259,10 +269,13 @@ private slots:
                 int refusals = 0;
                 for (std::uint16_t k = 0; k < glyph.StrokeCount(); ++k) {
                     const int before = input->StrokeCount();
-                    DrawInk(input, Beside(StrokeAsMouse(glyph, k, input->ClientRect().width()), input, hand.right, hand.scale));
+                    DrawInk(input,
+                        Beside(StrokeAsMouse(glyph, k, input->ClientRect().width()), input, hand.right, hand.scale));
                     if (input->StrokeCount() == before) {
                         ++refusals;
-                        QVERIFY(Named<FeedbackLine>(&page, "strokeFeedback")->text().startsWith(QStringLiteral("Wrong place")));
+                        QVERIFY(Named<FeedbackLine>(&page, "strokeFeedback")
+                                    ->text()
+                                    .startsWith(QStringLiteral("Wrong place")));
                         DrawInk(input, StrokeAsMouse(glyph, k, input->ClientRect().width())); // at the model's place
                     }
                     QCOMPARE(input->StrokeCount(), before + 1);
@@ -272,6 +285,85 @@ private slots:
                 else if (hand.right == 20)
                     QVERIFY(refusals > 0);
             }
+        }
+    }
+
+    void anotherStrokeOrderIsAcceptedAndSaidOnce()
+    {
+        // 王 in the order KanjiVG records as VtLst: the three horizontals, then the vertical.
+        const std::uint16_t code = CodeMeaning("king");
+        for (bool orders : {true, false}) {
+            LessonPage page(*m_standard, m_prompt);
+            CoachingPreferences aids;
+            aids.otherOrders = orders;
+            page.SetCoaching(aids);
+            page.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&page));
+            page.StartLesson({code});
+            InputCanvas* input = Named<InputCanvas>(&page, "inputCanvas");
+            auto* line = Named<FeedbackLine>(&page, "strokeFeedback");
+            const auto element = m_standard->LoadElement(m_standard->LoadCharacter(code)->ElementId());
+            QCOMPARE(element->FormCount(), 2);
+            const Form& verticalLast = element->GetForm(1);
+            const int side = input->ClientRect().width();
+            DrawInk(input, StrokeAsMouse(verticalLast, 0, side));
+            QCOMPARE(input->StrokeCount(), 1);
+            DrawInk(input, StrokeAsMouse(verticalLast, 1, side)); // the middle horizontal, second
+            if (!orders) {
+                // As always: refused, the middle horizontal being the standard order's third.
+                QCOMPARE(input->StrokeCount(), 1);
+                QCOMPARE(line->text(), QStringLiteral("Wrong order: that is stroke 3. Write stroke 2 first."));
+                continue;
+            }
+            QCOMPARE(input->StrokeCount(), 2);
+            QCOMPARE(line->text(), QStringLiteral("Also correct: the order taught in other schools."));
+            // The hint now shows where the vertical of this order starts: its last stroke.
+            QCOMPARE(page.Glyph()->GetStroke(3).Start(), verticalLast.GetStroke(3).Start());
+            DrawInk(input, StrokeAsMouse(verticalLast, 2, side));
+            QCOMPARE(input->StrokeCount(), 3);
+            QVERIFY(line->text().isEmpty()); // said once
+            DrawInk(input, StrokeAsMouse(verticalLast, 3, side));
+            QCOMPARE(input->StrokeCount(), 4);
+        }
+    }
+
+    void steadyInkAcceptsAShakingHand()
+    {
+        // 田 written along its strokes by a hand that shakes by σ 2.5 px at every point.
+        const std::uint16_t code = CodeMeaning("rice field");
+        for (bool steady : {true, false}) {
+            LessonPage page(*m_standard, m_prompt);
+            CoachingPreferences aids;
+            aids.steadyInk = steady;
+            page.SetCoaching(aids);
+            page.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&page));
+            page.StartLesson({code});
+            InputCanvas* input = Named<InputCanvas>(&page, "inputCanvas");
+            const Form glyph = *page.Glyph();
+            std::mt19937 random(11);
+            std::normal_distribution<float> shake(0.0f, 2.5f);
+            int refusals = 0;
+            for (std::uint16_t k = 0; k < glyph.StrokeCount(); ++k) {
+                const int before = input->StrokeCount();
+                StrokePath path(FlattenStroke(glyph.GetStroke(k)));
+                const int side = input->ClientRect().width();
+                path.ScaleAndOffset(float(side) / glyph.Width(), float(side) / glyph.Height(), 0, 0);
+                path.ResampleInPlace(std::max<std::uint32_t>(2, std::uint32_t(std::lround(path.Length() / 2)) + 1));
+                std::vector<Point> shaking;
+                for (const Point& p : path.Points())
+                    shaking.push_back({p.x + shake(random), p.y + shake(random)});
+                DrawInk(input, shaking);
+                if (input->StrokeCount() == before) {
+                    ++refusals;
+                    DrawInk(input, StrokeAsMouse(glyph, k, side)); // steadily, to go on
+                }
+                QCOMPARE(input->StrokeCount(), before + 1);
+            }
+            if (steady)
+                QCOMPARE(refusals, 0);
+            else
+                QVERIFY(refusals > 0);
         }
     }
 
@@ -295,7 +387,8 @@ private slots:
             p.y -= 60;
         DrawInk(input, high);
         QCOMPARE(input->StrokeCount(), 3);
-        QCOMPARE(Named<FeedbackLine>(&page, "strokeFeedback")->text(), QStringLiteral("Wrong place: this stroke belongs further down."));
+        QCOMPARE(Named<FeedbackLine>(&page, "strokeFeedback")->text(),
+            QStringLiteral("Wrong place: this stroke belongs further down."));
         // The arrow's head is at the learner's place of the stroke (the centre of its box), not
         // at the model's, 20 px away.
         auto centre = [](const std::vector<Point>& points) {
@@ -310,12 +403,16 @@ private slots:
         };
         const QPoint learnerPlace = centre(placed) + input->contentsRect().topLeft();
         const QPoint modelPlace = centre(StrokeAsMouse(glyph, 3, side)) + input->contentsRect().topLeft();
-        QVERIFY2((learnerPlace - modelPlace).manhattanLength() >= 18, qPrintable(QStringLiteral("%1,%2 %3,%4").arg(learnerPlace.x()).arg(learnerPlace.y()).arg(modelPlace.x()).arg(modelPlace.y())));
+        QVERIFY2((learnerPlace - modelPlace).manhattanLength() >= 18,
+            qPrintable(QStringLiteral("%1,%2 %3,%4")
+                           .arg(learnerPlace.x())
+                           .arg(learnerPlace.y())
+                           .arg(modelPlace.x())
+                           .arg(modelPlace.y())));
         const QImage shown = input->grab().toImage();
         const QColor mark = input->palette().color(QPalette::Highlight);
-        auto markedNear = [&](QPoint at) {
-            return CountNear(shown.copy(QRect(at - QPoint(6, 6), QSize(13, 13))), mark, 30);
-        };
+        auto markedNear
+            = [&](QPoint at) { return CountNear(shown.copy(QRect(at - QPoint(6, 6), QSize(13, 13))), mark, 30); };
         QVERIFY(markedNear(learnerPlace) > 5);
         QCOMPARE(markedNear(modelPlace), 0);
     }
@@ -352,7 +449,8 @@ private:
     }
     void DrawGlyphStroke(std::uint16_t k)
     {
-        DrawInk(Named<InputCanvas>(m_page, "inputCanvas"), StrokeAsMouse(*m_page->Glyph(), k, Named<InputCanvas>(m_page, "inputCanvas")->ClientRect().width()));
+        DrawInk(Named<InputCanvas>(m_page, "inputCanvas"),
+            StrokeAsMouse(*m_page->Glyph(), k, Named<InputCanvas>(m_page, "inputCanvas")->ClientRect().width()));
     }
     void DrawGlyph()
     {
@@ -363,7 +461,8 @@ private:
     }
     void TickAll()
     {
-        for (QCheckBox* box : {Named<QCheckBox>(m_page, "onReading"), Named<QCheckBox>(m_page, "kunReading"), Named<QCheckBox>(m_page, "meaning")})
+        for (QCheckBox* box : {Named<QCheckBox>(m_page, "onReading"), Named<QCheckBox>(m_page, "kunReading"),
+                 Named<QCheckBox>(m_page, "meaning")})
             if (!box->isChecked())
                 Tick(box);
     }

@@ -10,7 +10,6 @@
 // back from the display (what a real X server shows, not the page painted again);
 // render_x11.sh takes them from Xvfb at ratios 1.5 and 2.
 
-#include "Named.h"
 #include "AboutDialog.h"
 #include "CategoryPage.h"
 #include "DrawingTestPage.h"
@@ -22,6 +21,7 @@
 #include "LessonPage.h"
 #include "LexiconAccess.h"
 #include "MessageBoxPrompt.h"
+#include "Named.h"
 #include "PreferencesDialog.h"
 #include "ProgressWindow.h"
 #include "ReadingTestPage.h"
@@ -36,6 +36,7 @@
 #include <QDir>
 #include <QMouseEvent>
 #include <QPalette>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
 #include <QStyleFactory>
@@ -110,6 +111,19 @@ void Write(InputCanvas* canvas, const Form& glyph, std::uint16_t stroke, float s
     QTest::mouseRelease(canvas, Qt::LeftButton, Qt::NoModifier, at(points.back()));
 }
 
+/// The first character of the database whose meaning begins with `meaning`.
+std::uint16_t FindByMeaning(CharacterDatabase& db, const char* meaning)
+{
+    for (std::uint16_t id = 0; id < db.CharacterCount(); ++id) {
+        if (!db.CharacterExists(id))
+            continue;
+        const auto character = db.LoadCharacter(id);
+        if (character->Meaning() && std::string(character->Meaning()).rfind(meaning, 0) == 0)
+            return id;
+    }
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -170,6 +184,23 @@ int main(int argc, char** argv)
     Write(Named<InputCanvas>(&lesson, "inputCanvas"), *lesson.Glyph(), 1, 45);
     ok &= Save(lesson, out, QStringLiteral("lesson-refused"));
 
+    // 王 in the order with the vertical last: the top and the middle horizontal written, the other
+    // order taken and said, the hint showing where the third stroke of that order starts.
+    {
+        LessonPage king(db, prompt);
+        const std::uint16_t kingId = FindByMeaning(db, "king");
+        const auto element = db.LoadElement(db.LoadCharacter(kingId)->ElementId());
+        if (element->FormCount() > 1) {
+            king.StartLesson({kingId});
+            king.show();
+            ok &= QTest::qWaitForWindowExposed(&king);
+            Write(Named<InputCanvas>(&king, "inputCanvas"), element->GetForm(1), 0, 0);
+            Write(Named<InputCanvas>(&king, "inputCanvas"), element->GetForm(1), 1, 0);
+            QTest::mouseClick(Named<QPushButton>(&king, "hintButton"), Qt::LeftButton);
+            ok &= Save(king, out, QStringLiteral("lesson-other-order"));
+        }
+    }
+
     // The texts that test the pages' room: the longest KUN reading (the right answer is among the
     // choices, so one choice is long too) and the longest meaning.
     std::uint16_t longestKun = 0, longestMeaning = 0;
@@ -205,6 +236,12 @@ int main(int argc, char** argv)
         wordsInfo.SetWords(WordContext{&words, LearnedBy(learner)});
         wordsInfo.SetCode(lexicon->CharacterOf(U'学'));
         ok &= Save(wordsInfo, out, QStringLiteral("kanji-info-words"));
+        // 王 with its other stroke order (the vertical last), words and parts too.
+        KanjiInfoDialog ordersInfo(db, prompt);
+        ordersInfo.SetWords(WordContext{&words, LearnedBy(learner)});
+        ordersInfo.SetOtherOrders(true);
+        ordersInfo.SetCode(lexicon->CharacterOf(U'王'));
+        ok &= Save(ordersInfo, out, QStringLiteral("kanji-info-orders"));
 
         TestContainer wordTest(db, prompt, seeds);
         wordTest.ReadingPage()->SetWordAid(&words);
@@ -216,7 +253,8 @@ int main(int argc, char** argv)
                 QTest::mouseClick(reading->OnButton(static_cast<int>(i)), Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
         for (std::size_t i = 0; i < reading->Choices().kun.size(); ++i)
             if (reading->Choices().kun[i] == asked->KunReading())
-                QTest::mouseClick(reading->KunButton(static_cast<int>(i)), Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
+                QTest::mouseClick(
+                    reading->KunButton(static_cast<int>(i)), Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
         ok &= Save(wordTest, out, QStringLiteral("reading-test-word"));
     } else {
         std::fprintf(stderr, "render_pages: no lexicon at %s, pages with words left out\n", lexiconPath.c_str());
@@ -240,8 +278,8 @@ int main(int argc, char** argv)
     for (int day = today - 365, n = 0; day <= today; day += 2, ++n) {
         const std::uint16_t id = grade1[static_cast<std::size_t>(n) % grade1.size()];
         learner.AddEvent({DayText(day) + "T18:00:00+01:00", LearnerEvent::Lesson, 0, id, -1});
-        learner.AddEvent({DayText(day) + "T18:30:00+01:00", n % 5 == 0 ? LearnerEvent::Failed : LearnerEvent::Passed,
-            0, id, n % 3});
+        learner.AddEvent(
+            {DayText(day) + "T18:30:00+01:00", n % 5 == 0 ? LearnerEvent::Failed : LearnerEvent::Passed, 0, id, n % 3});
         if (n % 5 != 0 && !learner.GetProgress(0).IsLearned(id))
             learner.GetProgress(0).AddLearned(id);
     }

@@ -1,6 +1,7 @@
 #include "DatabaseBuilder.h"
 #include "DatabaseInspector.h"
 #include "FileCharacterDatabase.h"
+#include "FormFormat.h"
 #include "InkFile.h"
 #include "KanjiDic.h"
 
@@ -247,4 +248,46 @@ TEST(DatabaseBuilder, ACharacterKeepsItsIdWhenANewerDictionaryMovesOrDropsOthers
     EXPECT_EQ(goneReport.built.size(), 4u);
     EXPECT_EQ(goneReport.built[2].codePoint, 0u);
     EXPECT_TRUE(ValidateDatabase(*third).empty());
+}
+
+TEST(DatabaseBuilder, OtherStrokeOrdersBecomeFurtherFormsAfterTheStandardOne)
+{
+    EXPECT_TRUE(IsStrokeOrderSuffix("VtLst"));
+    EXPECT_TRUE(IsStrokeOrderSuffix("HzFstRiLe"));
+    for (const char* style : {"Kaisho", "KaishoVtLst", "Hyougai", "Jinmei", "Insatsu", "", "Vt-3"})
+        EXPECT_FALSE(IsStrokeOrderSuffix(style)) << style;
+
+    BuildReport plainReport;
+    const auto plain = BuildDatabase(SampleOptions(), plainReport);
+    BuildOptions options = SampleOptions();
+    options.ordersDir = Data + "/kanjivg-orders";
+    BuildReport report;
+    auto db = BuildSample(options, report, "orders");
+    // 水 (id 1) has its other order; 一's drawing of two strokes is another shape, and the
+    // Kaisho drawings are other styles: left out.
+    EXPECT_EQ(report.withOtherOrders, 1u);
+    EXPECT_EQ(report.otherOrders, 1u);
+    EXPECT_EQ(report.ordersLeftOut, std::vector<std::string>{"04e00-HzFst.svg"});
+    auto water = db->LoadElement(db->LoadCharacter(1)->ElementId());
+    ASSERT_EQ(water->FormCount(), 2);
+    const Form& other = water->GetForm(1);
+    EXPECT_EQ(other.Width(), 109);
+    ASSERT_EQ(other.StrokeCount(), 4);
+    // In the order its ids number the strokes, not the document's: the vertical last.
+    EXPECT_EQ(other.GetStroke(0).Start(), (Point{20, 40}));
+    EXPECT_EQ(other.GetStroke(3).Start(), (Point{54, 14}));
+    // Form 0 and everything else as without the other orders.
+    BuildReport again;
+    auto without = BuildSample(SampleOptions(), again, "orders-without");
+    for (std::uint16_t id = 0; id < without->CharacterCount(); ++id) {
+        const auto a = without->LoadElement(without->LoadCharacter(id)->ElementId());
+        const auto b = db->LoadElement(db->LoadCharacter(id)->ElementId());
+        std::vector<std::uint8_t> bytesA, bytesB;
+        EncodeStrokeForm(a->GetForm(0), bytesA);
+        EncodeStrokeForm(b->GetForm(0), bytesB);
+        EXPECT_EQ(bytesA, bytesB) << id;
+    }
+    EXPECT_EQ(BuildDatabase(options, again), BuildDatabase(options, report)); // the same bytes again
+    EXPECT_NE(BuildDatabase(options, again), plain);
+    EXPECT_TRUE(ValidateDatabase(*db).empty());
 }

@@ -3,13 +3,16 @@
 #include "DatabaseBuilder.h"
 #include "DatabaseInspector.h"
 #include "FileCharacterDatabase.h"
+#include "FormFormat.h"
 #include "KanjiDic.h"
 
 #include <gtest/gtest.h>
 
 #include <cstring>
 #include <filesystem>
+#include <fstream>
 #include <map>
+#include <unistd.h>
 
 namespace {
 
@@ -142,4 +145,45 @@ TEST(RealDatabase, EveryIdIsTheCharacterTheIdTableKeepsForIt)
         ++checked;
     }
     EXPECT_EQ(checked, 2898u);
+}
+
+TEST(RealDatabase, TheStandardOrderOfEveryCharacterIsWhatItWasBeforeTheOtherOrders)
+{
+    // The database built as it was before the other stroke orders were added, in memory: each
+    // character's form 0 is the same bytes, and its other orders come after it.
+    BuildOptions options;
+    options.kanjivgDir = ZAVOREN_KANJIVG_DIR;
+    options.kanjidicPath = ZAVOREN_KANJIDIC;
+    options.ids = ReadCharacterIds(ZAVOREN_IDS_STANDARD);
+    BuildReport report;
+    const std::vector<std::uint8_t> bytes = BuildDatabase(options, report);
+    const std::string path
+        = (std::filesystem::temp_directory_path() / ("zavoren-before-orders-" + std::to_string(::getpid()))).string();
+    std::ofstream(path, std::ios::binary)
+        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    FileCharacterDatabase before(path);
+    std::filesystem::remove(path);
+    FileCharacterDatabase& now = Standard();
+    ASSERT_EQ(before.CharacterCount(), now.CharacterCount());
+    std::size_t withOthers = 0;
+    for (std::uint16_t id = 0; id < now.CharacterCount(); ++id) {
+        if (!now.CharacterExists(id))
+            continue;
+        const auto a = before.LoadCharacter(id);
+        const auto b = now.LoadCharacter(id);
+        EXPECT_STREQ(a->Meaning(), b->Meaning());
+        const auto formsBefore = before.LoadElement(a->ElementId());
+        const auto formsNow = now.LoadElement(b->ElementId());
+        ASSERT_EQ(formsBefore->FormCount(), 1);
+        std::vector<std::uint8_t> x, y;
+        EncodeStrokeForm(formsBefore->GetForm(0), x);
+        EncodeStrokeForm(formsNow->GetForm(0), y);
+        EXPECT_EQ(x, y) << id;
+        for (std::uint8_t f = 1; f < formsNow->FormCount(); ++f)
+            EXPECT_EQ(formsNow->GetForm(f).StrokeCount(), formsNow->GetForm(0).StrokeCount()) << id;
+        withOthers += formsNow->FormCount() > 1;
+    }
+    EXPECT_EQ(withOthers, 191u);
+    for (std::uint16_t c = 0; c < now.CategoryCount(); ++c)
+        EXPECT_EQ(before.LoadCategory(c)->Characters(), now.LoadCategory(c)->Characters());
 }

@@ -133,7 +133,9 @@ TEST(ZavorenDb, BuildWithEdictWritesTheLexiconBesideAndWordsPrintsIt)
         "一水\tいっすい\ta narrow stream\n"
         "水一\tみずいち\t(in) water one (a word made for the tests)\n");
     // 一 has words but no parts: an empty parts line, so that the format never changes.
-    EXPECT_EQ(RunTool("words --db " + database + " --lexicon " + lexicon + " --char 0").output.rfind("parts\t\n一\tいち\tone; best\n", 0), 0u);
+    EXPECT_EQ(RunTool("words --db " + database + " --lexicon " + lexicon + " --char 0")
+                  .output.rfind("parts\t\n一\tいち\tone; best\n", 0),
+        0u);
 
     // What can go wrong: a character that is not there, a damaged or foreign lexicon, a missing
     // option, the lexicon's options without --edict, a dictionary that is not there.
@@ -151,7 +153,8 @@ TEST(ZavorenDb, BuildWithEdictWritesTheLexiconBesideAndWordsPrintsIt)
     const Result absent = RunTool("words --db " + database + " --lexicon " + (dir / "none").string() + " --char 1");
     EXPECT_NE(absent.exitCode, 0);
     EXPECT_NE(absent.output.find("Unable to open lexicon"), std::string::npos) << absent.output;
-    ASSERT_EQ(RunTool(sources + " --edict " + data + "/edict-sample --kanjivg-parts " + data + "/kanjivg-parts").exitCode, 0);
+    ASSERT_EQ(
+        RunTool(sources + " --edict " + data + "/edict-sample --kanjivg-parts " + data + "/kanjivg-parts").exitCode, 0);
     const Result other = RunTool("words --db " + Standard + " --lexicon " + lexicon + " --char 1");
     EXPECT_NE(other.exitCode, 0);
     EXPECT_NE(other.output.find("The lexicon was made for another database"), std::string::npos) << other.output;
@@ -235,11 +238,65 @@ TEST(ZavorenDb, WriteJudgesStrokesOneAfterAnotherAsALessonDoes)
     EXPECT_EQ(r.exitCode, 0);
     EXPECT_EQ(r.output, "accepted\naccepted\naccepted\naccepted\naccepted\naccepted\naccepted\naccepted\n");
     // A file that is not an array of strokes is refused with where it went wrong.
-    r = RunTool("write --db " + Standard + " --char 80 --canvas 0,0,298,298 --ink " + std::string(ZAVOREN_TOOLS_TEST_DATA)
-        + "/kanjidic2-sample.xml");
+    r = RunTool("write --db " + Standard + " --char 80 --canvas 0,0,298,298 --ink "
+        + std::string(ZAVOREN_TOOLS_TEST_DATA) + "/kanjidic2-sample.xml");
     EXPECT_NE(r.exitCode, 0);
     EXPECT_NE(r.output.find("not a JSON array of strokes"), std::string::npos) << r.output;
     r = RunTool("write --db " + Standard + " --char 80 --canvas 0,0,298,298 --ink " + ink + " --frame");
     EXPECT_NE(r.exitCode, 0);
     EXPECT_NE(r.output.find("write: unknown option --frame"), std::string::npos) << r.output;
+}
+
+namespace {
+
+/// The strokes of form `form` of character `id` of the standard database, flattened onto a
+/// 298 px canvas, as an ink file of the test's own.
+std::string InkOfForm(std::uint16_t id, std::uint8_t form, const std::string& name)
+{
+    FileCharacterDatabase database(Standard);
+    const auto element = database.LoadElement(database.LoadCharacter(id)->ElementId());
+    const Form& glyph = element->GetForm(form);
+    std::string json = "[";
+    for (std::uint16_t k = 0; k < glyph.StrokeCount(); ++k) {
+        json += k ? ",[" : "[";
+        const std::vector<Point> points = FlattenStroke(glyph.GetStroke(k));
+        for (std::size_t i = 0; i < points.size(); ++i) {
+            char pair[64];
+            std::snprintf(pair, sizeof pair, "%s[%.2f,%.2f]", i ? "," : "", points[i].x * 298 / glyph.Width(),
+                points[i].y * 298 / glyph.Height());
+            json += pair;
+        }
+        json += "]";
+    }
+    json += "]";
+    const std::string path = (std::filesystem::temp_directory_path() / name).string();
+    std::ofstream(path) << json;
+    return path;
+}
+
+} // namespace
+
+TEST(ZavorenDb, WriteAcceptsAnotherStrokeOrderWithVariants)
+{
+    // 王 (id 70) in the order KanjiVG records as 0738b-VtLst: its vertical stroke last.
+    const std::string ink = InkOfForm(70, 1, "zavoren-king-vertical-last.json");
+    const std::string args = "write --db " + Standard + " --char 70 --canvas 0,0,298,298 --ink " + ink;
+    // Today the middle horizontal, drawn second, is the standard order's third stroke.
+    Result r = RunTool(args);
+    EXPECT_EQ(r.exitCode, 0);
+    EXPECT_EQ(r.output.substr(0, r.output.find('\n', r.output.find('\n') + 1) + 1),
+        "accepted\nWrong order: that is stroke 3. Write stroke 2 first.\n");
+    r = RunTool(args + " --variants");
+    EXPECT_EQ(r.exitCode, 0);
+    EXPECT_EQ(r.output, "accepted\naccepted in another stroke order\naccepted\naccepted\n");
+    // Steadied, exact ink is judged as it is.
+    r = RunTool(args + " --variants --steady");
+    EXPECT_EQ(r.output, "accepted\naccepted in another stroke order\naccepted\naccepted\n");
+    // The standard order is judged alike with the other orders or without.
+    const std::string standard = InkOfForm(70, 0, "zavoren-king.json");
+    const std::string plain = "write --db " + Standard + " --char 70 --canvas 0,0,298,298 --ink " + standard;
+    EXPECT_EQ(RunTool(plain).output, "accepted\naccepted\naccepted\naccepted\n");
+    EXPECT_EQ(RunTool(plain + " --variants").output, RunTool(plain).output);
+    std::filesystem::remove(ink);
+    std::filesystem::remove(standard);
 }
