@@ -257,13 +257,11 @@ private slots:
         } hands[] = {{12, 0.92f}, {20, 0.86f}};
         for (const auto& hand : hands) {
             for (bool own : {true, false}) {
-                LessonPage page(*m_standard, m_prompt);
                 CoachingPreferences aids;
                 aids.ownFrame = own;
-                page.SetCoaching(aids);
-                page.show();
-                QVERIFY(QTest::qWaitForWindowExposed(&page));
-                page.StartLesson({code});
+                const auto lesson = LessonWith(aids, code);
+                QVERIFY(lesson);
+                LessonPage& page = *lesson;
                 InputCanvas* input = Named<InputCanvas>(&page, "inputCanvas");
                 const Form& glyph = *page.Glyph();
                 int refusals = 0;
@@ -293,13 +291,11 @@ private slots:
         // 王 in the order KanjiVG records as VtLst: the three horizontals, then the vertical.
         const std::uint16_t code = CodeMeaning("king");
         for (bool orders : {true, false}) {
-            LessonPage page(*m_standard, m_prompt);
             CoachingPreferences aids;
             aids.otherOrders = orders;
-            page.SetCoaching(aids);
-            page.show();
-            QVERIFY(QTest::qWaitForWindowExposed(&page));
-            page.StartLesson({code});
+            const auto lesson = LessonWith(aids, code);
+            QVERIFY(lesson);
+            LessonPage& page = *lesson;
             InputCanvas* input = Named<InputCanvas>(&page, "inputCanvas");
             auto* line = Named<FeedbackLine>(&page, "strokeFeedback");
             const auto element = m_standard->LoadElement(m_standard->LoadCharacter(code)->ElementId());
@@ -332,13 +328,11 @@ private slots:
         // 田 written along its strokes by a hand that shakes by σ 2.5 px at every point.
         const std::uint16_t code = CodeMeaning("rice field");
         for (bool steady : {true, false}) {
-            LessonPage page(*m_standard, m_prompt);
             CoachingPreferences aids;
             aids.steadyInk = steady;
-            page.SetCoaching(aids);
-            page.show();
-            QVERIFY(QTest::qWaitForWindowExposed(&page));
-            page.StartLesson({code});
+            const auto lesson = LessonWith(aids, code);
+            QVERIFY(lesson);
+            LessonPage& page = *lesson;
             InputCanvas* input = Named<InputCanvas>(&page, "inputCanvas");
             const Form glyph = *page.Glyph();
             std::mt19937 random(11);
@@ -419,6 +413,18 @@ private slots:
 
 private:
     /// A character of the standard database (Grade 1 or 2) by the start of its meaning.
+    /// A lesson page on the standard database with these aids, shown, teaching `code`.
+    std::unique_ptr<LessonPage> LessonWith(const CoachingPreferences& aids, std::uint16_t code)
+    {
+        auto page = std::make_unique<LessonPage>(*m_standard, m_prompt);
+        page->SetCoaching(aids);
+        page->show();
+        if (!QTest::qWaitForWindowExposed(page.get()))
+            return nullptr;
+        page->StartLesson({code});
+        return page;
+    }
+
     std::uint16_t CodeMeaning(const char* start) const
     {
         for (std::uint16_t grade : {0, 1}) {
