@@ -151,6 +151,8 @@ void FilterEnlargedGlyph(const QImage& big, QImage& image, const QRect& target, 
     static const RowWeights weights;
     const int inkR = qRed(ink), inkG = qGreen(ink), inkB = qBlue(ink);
     const QRgb opaqueInk = qRgb(inkR, inkG, inkB);
+    const bool translucent = image.hasAlphaChannel();
+    const bool premultiplied = image.format() == QImage::Format_ARGB32_Premultiplied;
     const int firstY = std::max(0, -target.top());
     const int lastY = std::min(h, image.height() - target.top());
     const int firstX = std::max(0, -target.left());
@@ -175,8 +177,24 @@ void FilterEnlargedGlyph(const QImage& big, QImage& image, const QRect& target, 
                 continue;
             }
             const QRgb background = out[x];
-            out[x] = qRgba(Blend(qRed(background), inkR, coverage), Blend(qGreen(background), inkG, coverage),
-                Blend(qBlue(background), inkB, coverage), qAlpha(background));
+            const int alpha = qAlpha(background);
+            if (alpha == 255 || !translucent) {
+                out[x] = qRgba(Blend(qRed(background), inkR, coverage), Blend(qGreen(background), inkG, coverage),
+                    Blend(qBlue(background), inkB, coverage), alpha);
+            } else if (premultiplied) {
+                // Ink over what is there, in premultiplied terms: a glyph drawn on a transparent
+                // image keeps its partly covered pixels (and small glyphs stay whole).
+                out[x] = qRgba(Blend(qRed(background), inkR, coverage), Blend(qGreen(background), inkG, coverage),
+                    Blend(qBlue(background), inkB, coverage), Blend(alpha, 255, coverage));
+            } else {
+                const float a = coverage + alpha / 255.0f * (1.0f - coverage);
+                auto channel = [&](int back, int front) {
+                    return static_cast<int>(
+                        std::lround((front * coverage + back * (alpha / 255.0f) * (1.0f - coverage)) / a));
+                };
+                out[x] = qRgba(channel(qRed(background), inkR), channel(qGreen(background), inkG),
+                    channel(qBlue(background), inkB), static_cast<int>(std::lround(a * 255)));
+            }
         }
     }
 }

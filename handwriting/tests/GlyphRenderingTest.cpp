@@ -209,3 +209,39 @@ TEST(GlyphRendering, StrokesFittedFillTheImageCentredWithTheirProportions)
     DrawStrokesFitted(none, LeftLineAndDot(), 0b100, 5, qRgb(0, 0, 0), 2);
     EXPECT_TRUE(InkBox(none, white).isEmpty());
 }
+
+TEST(GlyphRendering, ASmallGlyphOnATransparentImageKeepsItsPartlyCoveredPixels)
+{
+    // A thin slanted line drawn small, as the progress window draws its glyphs: every pixel the
+    // ink reaches shows on a transparent image as it does on an opaque one, not only those it
+    // covers whole.
+    Form form(109, 109);
+    Stroke slant(Point{10, 20});
+    slant.AppendSegment(Segment(SegmentType::Line, Point{99, 70}));
+    form.AppendStroke(slant);
+    QImage opaque(20, 20, QImage::Format_RGB32);
+    opaque.fill(Qt::white);
+    DrawFormSmooth(opaque, opaque.rect(), form, qRgb(0, 0, 0), 1.5);
+    for (QImage::Format format : {QImage::Format_ARGB32_Premultiplied, QImage::Format_ARGB32}) {
+        QImage clear(20, 20, format);
+        clear.fill(Qt::transparent);
+        DrawFormSmooth(clear, clear.rect(), form, qRgb(0, 0, 0), 1.5);
+        int inked = 0, shown = 0, partly = 0;
+        for (int y = 0; y < 20; ++y)
+            for (int x = 0; x < 20; ++x) {
+                const bool reached = opaque.pixel(x, y) != qRgb(255, 255, 255);
+                inked += reached;
+                shown += reached && qAlpha(clear.pixel(x, y)) > 0;
+                partly += qAlpha(clear.pixel(x, y)) > 0 && qAlpha(clear.pixel(x, y)) < 255;
+                // Over white, the translucent pixel looks as the opaque one does.
+                if (reached) {
+                    const QColor c = QColor::fromRgba(clear.pixel(x, y));
+                    const int seen = qRound(c.alphaF() * c.red() + (1 - c.alphaF()) * 255);
+                    EXPECT_NEAR(seen, qRed(opaque.pixel(x, y)), 2) << x << "," << y;
+                }
+            }
+        EXPECT_GT(inked, 0);
+        EXPECT_EQ(shown, inked) << format;
+        EXPECT_GT(partly, 0) << format; // the line's edges are partly covered
+    }
+}
