@@ -81,6 +81,17 @@ void FileBuffer::Seal()
         ::mprotect(m_data, m_mappedSize, PROT_READ);
 }
 
+void FileBuffer::Drop(std::size_t from, std::size_t to)
+{
+    if (!m_data || to > m_size || from >= to)
+        return;
+    const auto page = static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+    const std::size_t first = RoundUp(from, page);
+    const std::size_t last = to / page * page;
+    if (last > first)
+        ::madvise(m_data + first, last - first, MADV_DONTNEED);
+}
+
 void FileBuffer::Release()
 {
     if (m_data)

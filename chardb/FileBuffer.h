@@ -25,6 +25,9 @@ public:
     /// Makes the bytes read-only from now on: writing to them ends the program instead of
     /// quietly changing what was read.
     void Seal();
+    /// Gives back the memory of the whole pages within bytes [from, to): they are not read again
+    /// (reading them would give zeros). Those of the pages at either end are kept.
+    void Drop(std::size_t from, std::size_t to);
 
 private:
     void Release();

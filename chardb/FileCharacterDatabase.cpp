@@ -6,6 +6,7 @@
 #include "FormFormat.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <new>
@@ -39,6 +40,18 @@ std::size_t ItemCount(const Element& element)
     return count;
 }
 
+/// What tells whether the open file was written since: its size and its modification time. Not
+/// its change time, which also moves when the file is only renamed or removed from its folder
+/// (a package upgrade putting a new file in its place), which leaves the open file as it was.
+std::array<long long, 3> StampOf(int descriptor)
+{
+    struct stat info { };
+    if (::fstat(descriptor, &info) != 0)
+        return {-1, -1, -1};
+    return {static_cast<long long>(info.st_size), static_cast<long long>(info.st_mtim.tv_sec),
+        static_cast<long long>(info.st_mtim.tv_nsec)};
+}
+
 } // namespace
 
 FileCharacterDatabase::FileCharacterDatabase(const std::string& path)
@@ -58,7 +71,8 @@ FileCharacterDatabase::FileCharacterDatabase(const std::string& path)
             m_contents = FileBuffer(static_cast<std::size_t>(size));
             std::size_t done = 0;
             while (done < size) {
-                const ssize_t n = ::pread(m_descriptor, m_contents.Data() + done, size - done, static_cast<off_t>(done));
+                const ssize_t n
+                    = ::pread(m_descriptor, m_contents.Data() + done, size - done, static_cast<off_t>(done));
                 if (n < 0 && errno == EINTR)
                     continue;
                 if (n <= 0)
@@ -67,7 +81,8 @@ FileCharacterDatabase::FileCharacterDatabase(const std::string& path)
             }
             m_contentsSize = done;
             m_contents.Seal();
-            ::close(m_descriptor);
+            m_readStamp = StampOf(m_descriptor);
+            m_glyphFile = m_descriptor;
             m_descriptor = -1;
         }
         RecordBytes header;
@@ -96,6 +111,55 @@ void FileCharacterDatabase::Close()
     if (m_descriptor >= 0)
         ::close(m_descriptor);
     m_descriptor = -1;
+    if (m_glyphFile >= 0)
+        ::close(m_glyphFile);
+    m_glyphFile = -1;
+}
+
+bool FileCharacterDatabase::ReadElement(std::uint16_t id, RecordBytes& out) const
+{
+    const DictionaryEntry& entry = m_elementDictionary[id];
+    if (!m_glyphsFromFile)
+        return ReadRecord(entry, out);
+    // A file written since Preload checked it is not what was checked: its glyphs are refused.
+    if (entry.size == 0 || entry.offset == NoRecord || StampOf(m_glyphFile) != m_glyphFileStamp)
+        return false;
+    out.owned.resize(entry.size);
+    std::size_t done = 0;
+    while (done < entry.size) {
+        const ssize_t n
+            = ::pread(m_glyphFile, out.owned.data() + done, entry.size - done, static_cast<off_t>(entry.offset + done));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0)
+            return false;
+        done += static_cast<std::size_t>(n);
+    }
+    out.data = out.owned.data();
+    out.size = out.owned.size();
+    return true;
+}
+
+void FileCharacterDatabase::GiveBackGlyphs()
+{
+    if (m_glyphFile < 0 || m_descriptor >= 0 || m_glyphsFromFile || m_elementDictionary.empty())
+        return;
+    // Read again only while the file stays as it was when it was read whole.
+    m_glyphFileStamp = StampOf(m_glyphFile);
+    if (m_glyphFileStamp != m_readStamp)
+        return;
+    std::size_t from = m_contentsSize, to = 0;
+    for (std::size_t id = 0; id < m_elementDictionary.size(); ++id) {
+        if (!m_elementPresent[id])
+            continue;
+        const DictionaryEntry& entry = m_elementDictionary[id];
+        from = std::min<std::size_t>(from, entry.offset);
+        to = std::max<std::size_t>(to, std::size_t{entry.offset} + entry.size);
+    }
+    m_glyphsFromFile = true;
+    // Only the bytes between the first and the last glyph record: the dictionaries, the
+    // characters and the categories stay in memory.
+    m_contents.Drop(from, to);
 }
 
 bool FileCharacterDatabase::ReadAt(std::uint64_t offset, std::size_t size, RecordBytes& out) const
@@ -169,7 +233,7 @@ bool FileCharacterDatabase::ElementExists(std::uint16_t id)
         return m_elementPresent[id];
     // No hole test here: an offset of 0xFFFFFFFF simply fails to read.
     RecordBytes scratch;
-    return ReadRecord(m_elementDictionary[id], scratch);
+    return ReadElement(id, scratch);
 }
 
 std::unique_ptr<Character> FileCharacterDatabase::LoadCharacter(std::uint16_t id)
@@ -261,7 +325,7 @@ const Element& FileCharacterDatabase::LoadPart(std::uint16_t id)
 std::optional<std::size_t> FileCharacterDatabase::CheckPlainElement(std::uint16_t id) const
 {
     RecordBytes record;
-    if (!ReadRecord(m_elementDictionary[id], record))
+    if (!ReadElement(id, record))
         throw DatabaseLoadException(StoreMessage::LoadElement);
     ByteReader reader(record.data, record.size, StoreMessage::LoadElement);
     LoadBudget budget;
@@ -271,7 +335,7 @@ std::optional<std::size_t> FileCharacterDatabase::CheckPlainElement(std::uint16_
 std::unique_ptr<Element> FileCharacterDatabase::ParseElement(std::uint16_t id)
 {
     RecordBytes record;
-    if (!ReadRecord(m_elementDictionary[id], record))
+    if (!ReadElement(id, record))
         throw DatabaseLoadException(StoreMessage::LoadElement);
     m_loading.push_back(id);
     struct PopOnExit {
@@ -383,4 +447,5 @@ void FileCharacterDatabase::Preload(DatabaseProgress* progress)
             m_elementCache.push_back(std::move(element));
     }
     m_preloaded = true;
+    GiveBackGlyphs();
 }

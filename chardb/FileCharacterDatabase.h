@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "CharacterDatabase.h"
 #include "FileBuffer.h"
 #include "FormFormat.h"
@@ -62,6 +64,12 @@ private:
     bool ReadAt(std::uint64_t offset, std::size_t size, RecordBytes& out) const;
     std::vector<DictionaryEntry> ReadDictionary(std::uint32_t offset) const;
     bool ReadRecord(const DictionaryEntry& entry, RecordBytes& out) const;
+    /// Reads element `id`'s record: from the contents, or, once the glyphs were given back
+    /// after Preload, from the file while it is unchanged.
+    bool ReadElement(std::uint16_t id, RecordBytes& out) const;
+    /// After a Preload of a file held in memory, unchanged since it was read: gives back the
+    /// memory of the element records, which are read from the file when asked for.
+    void GiveBackGlyphs();
     void Close();
     std::unique_ptr<Element> LoadTopLevelElement(std::uint16_t id);
     const Element& LoadPart(std::uint16_t id);
@@ -91,6 +99,13 @@ private:
     FileBuffer m_contents;
     std::size_t m_contentsSize = 0;
     int m_descriptor = -1;
+    // The file held in memory, kept open after its read: once Preload has checked the glyphs
+    // their records are read from it again when asked for (a few megabytes less for the whole
+    // session), as long as the file has not been written since it was read whole.
+    int m_glyphFile = -1;
+    bool m_glyphsFromFile = false;
+    std::array<long long, 3> m_readStamp{};
+    std::array<long long, 3> m_glyphFileStamp{};
 
     // Elements being composed by the load in progress (guards against cycles and depth), the
     // parts it has already parsed, so that a shared part is read only once, and what it built.

@@ -4,6 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+
 using namespace testdb;
 using ZavorenCommon::DatabaseLoadException;
 
@@ -414,4 +419,48 @@ TEST_F(DatabaseFileTest, CompositionBeyond65535StrokesIsRefused)
     FileCharacterDatabase db(Write(f));
     EXPECT_EQ(db.LoadElement(5)->GetForm(0).StrokeCount(), 65280);
     EXPECT_LOAD_ERROR(db.LoadElement(6), "Unable to load element");
+}
+
+TEST_F(DatabaseFileTest, AfterPreloadGlyphsAreReadFromTheFileAsPreloadSawThem)
+{
+    const RawDatabaseFile f = SmallFile();
+    const std::string path = Write(f);
+    FileCharacterDatabase db(path);
+    db.Preload(nullptr);
+    // The file's memory given back: the glyphs come from the open file, even once it is
+    // removed from its folder (a package upgrade replacing it, say).
+    std::filesystem::remove(path);
+    auto first = db.LoadElement(0);
+    ASSERT_EQ(first->FormCount(), 1);
+    EXPECT_EQ(first->GetForm(0).GetStroke(0).Start(), (Point{10, 10}));
+    EXPECT_TRUE(db.ElementExists(1));
+    EXPECT_EQ(db.LoadElement(1)->GetForm(0).GetStroke(0).Start(), (Point{50, 0}));
+    EXPECT_STREQ(db.LoadCharacter(0)->Meaning(), "one");
+}
+
+TEST_F(DatabaseFileTest, AGlyphChangedInTheFileAfterPreloadIsRefused)
+{
+    const RawDatabaseFile f = SmallFile();
+    const Bytes bytes = f.Build();
+    const std::string path = Write(bytes);
+    FileCharacterDatabase db(path);
+    db.Preload(nullptr);
+    // The second element's record changed in place, as another program writing the file would.
+    const Bytes second = f.elements[1].bytes;
+    const auto at = std::search(bytes.begin(), bytes.end(), second.begin(), second.end());
+    ASSERT_NE(at, bytes.end());
+    {
+        std::fstream file(path, std::ios::in | std::ios::out | std::ios::binary);
+        file.seekp(static_cast<std::streamoff>(at - bytes.begin()) + static_cast<std::streamoff>(second.size()) - 1);
+        file.put(static_cast<char>(second.back() ^ 0x5A));
+    }
+    // Written later than the file was read (within one clock tick the system may give the
+    // same modification time: set it as a writer a moment later would leave it).
+    std::filesystem::last_write_time(path, std::filesystem::last_write_time(path) + std::chrono::seconds(1));
+    // The file is no longer what Preload checked: its glyphs are refused, every one of them, as
+    // an unreadable database is; the characters and categories held in memory still read.
+    EXPECT_THROW(db.LoadElement(1), ZavorenCommon::DatabaseLoadException);
+    EXPECT_THROW(db.LoadElement(0), ZavorenCommon::DatabaseLoadException);
+    EXPECT_STREQ(db.LoadCharacter(0)->Meaning(), "one");
+    EXPECT_EQ(db.LoadCategory(0)->Characters(), (std::vector<std::uint16_t>{0, 2}));
 }
