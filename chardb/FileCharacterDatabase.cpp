@@ -124,11 +124,16 @@ bool FileCharacterDatabase::ReadElement(std::uint16_t id, RecordBytes& out) cons
     // A file written since Preload checked it is not what was checked: its glyphs are refused.
     if (entry.size == 0 || entry.offset == NoRecord || StampOf(m_glyphFile) != m_glyphFileStamp)
         return false;
-    out.owned.resize(entry.size);
+    return ReadFromFile(m_glyphFile, entry.offset, entry.size, out);
+}
+
+bool FileCharacterDatabase::ReadFromFile(int file, std::uint64_t offset, std::size_t size, RecordBytes& out)
+{
+    // Read at the offset: a file that shrank since it was opened gives a short read, never more.
+    out.owned.resize(size);
     std::size_t done = 0;
-    while (done < entry.size) {
-        const ssize_t n
-            = ::pread(m_glyphFile, out.owned.data() + done, entry.size - done, static_cast<off_t>(entry.offset + done));
+    while (done < size) {
+        const ssize_t n = ::pread(file, out.owned.data() + done, size - done, static_cast<off_t>(offset + done));
         if (n < 0 && errno == EINTR)
             continue;
         if (n <= 0)
@@ -136,7 +141,7 @@ bool FileCharacterDatabase::ReadElement(std::uint16_t id, RecordBytes& out) cons
         done += static_cast<std::size_t>(n);
     }
     out.data = out.owned.data();
-    out.size = out.owned.size();
+    out.size = size;
     return true;
 }
 
@@ -173,21 +178,7 @@ bool FileCharacterDatabase::ReadAt(std::uint64_t offset, std::size_t size, Recor
         out.size = size;
         return true;
     }
-    // Read at the offset: a file that shrank since it was opened gives a short read, never more.
-    out.owned.resize(size);
-    std::size_t done = 0;
-    while (done < size) {
-        const ssize_t n
-            = ::pread(m_descriptor, out.owned.data() + done, size - done, static_cast<off_t>(offset + done));
-        if (n < 0 && errno == EINTR)
-            continue;
-        if (n <= 0)
-            return false;
-        done += static_cast<std::size_t>(n);
-    }
-    out.data = out.owned.data();
-    out.size = size;
-    return true;
+    return ReadFromFile(m_descriptor, offset, size, out);
 }
 
 std::vector<FileCharacterDatabase::DictionaryEntry> FileCharacterDatabase::ReadDictionary(std::uint32_t offset) const

@@ -62,6 +62,8 @@ private:
     /// Reads `size` bytes at `offset`; false when the file does not hold them all. A size of 0
     /// never reads, as a record is read as one item of its size.
     bool ReadAt(std::uint64_t offset, std::size_t size, RecordBytes& out) const;
+    /// Reads `size` bytes at `offset` of an open file into `out`; false on a short read.
+    static bool ReadFromFile(int file, std::uint64_t offset, std::size_t size, RecordBytes& out);
     std::vector<DictionaryEntry> ReadDictionary(std::uint32_t offset) const;
     bool ReadRecord(const DictionaryEntry& entry, RecordBytes& out) const;
     /// Reads element `id`'s record: from the contents, or, once the glyphs were given back
