@@ -93,8 +93,9 @@ bool CategoryPage::ShowCategory(std::uint16_t categoryId)
     if (!m_session)
         return false;
     m_stale = false;
+    // Read once: Kanji Info's next reviews and Retest's due characters come from the same schedule.
     SetReviews(m_session->Reviews());
-    return SetCategory(categoryId, RecorderFor(*m_session, categoryId));
+    return SetCategory(categoryId, RecorderFor(*m_session, categoryId, m_reviews));
 }
 
 std::optional<std::uint16_t> CategoryPage::CategoryId() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ProgressRecorder.h"
+#include "ReviewSchedule.h"
 
 #include <cstdint>
 #include <optional>
@@ -8,6 +9,7 @@
 class LearnerSession;
 
 /// The rules for the open learner's progress in category `categoryId`, their events kept in
-/// the session's history (none without a learner). Retest sends the due characters back first
-/// while the reviews are on.
-std::optional<ProgressRecorder> RecorderFor(LearnerSession& session, std::uint16_t categoryId);
+/// the session's history (none without a learner). Retest sends the due characters of `reviews`
+/// back first (none: the reviews are off).
+std::optional<ProgressRecorder> RecorderFor(
+    LearnerSession& session, std::uint16_t categoryId, const std::optional<ReviewSchedule>& reviews);

@@ -175,7 +175,7 @@ private slots:
 
         // A test recorded elsewhere: the shown home page counts it at once, the hidden category
         // page when it is shown.
-        RecorderFor(session, 0)->TestTaken({Grade1()[0]}, {}, {});
+        RecorderFor(session, 0, session.Reviews())->TestTaken({Grade1()[0]}, {}, {});
         QVERIFY(list->topLevelItem(0)->text(0).startsWith(QStringLiteral("Grade 1 (1 of ")));
         QVERIFY(Named<CharacterGrid>(&category, "characterGrid")->Groups()[0].codes.empty());
         category.show();
