@@ -40,6 +40,20 @@ void ProgressRecorder::TestTaken(
     Keep();
 }
 
+void ProgressRecorder::Reviewed(std::uint16_t code, bool passed, int mistakes)
+{
+    CategoryProgress& progress = Progress();
+    // A character that Retest had sent back is reviewed here as well: it is taken off the
+    // untested list either way.
+    progress.RemoveUntested(code);
+    if (!passed)
+        progress.RemoveLearned(code);
+    else if (!progress.IsLearned(code))
+        progress.AddLearned(code);
+    Record(passed ? LearnerEvent::Passed : LearnerEvent::Failed, code, mistakes);
+    Keep();
+}
+
 std::vector<std::uint16_t> ProgressRecorder::Retest(Random15& random)
 {
     const std::vector<std::uint16_t> sent = ::Retest(Progress(), random, m_dueFirst);

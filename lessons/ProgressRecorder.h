@@ -35,6 +35,10 @@ public:
     /// each character's mistakes.
     void TestTaken(const std::vector<std::uint16_t>& passed, const std::vector<std::uint16_t>& failed,
         const MistakeCount& mistakes);
+    /// A learned character reviewed as a test asks it: passed, it stays learned ("passed", with
+    /// its mistakes); failed, it leaves the learned and untested lists, so that the next lesson
+    /// of the category teaches it again ("failed"). One action: its event is kept at once.
+    void Reviewed(std::uint16_t code, bool passed, int mistakes);
     /// Retest: five learned characters go back to the untested list, the due ones first (see
     /// SetDueFirst), then random ones (each draw over the list as it stands after the previous
     /// moves); each is a "retest" event. Returns them.

@@ -1,10 +1,13 @@
 #include "TestSchedule.h"
 
-void TestSchedule::Start(std::vector<std::uint16_t> codes)
+void TestSchedule::Start(std::vector<std::uint16_t> codes, std::optional<std::uint16_t> skipped)
 {
     m_codes = std::move(codes);
     m_page = 0;
     m_records.assign(m_codes.size(), std::vector<Entry>(m_pageCount));
+    if (skipped && *skipped < m_pageCount)
+        for (auto& entries : m_records)
+            entries[*skipped].state = State::Passed;
     m_current.reset();
     ChooseNext();
 }

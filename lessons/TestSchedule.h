@@ -20,7 +20,8 @@ public:
     explicit TestSchedule(std::uint16_t pageCount = 2) : m_pageCount(pageCount) { }
 
     /// Starts a test of these codes and chooses the first question (none for an empty list).
-    void Start(std::vector<std::uint16_t> codes);
+    /// The page `skipped` is never asked: it counts as passed without an attempt.
+    void Start(std::vector<std::uint16_t> codes, std::optional<std::uint16_t> skipped = std::nullopt);
     /// Records an answer from `page`; ignored unless it is the page now asked, or when the
     /// question is already decided.
     void Answer(std::uint16_t page, bool clean);

@@ -106,3 +106,22 @@ TEST(TestSchedule, EmptyListAsksNothing)
     EXPECT_TRUE(s.PassedCodes().empty());
     EXPECT_THROW(s.EntryOf(0, 0), std::out_of_range);
 }
+
+TEST(TestSchedule, ASkippedPageIsNeverAskedAndCountsAsPassed)
+{
+    TestSchedule s;
+    s.Start({10}, Reading);
+    EXPECT_EQ(s.EntryOf(0, Reading).state, State::Passed);
+    for (int i = 0; i < 4; ++i) {
+        ASSERT_TRUE(s.HasQuestion());
+        EXPECT_EQ(s.CurrentPage(), Drawing);
+        s.Answer(s.CurrentPage(), i != 0); // one mistake, then the three clean answers it takes
+        if (i < 3) {
+            EXPECT_TRUE(s.Next());
+        }
+    }
+    EXPECT_FALSE(s.Next());
+    EXPECT_EQ(s.PassedCodes(), (std::vector<std::uint16_t>{10}));
+    EXPECT_EQ(s.MistakesOf(10), 1);
+    EXPECT_EQ(s.EntryOf(0, Reading).Attempts(), 0);
+}
