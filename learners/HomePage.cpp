@@ -9,6 +9,8 @@
 #include "User.h"
 #include "ui_HomePage.h"
 
+#include <QHBoxLayout>
+
 namespace {
 
 /// Page size in dialog units, converted with the font's metrics.
@@ -35,11 +37,23 @@ HomePage::HomePage(CharacterDatabase& database, Prompt& prompt, QWidget* parent)
     connect(OpenButton(), &QPushButton::clicked, this, &HomePage::OnOpen);
     // How many are due in all, beside the Open button (in the cell of the space before it, so
     // that the page without it is laid out as always).
+    // With something due, the button that reviews it all in one sitting stands beside it.
+    auto* dueRow = new QHBoxLayout;
+    dueRow->setContentsMargins(0, 0, 0, 0);
     m_dueTotal = new QLabel(this);
     m_dueTotal->setObjectName(QStringLiteral("dueTotal"));
     m_dueTotal->setWordWrap(true);
     m_dueTotal->hide();
-    m_ui->grid->addWidget(m_dueTotal, 3, 0, 1, 2);
+    m_reviewButton = new QPushButton(this);
+    m_reviewButton->setObjectName(QStringLiteral("reviewButton"));
+    m_reviewButton->hide();
+    connect(m_reviewButton, &QPushButton::clicked, this, [this] {
+        if (m_user && m_reviewButton->isVisible())
+            emit pageEvent(Review, 0);
+    });
+    dueRow->addWidget(m_dueTotal, 1);
+    dueRow->addWidget(m_reviewButton);
+    m_ui->grid->addLayout(dueRow, 3, 0, 1, 2);
     UpdateButtons();
 }
 
@@ -161,12 +175,16 @@ void HomePage::ShowDueTotal()
 {
     if (!m_reviews || !m_user || m_reviews->Reviews().empty()) {
         m_dueTotal->hide();
+        m_reviewButton->hide();
         return;
     }
     const int due = m_reviews->DueTotal();
     m_dueTotal->setText(due > 0 ? tr("Due for review today: %1").arg(due) : tr("Nothing is due for review today."));
     m_dueTotal->setAccessibleName(m_dueTotal->text());
     m_dueTotal->show();
+    m_reviewButton->setText(tr("&Review (%1)").arg(due));
+    m_reviewButton->setAccessibleName(tr("Review the %n characters due", nullptr, due));
+    m_reviewButton->setVisible(due > 0);
 }
 
 void HomePage::UpdateButtons()

@@ -22,11 +22,11 @@ class HomePage;
 }
 
 /// The first page: the open learner's name and every category of the database with the
-/// learner's progress in it. Event 0: open the selected category.
+/// learner's progress in it. Event 0: open the selected category; 1: review what is due.
 class HomePage : public Page {
     Q_OBJECT
 public:
-    enum Event : quint16 { OpenCategory = 0 };
+    enum Event : quint16 { OpenCategory = 0, Review = 1 };
 
     HomePage(CharacterDatabase& database, Prompt& prompt, QWidget* parent = nullptr);
     /// The page of the learner open in `session`, following it: another learner shows at once,
@@ -71,6 +71,7 @@ private:
     QIcon m_newIcon;
     std::optional<ReviewSchedule> m_reviews;
     QLabel* m_dueTotal = nullptr;
+    QPushButton* m_reviewButton = nullptr;
     LearnerSession* m_session = nullptr;
     bool m_stale = false; ///< the session's progress changed while the page was hidden
 };

@@ -6,6 +6,7 @@
 #include "CharacterDatabase.h"
 #include "CharacterGrid.h"
 #include "DatabaseLoadException.h"
+#include "GlyphLoading.h"
 #include "FittedText.h"
 #include "KanjiInfoDialog.h"
 #include "LearnerSession.h"
@@ -25,14 +26,14 @@ const char* const CategoryComplete = QT_TRANSLATE_NOOP("CategoryPage", "Category
 
 CategoryPage::CategoryPage(CharacterDatabase& database, Prompt& prompt, SeedSource seeds, QWidget* parent)
     : Page(parent), m_ui(std::make_unique<Ui::CategoryPage>()), m_database(database), m_prompt(prompt),
-      m_seeds(std::move(seeds))
+      m_seeds(std::move(seeds)), m_glyphs(database)
 {
     m_ui->setupUi(this);
     MakeTextBox(m_ui->categoryName, 1);
     Grid()->setAccessibleName(tr("Characters of the category"));
     Strip()->setAccessibleName(tr("Untested characters"));
     for (CharacterGrid* grid : {Grid(), Strip()}) {
-        grid->SetGlyphSource([this](std::uint16_t code) { return GlyphOf(code); });
+        grid->SetGlyphSource([this](std::uint16_t code) { return m_glyphs(code); });
         connect(grid, &CharacterGrid::selectionChanged, this, &CategoryPage::RefreshButtons);
         connect(grid, &CharacterGrid::contextMenuRequested, this,
             [this, grid](int cell, const QPoint& at) { OnContextMenu(grid, cell, at); });
@@ -137,21 +138,6 @@ QPushButton* CategoryPage::ForgetButton() const
 QPushButton* CategoryPage::BackButton() const
 {
     return m_ui->backButton;
-}
-
-const Form* CategoryPage::GlyphOf(std::uint16_t code)
-{
-    auto found = m_glyphs.find(code);
-    if (found == m_glyphs.end()) {
-        std::shared_ptr<Element> glyph;
-        try {
-            glyph = m_database.LoadElement(m_database.LoadCharacter(code)->ElementId());
-        } catch (const ZavorenCommon::DatabaseLoadException&) {
-            // A cell without a readable glyph stays blank.
-        }
-        found = m_glyphs.insert(code, glyph);
-    }
-    return *found && (*found)->FormCount() > 0 ? &(*found)->GetForm(0) : nullptr;
 }
 
 bool CategoryPage::SetCategory(std::uint16_t categoryId, std::optional<ProgressRecorder> recorder)

@@ -4,6 +4,7 @@
 #include "CategoryProgress.h"
 #include "Element.h"
 #include "LexiconAccess.h"
+#include "GlyphLoading.h"
 #include "Page.h"
 #include "ProgressRecorder.h"
 #include "Random15.h"
@@ -94,7 +95,6 @@ private:
     void OnForget();
     void OnRetest();
     void OnLearn();
-    const Form* GlyphOf(std::uint16_t code);
 
     std::unique_ptr<Ui::CategoryPage> m_ui;
     CharacterDatabase& m_database;
@@ -111,7 +111,7 @@ private:
     QMenu* m_unlearnedMenu = nullptr;
     QMenu* m_untestedMenu = nullptr;
     QAction* m_learnAction = nullptr;
-    QHash<std::uint16_t, std::shared_ptr<Element>> m_glyphs;
+    GlyphCache m_glyphs;
     Random15 m_random;
     LearnerSession* m_session = nullptr;
     bool m_stale = false; ///< the learner's progress changed since the page last read it

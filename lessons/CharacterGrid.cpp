@@ -250,6 +250,19 @@ void CharacterGrid::mousePressEvent(QMouseEvent* event)
     SelectionChanged();
 }
 
+void CharacterGrid::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    // The scroll area hands on its viewport's events in viewport coordinates already.
+    const int cell = event->button() == Qt::LeftButton ? CellAt(event->position().toPoint()) : -1;
+    if (cell >= 0) {
+        if (!m_selection.IsSelected(cell))
+            SelectCell(cell);
+        emit cellActivated(cell);
+    }
+    else
+        QAbstractScrollArea::mouseDoubleClickEvent(event);
+}
+
 void CharacterGrid::keyPressEvent(QKeyEvent* event)
 {
     using Key = GridGeometry::Key;

@@ -62,11 +62,14 @@ signals:
     void selectionChanged();
     /// A context menu is asked for over `cell` (-1 for none) at a global position.
     void contextMenuRequested(int cell, const QPoint& globalPosition);
+    /// A cell was double-clicked.
+    void cellActivated(int cell);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 

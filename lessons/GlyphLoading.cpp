@@ -47,3 +47,18 @@ const Lexicon* LexiconOrReport(LexiconAccess& words, Prompt& prompt, QWidget* pa
             QCoreApplication::translate("LexiconAccess", "Words and parts cannot be shown: %1").arg(StoreText(problem)));
     return lexicon;
 }
+
+const Form* GlyphCache::operator()(std::uint16_t code)
+{
+    auto found = m_glyphs.find(code);
+    if (found == m_glyphs.end()) {
+        std::shared_ptr<Element> glyph;
+        try {
+            glyph = m_database.LoadElement(m_database.LoadCharacter(code)->ElementId());
+        } catch (const ZavorenCommon::DatabaseLoadException&) {
+            // A cell without a readable glyph stays blank.
+        }
+        found = m_glyphs.insert(code, glyph);
+    }
+    return *found && (*found)->FormCount() > 0 ? &(*found)->GetForm(0) : nullptr;
+}

@@ -3,6 +3,8 @@
 #include "Character.h"
 #include "Element.h"
 
+#include <QHash>
+
 #include <cstdint>
 #include <memory>
 
@@ -28,3 +30,16 @@ CharacterWithGlyph LoadCharacterOrReport(
 /// The lexicon of `words`, opened on first use; null when there is none to use, after a warning
 /// (owned by `parent`, once a session) when it is damaged.
 const Lexicon* LexiconOrReport(LexiconAccess& words, Prompt& prompt, QWidget* parent);
+
+/// The glyphs of the characters a grid shows, each read from the database once; a character
+/// whose glyph cannot be read has none (its cell stays blank).
+class GlyphCache {
+public:
+    explicit GlyphCache(CharacterDatabase& database) : m_database(database) { }
+    /// The first form of the character's glyph, or null.
+    const Form* operator()(std::uint16_t code);
+
+private:
+    CharacterDatabase& m_database;
+    QHash<std::uint16_t, std::shared_ptr<Element>> m_glyphs;
+};

@@ -14,3 +14,13 @@ std::optional<ProgressRecorder> RecorderFor(
         recorder.SetDueFirst(reviews->DueFirst(categoryId));
     return recorder;
 }
+
+void RecordReview(LearnerSession& session, const ReviewSitting::Item& item, bool passed, int mistakes)
+{
+    std::optional<ProgressRecorder> recorder = RecorderFor(session, item.categoryId, std::nullopt);
+    if (!recorder)
+        return;
+    recorder->Reviewed(item.id, passed, mistakes);
+    if (!passed)
+        session.SaveLearner(true);
+}

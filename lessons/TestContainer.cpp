@@ -46,9 +46,9 @@ QuestionPage* TestContainer::ShownPage() const
     return nullptr;
 }
 
-void TestContainer::StartTest(const std::vector<std::uint16_t>& codes)
+void TestContainer::StartTest(const std::vector<std::uint16_t>& codes, bool askReadings)
 {
-    m_schedule.Start(codes);
+    m_schedule.Start(codes, askReadings ? std::nullopt : std::optional<std::uint16_t>(Reading));
     AskQuestion();
     RefreshButtons();
 }

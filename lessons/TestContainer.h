@@ -30,8 +30,8 @@ public:
     TestContainer(CharacterDatabase& database, Prompt& prompt, SeedSource seeds, QWidget* parent = nullptr);
     ~TestContainer() override;
 
-    /// Starts a test of these codes.
-    void StartTest(const std::vector<std::uint16_t>& codes);
+    /// Starts a test of these codes; without `askReadings`, only the drawing question is asked.
+    void StartTest(const std::vector<std::uint16_t>& codes, bool askReadings = true);
     /// Codes passed so far, in list order.
     std::vector<std::uint16_t> PassedCodes() const { return m_schedule.PassedCodes(); }
     /// Codes failed so far, in list order.

@@ -12,6 +12,7 @@
 #include "LearnerTransfer.h"
 #include "LessonPage.h"
 #include "PageStack.h"
+#include "ReviewPage.h"
 #include "Prompt.h"
 #include "ScreenPlacement.h"
 #include "StoredPicture.h"
@@ -40,9 +41,11 @@ MainWindow::MainWindow(CharacterDatabase& database, LearnerSession& session, Pro
     m_lesson = new LessonPage(database, prompt);
     m_test = new TestContainer(database, prompt, m_seeds);
     m_category = new CategoryPage(database, prompt, m_seeds, session);
+    m_review = new ReviewPage(database, prompt, m_seeds, session);
     // The aids decide whether the feedback line is there: applied before any page takes its size.
-    m_preferences = std::make_unique<PreferencesEditor>(PreferenceTargets{m_lesson, m_test, m_category, &session});
-    for (Page* page : std::initializer_list<Page*>{m_home, m_lesson, m_test, m_category}) {
+    m_preferences
+        = std::make_unique<PreferencesEditor>(PreferenceTargets{m_lesson, m_test, m_category, &session, m_review});
+    for (Page* page : std::initializer_list<Page*>{m_home, m_lesson, m_test, m_category, m_review}) {
         m_pages->Add(page);
         connect(
             page, &Page::pageEvent, this,
@@ -75,7 +78,7 @@ void MainWindow::BuildMenu()
         if (!m_preferences->Edit(this))
             return;
         // The feedback line shows or hides under the canvases: the pages take their new sizes.
-        for (Page* page : {static_cast<Page*>(m_lesson), static_cast<Page*>(m_test)})
+        for (Page* page : std::initializer_list<Page*>{m_lesson, m_test, m_review})
             m_pages->Refit(page);
         FitToPage();
     });
@@ -211,6 +214,10 @@ void MainWindow::OnPageEvent(Page* page, quint16 code, quint16 argument)
     if (page == m_home && code == HomePage::OpenCategory) {
         m_category->ShowCategory(m_home->ChosenCategory());
         ShowPage(m_category);
+    } else if (page == m_home && code == HomePage::Review) {
+        ShowPage(m_review->Start() ? static_cast<Page*>(m_review) : m_home);
+    } else if (page == m_review) {
+        ShowPage(m_home);
     } else if (page == m_category) {
         switch (code) {
         case CategoryPage::Lesson: m_lesson->StartLesson(m_category->PickLessonCharacters(LessonSize)); break;

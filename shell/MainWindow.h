@@ -13,6 +13,7 @@
 #include <string>
 
 class CategoryPage;
+class ReviewPage;
 class CharacterDatabase;
 class HomePage;
 class LearnerSession;
@@ -80,6 +81,7 @@ private:
     LessonPage* m_lesson = nullptr;
     TestContainer* m_test = nullptr;
     CategoryPage* m_category = nullptr;
+    ReviewPage* m_review = nullptr;
     std::unique_ptr<PreferencesEditor> m_preferences;
     std::unique_ptr<User> m_chosenAtStart;
     std::string m_managerChoice;

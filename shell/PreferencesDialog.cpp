@@ -1,6 +1,7 @@
 #include "PreferencesDialog.h"
 
 #include "MemoryModel.h"
+#include "ReviewSitting.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -44,8 +45,11 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
     m_reviews = new QCheckBox(tr("Review characters when they are due"), this);
     m_reviews->setToolTip(tr("Each learned character comes back for a test when you are about to forget it"));
     m_reviews->setChecked(preferences.reviewWhenDue);
+    m_writingOnly = new QCheckBox(tr("Review by writing only"), this);
+    m_writingOnly->setToolTip(tr("A review asks you to write each character, not to choose its readings"));
+    m_writingOnly->setChecked(preferences.reviewWritingOnly);
     for (QCheckBox* box : {m_explain, m_grid, m_hint, m_ownFrame, m_otherOrders, m_steady, m_onScreen, m_words,
-             m_wordAfterAnswer, m_reviews})
+             m_wordAfterAnswer, m_reviews, m_writingOnly})
         box->setAccessibleName(box->text());
     // A heading for what each group of aids changes, the groups in two columns so that the
     // dialog stays one screen tall on a small screen at ratio 2.
@@ -70,6 +74,8 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
     // The schedule of the reviews, indented under their box.
     auto* schedule = new QFormLayout;
     schedule->setContentsMargins(24, 0, 0, 0);
+    // Five rows under one box: packed a little closer than a form is by default.
+    schedule->setVerticalSpacing(2);
     m_retention = new QDoubleSpinBox(this);
     m_retention->setObjectName(QStringLiteral("retentionBox"));
     m_retention->setRange(MemoryModel::LowestRetention, MemoryModel::HighestRetention);
@@ -97,6 +103,15 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
     auto* intervalLabel = new QLabel(tr("&Maximum interval:"), this);
     intervalLabel->setBuddy(m_interval);
     schedule->addRow(intervalLabel, m_interval);
+    m_sitting = new QSpinBox(this);
+    m_sitting->setObjectName(QStringLiteral("sittingBox"));
+    m_sitting->setRange(ReviewSitting::MinimumSize, ReviewSitting::MaximumSize);
+    m_sitting->setValue(preferences.reviewsPerSitting);
+    m_sitting->setAccessibleName(tr("Reviews in one sitting"));
+    auto* sittingLabel = new QLabel(tr("Reviews in one &sitting:"), this);
+    sittingLabel->setBuddy(m_sitting);
+    schedule->addRow(sittingLabel, m_sitting);
+    schedule->addRow(m_writingOnly);
     reviews->addLayout(schedule);
     QVBoxLayout* words = group(right, tr("Words"), "wordsGroup");
     for (QCheckBox* box : {m_words, m_wordAfterAnswer})
@@ -104,9 +119,9 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
     group(left, tr("Window"), "windowGroup")->addWidget(m_onScreen);
     left->addStretch();
     right->addStretch();
-    auto follow = [this, retentionLabel, meaning, intervalLabel](bool on) {
-        for (QWidget* w :
-            std::initializer_list<QWidget*>{m_retention, m_interval, retentionLabel, meaning, intervalLabel})
+    auto follow = [this, retentionLabel, meaning, intervalLabel, sittingLabel](bool on) {
+        for (QWidget* w : std::initializer_list<QWidget*>{
+                 m_retention, m_interval, retentionLabel, meaning, intervalLabel, m_sitting, sittingLabel, m_writingOnly})
             w->setEnabled(on);
     };
     connect(m_reviews, &QCheckBox::toggled, this, follow);
@@ -127,5 +142,7 @@ CoachingPreferences PreferencesDialog::Chosen() const
     chosen.wordAfterAnswer = m_wordAfterAnswer->isChecked();
     chosen.otherOrders = m_otherOrders->isChecked();
     chosen.steadyInk = m_steady->isChecked();
+    chosen.reviewsPerSitting = m_sitting->value();
+    chosen.reviewWritingOnly = m_writingOnly->isChecked();
     return chosen;
 }

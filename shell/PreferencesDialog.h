@@ -25,9 +25,11 @@ private:
     QCheckBox* m_ownFrame = nullptr;
     QCheckBox* m_otherOrders = nullptr;
     QCheckBox* m_steady = nullptr;
+    QCheckBox* m_writingOnly = nullptr;
     QCheckBox* m_reviews = nullptr;
     QCheckBox* m_words = nullptr;
     QCheckBox* m_wordAfterAnswer = nullptr;
     QDoubleSpinBox* m_retention = nullptr;
     QSpinBox* m_interval = nullptr;
+    QSpinBox* m_sitting = nullptr;
 };

@@ -7,6 +7,7 @@
 #include "LexiconAccess.h"
 #include "PreferencesDialog.h"
 #include "ReadingTestPage.h"
+#include "ReviewPage.h"
 #include "TestContainer.h"
 
 PreferencesEditor::PreferencesEditor(PreferenceTargets targets) : m_targets(targets)
@@ -30,23 +31,34 @@ void PreferencesEditor::Apply(const CoachingPreferences& preferences)
     // The coaching aids decide whether the feedback line is there.
     if (m_targets.lesson)
         m_targets.lesson->SetCoaching(preferences);
-    if (m_targets.test)
-        m_targets.test->DrawingPage()->SetCoaching(preferences);
+    // The tests of a category and of a review sitting ask alike.
+    const std::initializer_list<TestContainer*> tests{
+        m_targets.test, m_targets.review ? m_targets.review->Test() : nullptr};
+    for (TestContainer* test : tests)
+        if (test)
+            test->DrawingPage()->SetCoaching(preferences);
+    if (m_targets.review)
+        m_targets.review->SetSitting(preferences.reviewsPerSitting, preferences.reviewWritingOnly);
     LearnerSession* session = m_targets.session;
     if (!session)
         return;
+    WordContext context;
+    if (preferences.wordsAndParts) {
+        context.lexicon = &session->Lexicon();
+        // Read when Kanji Info opens, so it follows the learner open then.
+        context.learned = [session](std::uint16_t id) { return session->HasLearned(id); };
+    }
+    if (m_targets.review) {
+        m_targets.review->SetWords(context);
+        m_targets.review->SetOtherOrders(preferences.otherOrders);
+    }
     if (m_targets.category) {
-        WordContext context;
-        if (preferences.wordsAndParts) {
-            context.lexicon = &session->Lexicon();
-            // Read when Kanji Info opens, so it follows the learner open then.
-            context.learned = [session](std::uint16_t id) { return session->HasLearned(id); };
-        }
         m_targets.category->SetWords(std::move(context));
         m_targets.category->SetOtherOrders(preferences.otherOrders);
     }
-    if (m_targets.test)
-        m_targets.test->ReadingPage()->SetWordAid(preferences.wordAfterAnswer ? &session->Lexicon() : nullptr);
+    for (TestContainer* test : tests)
+        if (test)
+            test->ReadingPage()->SetWordAid(preferences.wordAfterAnswer ? &session->Lexicon() : nullptr);
     // The reviews follow the new schedule at once.
     session->SetReviewRules({preferences.reviewWhenDue, preferences.retention, preferences.maximumInterval});
 }

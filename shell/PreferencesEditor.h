@@ -6,6 +6,7 @@
 class CategoryPage;
 class LearnerSession;
 class LessonPage;
+class ReviewPage;
 class TestContainer;
 class QWidget;
 
@@ -16,6 +17,7 @@ struct PreferenceTargets {
     TestContainer* test = nullptr;
     CategoryPage* category = nullptr;
     LearnerSession* session = nullptr;
+    ReviewPage* review = nullptr;
 };
 
 /// The aids as chosen in Tools > Preferences…, kept in the settings file and applied to the

@@ -1,6 +1,7 @@
 #include "ProgramSettings.h"
 
 #include "MemoryModel.h"
+#include "ReviewSitting.h"
 
 #include <algorithm>
 
@@ -27,6 +28,8 @@ const char* const WordsKey = "Preferences/WordsAndPartsInKanjiInfo";
 const char* const WordAfterAnswerKey = "Preferences/WordAfterEachAnswer";
 const char* const OtherOrdersKey = "Preferences/AcceptOtherStrokeOrders";
 const char* const SteadyInkKey = "Preferences/SteadyMyInk";
+const char* const SittingKey = "Preferences/ReviewsInOneSitting";
+const char* const WritingOnlyKey = "Preferences/ReviewByWritingOnly";
 
 constexpr int PlacementFields = 4;
 constexpr int PlacementBytes = 4 * PlacementFields;
@@ -86,6 +89,7 @@ CoachingPreferences ProgramSettings::Coaching() const
     p.wordAfterAnswer = settings.value(QLatin1String(WordAfterAnswerKey), p.wordAfterAnswer).toBool();
     p.otherOrders = settings.value(QLatin1String(OtherOrdersKey), p.otherOrders).toBool();
     p.steadyInk = settings.value(QLatin1String(SteadyInkKey), p.steadyInk).toBool();
+    p.reviewWritingOnly = settings.value(QLatin1String(WritingOnlyKey), p.reviewWritingOnly).toBool();
     // A value edited out of range by hand is brought back into it.
     bool ok = false;
     const double retention = settings.value(QLatin1String(RetentionKey), p.retention).toDouble(&ok);
@@ -95,6 +99,9 @@ CoachingPreferences ProgramSettings::Coaching() const
     if (ok)
         p.maximumInterval
             = std::clamp(interval, MemoryModel::ShortestMaximumInterval, MemoryModel::LongestMaximumInterval);
+    const int sitting = settings.value(QLatin1String(SittingKey), p.reviewsPerSitting).toInt(&ok);
+    if (ok)
+        p.reviewsPerSitting = std::clamp(sitting, ReviewSitting::MinimumSize, ReviewSitting::MaximumSize);
     return p;
 }
 
@@ -113,4 +120,6 @@ void ProgramSettings::StoreCoaching(const CoachingPreferences& preferences)
     settings.setValue(QLatin1String(WordAfterAnswerKey), preferences.wordAfterAnswer);
     settings.setValue(QLatin1String(OtherOrdersKey), preferences.otherOrders);
     settings.setValue(QLatin1String(SteadyInkKey), preferences.steadyInk);
+    settings.setValue(QLatin1String(SittingKey), preferences.reviewsPerSitting);
+    settings.setValue(QLatin1String(WritingOnlyKey), preferences.reviewWritingOnly);
 }

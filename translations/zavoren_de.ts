@@ -312,6 +312,17 @@ Möchten Sie einen Minidump davon erhalten?</translation>
         <source>Nothing is due for review today.</source>
         <translation>Heute ist nichts zur Wiederholung fällig.</translation>
     </message>
+    <message>
+        <source>&amp;Review (%1)</source>
+        <translation>&amp;Wiederholen (%1)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Review the %n characters due</source>
+        <translation>
+            <numerusform>Das %n fällige Zeichen wiederholen</numerusform>
+            <numerusform>Die %n fälligen Zeichen wiederholen</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>InputCanvas</name>
@@ -684,6 +695,22 @@ Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</transl
         <source>A shaking hand, a finger or a cheap pen: each stroke is smoothed before it is judged</source>
         <translation>Eine zitternde Hand, ein Finger oder ein einfacher Stift: Jeder Strich wird vor der Bewertung geglättet</translation>
     </message>
+    <message>
+        <source>Review by writing only</source>
+        <translation>Nur durch Schreiben wiederholen</translation>
+    </message>
+    <message>
+        <source>A review asks you to write each character, not to choose its readings</source>
+        <translation>Eine Wiederholung lässt Sie jedes Zeichen schreiben, nicht seine Lesungen wählen</translation>
+    </message>
+    <message>
+        <source>Reviews in one sitting</source>
+        <translation>Wiederholungen pro Sitzung</translation>
+    </message>
+    <message>
+        <source>Reviews in one &amp;sitting:</source>
+        <translation>Wiederholungen pro &amp;Sitzung:</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>
@@ -920,6 +947,63 @@ Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</transl
     <message>
         <source>A word with this KUN reading</source>
         <translation>Ein Wort mit dieser KUN-Lesung</translation>
+    </message>
+</context>
+<context>
+    <name>ReviewPage</name>
+    <message>
+        <source>Review</source>
+        <translation>Wiederholung</translation>
+    </message>
+    <message>
+        <source>Reviews answered</source>
+        <translation>Beantwortete Wiederholungen</translation>
+    </message>
+    <message>
+        <source>The reviews are over.</source>
+        <translation>Die Wiederholungen sind beendet.</translation>
+    </message>
+    <message>
+        <source>Forgotten, to be learned again:</source>
+        <translation>Vergessen, neu zu lernen:</translation>
+    </message>
+    <message>
+        <source>Forgotten characters</source>
+        <translation>Vergessene Zeichen</translation>
+    </message>
+    <message>
+        <source>&amp;Info</source>
+        <translation>&amp;Info</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>Review %1 of %2</source>
+        <translation>Wiederholung %1 von %2</translation>
+    </message>
+    <message>
+        <source>Category: %1</source>
+        <translation>Kategorie: %1</translation>
+    </message>
+    <message>
+        <source>Reviewed %1 of %2</source>
+        <translation>%1 von %2 wiederholt</translation>
+    </message>
+    <message>
+        <source>Reviewed: %1
+Remembered without mistakes: %2
+Remembered with mistakes: %3
+Forgotten: %4</source>
+        <translation>Wiederholt: %1
+Ohne Fehler gewusst: %2
+Mit Fehlern gewusst: %3
+Vergessen: %4</translation>
+    </message>
+    <message>
+        <source>Next reviews: tomorrow %1, this week %2</source>
+        <translation>Nächste Wiederholungen: morgen %1, diese Woche %2</translation>
     </message>
 </context>
 <context>

@@ -312,6 +312,17 @@ Error fatal en Zavoren.<byte value="xd"/>
         <source>Nothing is due for review today.</source>
         <translation>Hoy no hay nada que repasar.</translation>
     </message>
+    <message>
+        <source>&amp;Review (%1)</source>
+        <translation>&amp;Repasar (%1)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Review the %n characters due</source>
+        <translation>
+            <numerusform>Repasar el %n carácter pendiente</numerusform>
+            <numerusform>Repasar los %n caracteres pendientes</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>InputCanvas</name>
@@ -684,6 +695,22 @@ Sí lo sustituye; No importa al alumno con otro nombre.</translation>
         <source>A shaking hand, a finger or a cheap pen: each stroke is smoothed before it is judged</source>
         <translation>Una mano temblorosa, un dedo o un lápiz barato: cada trazo se suaviza antes de juzgarlo</translation>
     </message>
+    <message>
+        <source>Review by writing only</source>
+        <translation>Repasar solo escribiendo</translation>
+    </message>
+    <message>
+        <source>A review asks you to write each character, not to choose its readings</source>
+        <translation>Un repaso le pide escribir cada carácter, no elegir sus lecturas</translation>
+    </message>
+    <message>
+        <source>Reviews in one sitting</source>
+        <translation>Repasos por sesión</translation>
+    </message>
+    <message>
+        <source>Reviews in one &amp;sitting:</source>
+        <translation>Repasos por &amp;sesión:</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>
@@ -920,6 +947,63 @@ Sí lo sustituye; No importa al alumno con otro nombre.</translation>
     <message>
         <source>A word with this KUN reading</source>
         <translation>Una palabra con esta lectura KUN</translation>
+    </message>
+</context>
+<context>
+    <name>ReviewPage</name>
+    <message>
+        <source>Review</source>
+        <translation>Repaso</translation>
+    </message>
+    <message>
+        <source>Reviews answered</source>
+        <translation>Repasos respondidos</translation>
+    </message>
+    <message>
+        <source>The reviews are over.</source>
+        <translation>Los repasos han terminado.</translation>
+    </message>
+    <message>
+        <source>Forgotten, to be learned again:</source>
+        <translation>Olvidados, para aprender de nuevo:</translation>
+    </message>
+    <message>
+        <source>Forgotten characters</source>
+        <translation>Caracteres olvidados</translation>
+    </message>
+    <message>
+        <source>&amp;Info</source>
+        <translation>&amp;Información</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Volver</translation>
+    </message>
+    <message>
+        <source>Review %1 of %2</source>
+        <translation>Repaso %1 de %2</translation>
+    </message>
+    <message>
+        <source>Category: %1</source>
+        <translation>Categoría: %1</translation>
+    </message>
+    <message>
+        <source>Reviewed %1 of %2</source>
+        <translation>Repasados %1 de %2</translation>
+    </message>
+    <message>
+        <source>Reviewed: %1
+Remembered without mistakes: %2
+Remembered with mistakes: %3
+Forgotten: %4</source>
+        <translation>Repasados: %1
+Recordados sin errores: %2
+Recordados con errores: %3
+Olvidados: %4</translation>
+    </message>
+    <message>
+        <source>Next reviews: tomorrow %1, this week %2</source>
+        <translation>Próximos repasos: mañana %1, esta semana %2</translation>
     </message>
 </context>
 <context>

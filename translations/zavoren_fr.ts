@@ -312,6 +312,17 @@ Voulez-vous en obtenir un minidump ?</translation>
         <source>Nothing is due for review today.</source>
         <translation>Rien à réviser aujourd’hui.</translation>
     </message>
+    <message>
+        <source>&amp;Review (%1)</source>
+        <translation>&amp;Réviser (%1)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Review the %n characters due</source>
+        <translation>
+            <numerusform>Réviser le %n caractère à revoir</numerusform>
+            <numerusform>Réviser les %n caractères à revoir</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>InputCanvas</name>
@@ -684,6 +695,22 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
         <source>A shaking hand, a finger or a cheap pen: each stroke is smoothed before it is judged</source>
         <translation>Une main qui tremble, un doigt ou un stylet bon marché : chaque trait est lissé avant d’être jugé</translation>
     </message>
+    <message>
+        <source>Review by writing only</source>
+        <translation>Réviser seulement en écrivant</translation>
+    </message>
+    <message>
+        <source>A review asks you to write each character, not to choose its readings</source>
+        <translation>Une révision vous fait écrire chaque caractère, sans choisir ses lectures</translation>
+    </message>
+    <message>
+        <source>Reviews in one sitting</source>
+        <translation>Révisions par séance</translation>
+    </message>
+    <message>
+        <source>Reviews in one &amp;sitting:</source>
+        <translation>Révisions par &amp;séance :</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>
@@ -920,6 +947,63 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
     <message>
         <source>A word with this KUN reading</source>
         <translation>Un mot avec cette lecture KUN</translation>
+    </message>
+</context>
+<context>
+    <name>ReviewPage</name>
+    <message>
+        <source>Review</source>
+        <translation>Révision</translation>
+    </message>
+    <message>
+        <source>Reviews answered</source>
+        <translation>Révisions faites</translation>
+    </message>
+    <message>
+        <source>The reviews are over.</source>
+        <translation>Les révisions sont terminées.</translation>
+    </message>
+    <message>
+        <source>Forgotten, to be learned again:</source>
+        <translation>Oubliés, à réapprendre :</translation>
+    </message>
+    <message>
+        <source>Forgotten characters</source>
+        <translation>Caractères oubliés</translation>
+    </message>
+    <message>
+        <source>&amp;Info</source>
+        <translation>&amp;Infos</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Retour</translation>
+    </message>
+    <message>
+        <source>Review %1 of %2</source>
+        <translation>Révision %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Category: %1</source>
+        <translation>Catégorie : %1</translation>
+    </message>
+    <message>
+        <source>Reviewed %1 of %2</source>
+        <translation>%1 sur %2 révisés</translation>
+    </message>
+    <message>
+        <source>Reviewed: %1
+Remembered without mistakes: %2
+Remembered with mistakes: %3
+Forgotten: %4</source>
+        <translation>Révisés : %1
+Retenus sans faute : %2
+Retenus avec des fautes : %3
+Oubliés : %4</translation>
+    </message>
+    <message>
+        <source>Next reviews: tomorrow %1, this week %2</source>
+        <translation>Prochaines révisions : demain %1, cette semaine %2</translation>
     </message>
 </context>
 <context>

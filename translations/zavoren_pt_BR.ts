@@ -312,6 +312,17 @@ Deseja obter um minidump?</translation>
         <source>Nothing is due for review today.</source>
         <translation>Nada para revisar hoje.</translation>
     </message>
+    <message>
+        <source>&amp;Review (%1)</source>
+        <translation>&amp;Revisar (%1)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Review the %n characters due</source>
+        <translation>
+            <numerusform>Revisar o %n caractere pendente</numerusform>
+            <numerusform>Revisar os %n caracteres pendentes</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>InputCanvas</name>
@@ -684,6 +695,22 @@ Sim substitui; Não importa o aluno com outro nome.</translation>
         <source>A shaking hand, a finger or a cheap pen: each stroke is smoothed before it is judged</source>
         <translation>Uma mão trêmula, um dedo ou uma caneta barata: cada traço é suavizado antes de ser avaliado</translation>
     </message>
+    <message>
+        <source>Review by writing only</source>
+        <translation>Revisar só escrevendo</translation>
+    </message>
+    <message>
+        <source>A review asks you to write each character, not to choose its readings</source>
+        <translation>Uma revisão pede que você escreva cada caractere, não que escolha suas leituras</translation>
+    </message>
+    <message>
+        <source>Reviews in one sitting</source>
+        <translation>Revisões por sessão</translation>
+    </message>
+    <message>
+        <source>Reviews in one &amp;sitting:</source>
+        <translation>Revisões por &amp;sessão:</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>
@@ -920,6 +947,63 @@ Sim substitui; Não importa o aluno com outro nome.</translation>
     <message>
         <source>A word with this KUN reading</source>
         <translation>Uma palavra com esta leitura KUN</translation>
+    </message>
+</context>
+<context>
+    <name>ReviewPage</name>
+    <message>
+        <source>Review</source>
+        <translation>Revisão</translation>
+    </message>
+    <message>
+        <source>Reviews answered</source>
+        <translation>Revisões respondidas</translation>
+    </message>
+    <message>
+        <source>The reviews are over.</source>
+        <translation>As revisões terminaram.</translation>
+    </message>
+    <message>
+        <source>Forgotten, to be learned again:</source>
+        <translation>Esquecidos, para aprender de novo:</translation>
+    </message>
+    <message>
+        <source>Forgotten characters</source>
+        <translation>Caracteres esquecidos</translation>
+    </message>
+    <message>
+        <source>&amp;Info</source>
+        <translation>&amp;Informações</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Voltar</translation>
+    </message>
+    <message>
+        <source>Review %1 of %2</source>
+        <translation>Revisão %1 de %2</translation>
+    </message>
+    <message>
+        <source>Category: %1</source>
+        <translation>Categoria: %1</translation>
+    </message>
+    <message>
+        <source>Reviewed %1 of %2</source>
+        <translation>Revisados %1 de %2</translation>
+    </message>
+    <message>
+        <source>Reviewed: %1
+Remembered without mistakes: %2
+Remembered with mistakes: %3
+Forgotten: %4</source>
+        <translation>Revisados: %1
+Lembrados sem erros: %2
+Lembrados com erros: %3
+Esquecidos: %4</translation>
+    </message>
+    <message>
+        <source>Next reviews: tomorrow %1, this week %2</source>
+        <translation>Próximas revisões: amanhã %1, esta semana %2</translation>
     </message>
 </context>
 <context>

@@ -312,6 +312,18 @@ Do you want to get minidump for it?</source>
         <source>Nothing is due for review today.</source>
         <translation>Сегодня повторять нечего.</translation>
     </message>
+    <message>
+        <source>&amp;Review (%1)</source>
+        <translation>&amp;Повторить (%1)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Review the %n characters due</source>
+        <translation>
+            <numerusform>Повторить %n знак, срок которого подошёл</numerusform>
+            <numerusform>Повторить %n знака, срок которых подошёл</numerusform>
+            <numerusform>Повторить %n знаков, срок которых подошёл</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>InputCanvas</name>
@@ -684,6 +696,22 @@ Yes replaces it; No imports the learner under another name.</source>
         <source>A shaking hand, a finger or a cheap pen: each stroke is smoothed before it is judged</source>
         <translation>Дрожащая рука, палец или дешёвое перо: каждая черта сглаживается перед проверкой</translation>
     </message>
+    <message>
+        <source>Review by writing only</source>
+        <translation>Повторять только письмом</translation>
+    </message>
+    <message>
+        <source>A review asks you to write each character, not to choose its readings</source>
+        <translation>При повторении вы пишете каждый знак, а не выбираете его чтения</translation>
+    </message>
+    <message>
+        <source>Reviews in one sitting</source>
+        <translation>Повторений за один раз</translation>
+    </message>
+    <message>
+        <source>Reviews in one &amp;sitting:</source>
+        <translation>Повторений за один &amp;раз:</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>
@@ -920,6 +948,63 @@ Yes replaces it; No imports the learner under another name.</source>
     <message>
         <source>A word with this KUN reading</source>
         <translation>Слово с этим чтением КУН</translation>
+    </message>
+</context>
+<context>
+    <name>ReviewPage</name>
+    <message>
+        <source>Review</source>
+        <translation>Повторение</translation>
+    </message>
+    <message>
+        <source>Reviews answered</source>
+        <translation>Пройдено повторений</translation>
+    </message>
+    <message>
+        <source>The reviews are over.</source>
+        <translation>Повторение окончено.</translation>
+    </message>
+    <message>
+        <source>Forgotten, to be learned again:</source>
+        <translation>Забыты, их нужно выучить снова:</translation>
+    </message>
+    <message>
+        <source>Forgotten characters</source>
+        <translation>Забытые знаки</translation>
+    </message>
+    <message>
+        <source>&amp;Info</source>
+        <translation>&amp;Сведения</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Назад</translation>
+    </message>
+    <message>
+        <source>Review %1 of %2</source>
+        <translation>Повторение %1 из %2</translation>
+    </message>
+    <message>
+        <source>Category: %1</source>
+        <translation>Категория: %1</translation>
+    </message>
+    <message>
+        <source>Reviewed %1 of %2</source>
+        <translation>Повторено %1 из %2</translation>
+    </message>
+    <message>
+        <source>Reviewed: %1
+Remembered without mistakes: %2
+Remembered with mistakes: %3
+Forgotten: %4</source>
+        <translation>Повторено: %1
+Вспомнено без ошибок: %2
+Вспомнено с ошибками: %3
+Забыто: %4</translation>
+    </message>
+    <message>
+        <source>Next reviews: tomorrow %1, this week %2</source>
+        <translation>Следующие повторения: завтра %1, на этой неделе %2</translation>
     </message>
 </context>
 <context>

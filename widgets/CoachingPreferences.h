@@ -32,6 +32,10 @@ struct CoachingPreferences {
     /// A finished stroke is steadied (resampled and smoothed, its corners kept) before it is
     /// judged: a shaking hand's or a finger's jitter is not refused as a wrong length or shape.
     bool steadyInk = true;
+    /// A review sitting takes at most this many due characters (10 to 500).
+    int reviewsPerSitting = 50;
+    /// A review sitting asks only to write each character, not its readings.
+    bool reviewWritingOnly = false;
 
     static CoachingPreferences AllOff()
     {

@@ -41,38 +41,44 @@ inline void WriteAll(InputCanvas* canvas, const Form& glyph)
         DrawInk(canvas, StrokeAsMouse(glyph, k, canvas->ClientRect().width()));
 }
 
+/// Answers the question `test` asks right and clicks Next; with `miss` a reading question
+/// first gets a wrong ON reading (an answer with one mistake).
+inline void AnswerQuestion(TestContainer* test, bool miss = false)
+{
+    CharacterDatabase& db = StandardDatabase();
+    const auto character = db.LoadCharacter(*test->Schedule().CurrentCode());
+    if (test->ShownPage() == test->ReadingPage()) {
+        ReadingTestPage* page = test->ReadingPage();
+        const std::string on = character->OnReading() ? character->OnReading() : "";
+        const std::string kun = character->KunReading() ? character->KunReading() : "";
+        if (miss) {
+            for (int i = 0; i < 5; ++i)
+                if (page->Choices().on[static_cast<std::size_t>(i)] != on) {
+                    ClickRadio(page->OnButton(i));
+                    break;
+                }
+        }
+        for (int i = 0; i < 5; ++i) {
+            if (page->Choices().on[static_cast<std::size_t>(i)] == on)
+                ClickRadio(page->OnButton(i));
+            if (page->Choices().kun[static_cast<std::size_t>(i)] == kun)
+                ClickRadio(page->KunButton(i));
+        }
+    } else {
+        WriteAll(Named<InputCanvas>(test->DrawingPage(), "inputCanvas"), *test->DrawingPage()->Glyph());
+    }
+    QVERIFY(Named<QPushButton>(test, "nextButton")->isEnabled());
+    QTest::mouseClick(Named<QPushButton>(test, "nextButton"), Qt::LeftButton);
+}
+
 /// Answers every question of the test shown right, until it finishes; the first reading
 /// question of each character of `missOnce` first gets a wrong ON reading (one mistake).
 inline void AnswerTestRight(MainWindow& window, std::set<std::uint16_t> missOnce = {})
 {
     TestContainer* test = ChildOf<TestContainer>(window);
-    CharacterDatabase& db = StandardDatabase();
     for (int guard = 0; guard < 100 && ShownPage(window) == test; ++guard) {
         const std::uint16_t code = *test->Schedule().CurrentCode();
-        const auto character = db.LoadCharacter(code);
-        if (test->ShownPage() == test->ReadingPage()) {
-            ReadingTestPage* page = test->ReadingPage();
-            const std::string on = character->OnReading() ? character->OnReading() : "";
-            if (missOnce.erase(code) > 0) {
-                for (int i = 0; i < 5; ++i)
-                    if (page->Choices().on[static_cast<std::size_t>(i)] != on) {
-                        ClickRadio(page->OnButton(i));
-                        break;
-                    }
-            }
-            for (int i = 0; i < 5; ++i) {
-                if (page->Choices().on[static_cast<std::size_t>(i)]
-                    == (character->OnReading() ? character->OnReading() : ""))
-                    ClickRadio(page->OnButton(i));
-                if (page->Choices().kun[static_cast<std::size_t>(i)]
-                    == (character->KunReading() ? character->KunReading() : ""))
-                    ClickRadio(page->KunButton(i));
-            }
-        } else {
-            WriteAll(Named<InputCanvas>(test->DrawingPage(), "inputCanvas"), *test->DrawingPage()->Glyph());
-        }
-        QVERIFY(Named<QPushButton>(test, "nextButton")->isEnabled());
-        QTest::mouseClick(Named<QPushButton>(test, "nextButton"), Qt::LeftButton);
+        AnswerQuestion(test, test->ShownPage() == test->ReadingPage() && missOnce.erase(code) > 0);
     }
 }
 
