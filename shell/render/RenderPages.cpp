@@ -15,9 +15,11 @@
 #include "DrawingTestPage.h"
 #include "FileCharacterDatabase.h"
 #include "Flattening.h"
+#include "HistoryDatabase.h"
 #include "HomePage.h"
 #include "InputCanvas.h"
 #include "KanjiInfoDialog.h"
+#include "LearnerSession.h"
 #include "LessonPage.h"
 #include "LexiconAccess.h"
 #include "MessageBoxPrompt.h"
@@ -25,8 +27,10 @@
 #include "PreferencesDialog.h"
 #include "ProgressWindow.h"
 #include "ReadingTestPage.h"
+#include "ReviewPage.h"
 #include "SplashWindow.h"
 #include "TestContainer.h"
+#include "TestSchedule.h"
 #include "Translations.h"
 #include "User.h"
 #include "UserManagerDialog.h"
@@ -109,6 +113,35 @@ void Write(InputCanvas* canvas, const Form& glyph, std::uint16_t stroke, float s
     for (std::size_t i = 1; i < points.size(); ++i)
         QTest::mouseMove(canvas, at(points[i]));
     QTest::mouseRelease(canvas, Qt::LeftButton, Qt::NoModifier, at(points.back()));
+}
+
+/// Answers the question `test` asks, and clicks Next: the readings chosen right (with `miss`,
+/// a wrong ON reading first), or the character written stroke by stroke.
+void Answer(CharacterDatabase& db, TestContainer& test, bool miss)
+{
+    const auto character = db.LoadCharacter(*test.Schedule().CurrentCode());
+    if (test.ShownPage() == test.ReadingPage()) {
+        ReadingTestPage* page = test.ReadingPage();
+        const std::string on = character->OnReading() ? character->OnReading() : "";
+        const std::string kun = character->KunReading() ? character->KunReading() : "";
+        auto click = [](QRadioButton* b) { QTest::mouseClick(b, Qt::LeftButton, Qt::NoModifier, QPoint(8, 8)); };
+        for (int i = 0; miss && i < 5; ++i)
+            if (page->Choices().on[static_cast<std::size_t>(i)] != on) {
+                click(page->OnButton(i));
+                break;
+            }
+        for (int i = 0; i < 5; ++i) {
+            if (page->Choices().on[static_cast<std::size_t>(i)] == on)
+                click(page->OnButton(i));
+            if (page->Choices().kun[static_cast<std::size_t>(i)] == kun)
+                click(page->KunButton(i));
+        }
+    } else {
+        const Form& glyph = *test.DrawingPage()->Glyph();
+        for (std::uint16_t k = 0; k < glyph.StrokeCount(); ++k)
+            Write(Named<InputCanvas>(test.DrawingPage(), "inputCanvas"), glyph, k, 0);
+    }
+    QTest::mouseClick(Named<QPushButton>(&test, "nextButton"), Qt::LeftButton);
 }
 
 /// The first character of the database whose meaning begins with `meaning`.
@@ -299,6 +332,32 @@ int main(int argc, char** argv)
     if (const ReviewSchedule::Review* review = reviews.Find(0, grade1[0]))
         dueInfo.SetNextReview(review->dueDay, today);
     ok &= Save(dueInfo, out, QStringLiteral("kanji-info-review"));
+
+    // A review sitting of what that year leaves due: the third character half-asked (its reading
+    // answered), then the summary after ten, the fourth forgotten.
+    {
+        QTemporaryDir folder;
+        std::ofstream(folder.filePath(QStringLiteral("config.xml")).toStdString()) << "<Zavoren><Users/></Zavoren>";
+        XmlConfigStore store(folder.filePath(QStringLiteral("config.xml")).toStdString(), db);
+        HistoryDatabase history({});
+        history.Attach(store);
+        LearnerSession session(db, store, history, [] { return std::string("2026-11-22T20:00:00+01:00"); });
+        session.Open(std::make_unique<User>(learner));
+        ReviewPage review(db, prompt, seeds, session);
+        review.SetSitting(10, false);
+        review.Start();
+        review.show();
+        ok &= QTest::qWaitForWindowExposed(&review);
+        TestContainer& test = *review.Test();
+        while (review.Sitting().AnsweredCount() < 2)
+            Answer(db, test, false);
+        Answer(db, test, false);
+        Write(Named<InputCanvas>(test.DrawingPage(), "inputCanvas"), *test.DrawingPage()->Glyph(), 0, 0);
+        ok &= Save(review, out, QStringLiteral("review-middle"));
+        for (int guard = 0; guard < 400 && !review.ShowsSummary(); ++guard)
+            Answer(db, test, review.Sitting().AnsweredCount() == 3 && test.ShownPage() == test.ReadingPage());
+        ok &= Save(review, out, QStringLiteral("review-summary"));
+    }
 
     ProgressWindow progress(db, prompt, learner, learner.History(), "2026-11-22T20:00:00+01:00", reviews);
     progress.setAttribute(Qt::WA_DeleteOnClose, false);
