@@ -16,12 +16,15 @@ struct LearnerEvent {
     static constexpr const char* Forget = "forget"; ///< removed from learned on the category page
     static constexpr const char* Learn = "learn"; ///< a lesson of this one new character begun
     static constexpr const char* Review = "review"; ///< a lesson of one character already taught
+    /// A learned character written from memory in a word of the words test: with its mistakes
+    /// (hints taken), or without a count when the learner gave up on the word before writing it.
+    static constexpr const char* Word = "word";
 
     std::string at; ///< local date and time, ISO 8601 with the offset: 2026-11-22T09:08:07+01:00
     std::string kind;
     std::uint16_t categoryId = 0;
     std::uint16_t id = 0;
-    int mistakes = -1; ///< for tests; -1 where it does not apply
+    int mistakes = -1; ///< for tests and words; -1 where it does not apply
 
     bool operator==(const LearnerEvent&) const = default;
 };

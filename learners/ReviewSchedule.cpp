@@ -9,6 +9,10 @@ std::optional<MemoryModel::Grade> MemoryLedger::GradeOf(const LearnerEvent& even
         return event.mistakes > 0 ? MemoryModel::Grade::Hard : MemoryModel::Grade::Good;
     if (event.kind == LearnerEvent::Failed)
         return MemoryModel::Grade::Again;
+    // A character of a word: written without a hint Good, with hints Hard, not written Again.
+    if (event.kind == LearnerEvent::Word)
+        return event.mistakes < 0 ? MemoryModel::Grade::Again
+                                  : (event.mistakes > 0 ? MemoryModel::Grade::Hard : MemoryModel::Grade::Good);
     return std::nullopt;
 }
 

@@ -27,8 +27,9 @@ struct LearnerMemories {
 };
 
 /// Folds a learner's history into the memory of each character: a test passed without mistakes
-/// is the grade Good, passed with mistakes Hard, failed Again; a Forget clears the character's
-/// memory; lessons, Learn, Review and Retest are no grades. The memories do not depend on the
+/// is the grade Good, passed with mistakes Hard, failed Again; a character written in a word
+/// likewise (not written: Again); a Forget clears the character's memory; lessons, Learn, Review
+/// and Retest are no grades. The memories do not depend on the
 /// desired retention or the maximum interval, so they can be kept and read back as they are.
 class MemoryLedger {
 public:

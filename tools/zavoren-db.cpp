@@ -11,6 +11,7 @@
 #include "Lexicon.h"
 #include "StrokeChecker.h"
 #include "StrokeVerdict.h"
+#include "WordsTest.h"
 #include "WritingQuiz.h"
 
 #include <algorithm>
@@ -48,7 +49,10 @@ const char* const Usage
       "      with --own-frame each stroke's place is judged in the learner's own character, with\n"
       "      --variants the other stroke orders are accepted, with --steady each stroke is steadied first\n"
       "  zavoren-db words --db PATH --lexicon PATH --char ID\n"
-      "      prints the character's parts (\"parts<TAB>...\"), then its words (writing<TAB>reading<TAB>meaning)\n";
+      "      prints the character's parts (\"parts<TAB>...\"), then its words (writing<TAB>reading<TAB>meaning)\n"
+      "  zavoren-db words-test --db PATH --lexicon PATH --learned ID,ID,... --category N [--seed S]\n"
+      "      prints the words (writing<TAB>reading<TAB>meaning) a words test of category N takes for a\n"
+      "      learner who has learned those characters, drawn with seed S (default 1)\n";
 
 int Fail(const std::string& message)
 {
@@ -421,47 +425,107 @@ int Write(const std::vector<std::string>& args)
     });
 }
 
+/// Reads the options of `command`: each of `names` takes a value, those of `required` must be
+/// given, nothing else may be. An empty string, or the message to fail with.
+std::string CommandOptions(const std::string& command, const std::vector<std::string>& args,
+    const std::vector<std::string>& names, const std::vector<std::string>& required,
+    std::map<std::string, std::string>& o)
+{
+    std::vector<std::string> positional;
+    std::string error;
+    if (!ParseOptions(args, names, o, positional, error))
+        return error;
+    for (const auto& [name, value] : o)
+        if (std::find(names.begin(), names.end(), name) == names.end())
+            return command + ": unknown option " + name;
+    if (!positional.empty())
+        return command + ": unexpected argument " + positional.front();
+    for (const std::string& name : required)
+        if (!o.count(name))
+            return command + " needs " + name + "\n" + Usage;
+    return {};
+}
+
+/// Opens the database and the lexicon made for it and hands them to `use`; their errors name
+/// the file.
+int WithLexicon(const std::string& databasePath, const std::string& lexiconPath,
+    const std::function<int(FileCharacterDatabase&, const Lexicon&)>& use)
+{
+    try {
+        FileCharacterDatabase database(databasePath);
+        database.Preload(nullptr);
+        try {
+            const Lexicon lexicon(lexiconPath);
+            lexicon.CheckMadeFor(DatabaseKey::Of(database));
+            return use(database, lexicon);
+        } catch (const ZavorenCommon::DatabaseLoadException& e) {
+            return Fail(lexiconPath + ": " + e.what());
+        }
+    } catch (const ZavorenCommon::DatabaseLoadException& e) {
+        return Fail(databasePath + ": " + e.what());
+    }
+}
+
 int Words(const std::vector<std::string>& args)
 {
     std::map<std::string, std::string> o;
-    std::vector<std::string> positional;
-    std::string error;
     const std::vector<std::string> names = {"--db", "--lexicon", "--char"};
-    if (!ParseOptions(args, names, o, positional, error))
+    if (const std::string error = CommandOptions("words", args, names, names, o); !error.empty())
         return Fail(error);
-    for (const auto& [name, value] : o)
-        if (std::find(names.begin(), names.end(), name) == names.end())
-            return Fail("words: unknown option " + name);
-    if (!positional.empty())
-        return Fail("words: unexpected argument " + positional.front());
-    for (const std::string& name : names)
-        if (!o.count(name))
-            return Fail("words needs " + name + "\n" + Usage);
     long id = 0;
     if (!ParseNumber(o["--char"], 0, 0xFFFF, id))
         return Fail("--char must be a character id from 0 to 65535");
-    try {
-        FileCharacterDatabase database(o["--db"]);
-        database.Preload(nullptr);
+    return WithLexicon(o["--db"], o["--lexicon"], [&](FileCharacterDatabase& database, const Lexicon& lexicon) {
         if (!database.CharacterExists(static_cast<std::uint16_t>(id)))
             return Fail(o["--db"] + ": no character " + std::to_string(id));
-        try {
-            const Lexicon lexicon(o["--lexicon"]);
-            lexicon.CheckMadeFor(DatabaseKey::Of(database));
-            std::cout << "parts\t";
-            const std::vector<LexiconPart> parts = lexicon.Parts(static_cast<std::uint16_t>(id));
-            for (std::size_t i = 0; i < parts.size(); ++i)
-                std::cout << (i ? " " : "") << Utf8(parts[i].codePoint);
-            std::cout << '\n';
-            for (const LexiconWord& word : lexicon.Words(static_cast<std::uint16_t>(id)))
-                std::cout << word.writing << '\t' << word.reading << '\t' << word.meaning << '\n';
-        } catch (const ZavorenCommon::DatabaseLoadException& e) {
-            return Fail(o["--lexicon"] + ": " + e.what());
-        }
-    } catch (const ZavorenCommon::DatabaseLoadException& e) {
-        return Fail(o["--db"] + ": " + e.what());
+        std::cout << "parts\t";
+        const std::vector<LexiconPart> parts = lexicon.Parts(static_cast<std::uint16_t>(id));
+        for (std::size_t i = 0; i < parts.size(); ++i)
+            std::cout << (i ? " " : "") << Utf8(parts[i].codePoint);
+        std::cout << '\n';
+        for (const LexiconWord& word : lexicon.Words(static_cast<std::uint16_t>(id)))
+            std::cout << word.writing << '\t' << word.reading << '\t' << word.meaning << '\n';
+        return 0;
+    });
+}
+
+int WordsTestCommand(const std::vector<std::string>& args)
+{
+    std::map<std::string, std::string> o;
+    if (const std::string error = CommandOptions("words-test", args, {"--db", "--lexicon", "--learned", "--category", "--seed"},
+            {"--db", "--lexicon", "--learned", "--category"}, o);
+        !error.empty())
+        return Fail(error);
+    long category = 0, seed = 1;
+    if (!ParseNumber(o["--category"], 0, 0xFFFF, category))
+        return Fail("--category must be a category id from 0 to 65535");
+    if (o.count("--seed") && !ParseNumber(o["--seed"], 0, 0xFFFFFFFFL, seed))
+        return Fail("--seed must be a number from 0 to 4294967295");
+    std::vector<std::uint16_t> learned;
+    std::stringstream list(o["--learned"]);
+    for (std::string item; std::getline(list, item, ',');) {
+        long id = 0;
+        if (!ParseNumber(item, 0, 0xFFFF, id))
+            return Fail("--learned must be character ids from 0 to 65535, separated by commas");
+        learned.push_back(static_cast<std::uint16_t>(id));
     }
-    return 0;
+    return WithLexicon(o["--db"], o["--lexicon"], [&](FileCharacterDatabase& database, const Lexicon& lexicon) {
+        if (category >= database.CategoryCount())
+            return Fail(o["--db"] + ": no category " + std::to_string(category));
+        std::sort(learned.begin(), learned.end());
+        const auto isLearned = [&](std::uint16_t id) { return std::binary_search(learned.begin(), learned.end(), id); };
+        // The category's learned characters in its teaching order.
+        std::vector<std::uint16_t> categoryLearned;
+        const auto members = database.LoadCategory(static_cast<std::uint16_t>(category));
+        for (std::uint16_t id : members->Characters())
+            if (isLearned(id))
+                categoryLearned.push_back(id);
+        Random15 random(static_cast<std::uint32_t>(seed));
+        for (const WordQuestion& word :
+            WordsTest::Choose(WordsTest::Eligible(lexicon, categoryLearned, isLearned), random, {}))
+            std::cout << word.writing << '\t' << word.reading << '\t' << word.meaning << '\n';
+        return 0;
+    });
 }
 
 } // namespace
@@ -486,6 +550,8 @@ int main(int argc, char** argv)
         return Write(args);
     if (command == "words")
         return Words(args);
+    if (command == "words-test")
+        return WordsTestCommand(args);
     if (command == "--help" || command == "-h" || command == "help") {
         std::cout << Usage;
         return 0;

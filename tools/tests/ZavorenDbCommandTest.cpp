@@ -2,6 +2,9 @@
 
 #include "FileCharacterDatabase.h"
 #include "Flattening.h"
+#include "Lexicon.h"
+#include "Utf8.h"
+#include "WordsTest.h"
 
 #include <gtest/gtest.h>
 
@@ -9,6 +12,8 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <set>
+#include <sstream>
 #include <string>
 #include <sys/wait.h>
 
@@ -299,4 +304,59 @@ TEST(ZavorenDb, WriteAcceptsAnotherStrokeOrderWithVariants)
     EXPECT_EQ(RunTool(plain + " --variants").output, RunTool(plain).output);
     std::filesystem::remove(ink);
     std::filesystem::remove(standard);
+}
+
+TEST(ZavorenDb, WordsTestTakesFiveWordsOfLearnedKanjiForEverySeed)
+{
+    // A learner who has learned all of Grade 1 and Grade 2; a words test of Grade 2.
+    FileCharacterDatabase database(Standard);
+    database.Preload(nullptr);
+    const Lexicon lexicon(ZAVOREN_STANDARD_LEXICON);
+    std::set<std::uint16_t> learned, grade2;
+    for (std::uint16_t category : {0, 1}) {
+        const auto members = database.LoadCategory(category);
+        for (std::uint16_t id : members->Characters()) {
+            learned.insert(id);
+            if (category == 1)
+                grade2.insert(id);
+        }
+    }
+    std::string list;
+    for (std::uint16_t id : learned)
+        list += (list.empty() ? "" : ",") + std::to_string(id);
+    const std::string base = "words-test --db " + Standard + " --lexicon " + ZAVOREN_STANDARD_LEXICON + " --learned "
+        + list + " --category 1 --seed ";
+    std::set<std::string> seen;
+    for (int seed = 1; seed <= 100; ++seed) {
+        const Result r = RunTool(base + std::to_string(seed));
+        ASSERT_EQ(r.exitCode, 0) << r.output;
+        std::istringstream lines(r.output);
+        std::set<std::string> writings;
+        for (std::string line; std::getline(lines, line);) {
+            const std::string writing = line.substr(0, line.find('\t'));
+            ASSERT_EQ(std::count(line.begin(), line.end(), '\t'), 2) << line;
+            EXPECT_TRUE(writings.insert(writing).second) << "twice: " << writing;
+            bool fromGrade2 = false;
+            for (char32_t c : CodePointsOf(writing)) {
+                if (WordsTest::IsKana(c))
+                    continue;
+                const std::uint16_t id = lexicon.CharacterOf(c);
+                EXPECT_TRUE(learned.count(id)) << writing << " has a character not learned";
+                fromGrade2 |= grade2.count(id) > 0;
+            }
+            EXPECT_TRUE(fromGrade2) << writing;
+            seen.insert(writing);
+        }
+        EXPECT_EQ(writings.size(), 5u) << "seed " << seed;
+    }
+    // The seeds draw many different words.
+    EXPECT_GT(seen.size(), 200u);
+
+    const Result unknown = RunTool(base.substr(0, base.find(" --category")) + " --category 99");
+    EXPECT_EQ(unknown.exitCode, 1);
+    EXPECT_NE(unknown.output.find("no category 99"), std::string::npos) << unknown.output;
+    const Result bad = RunTool("words-test --db " + Standard + " --lexicon " + ZAVOREN_STANDARD_LEXICON
+        + " --learned 1,two --category 1");
+    EXPECT_EQ(bad.exitCode, 1);
+    EXPECT_NE(bad.output.find("--learned must be character ids"), std::string::npos) << bad.output;
 }
