@@ -60,7 +60,25 @@ CategoryPage::CategoryPage(CharacterDatabase& database, Prompt& prompt, SeedSour
     connect(RetestButton(), &QPushButton::clicked, this, &CategoryPage::OnRetest);
     connect(ForgetButton(), &QPushButton::clicked, this, &CategoryPage::OnForget);
     connect(BackButton(), &QPushButton::clicked, this, &CategoryPage::Cancel);
+    // The words test's button, after Forget; only there while the words test is on.
+    m_wordsButton = new QPushButton(tr("&Words"), this);
+    m_wordsButton->setObjectName(QStringLiteral("wordsButton"));
+    m_wordsButton->setToolTip(tr("Write whole words made of the characters you have learned"));
+    m_wordsButton->hide();
+    m_ui->buttons->insertWidget(m_ui->buttons->indexOf(ForgetButton()) + 1, m_wordsButton);
+    connect(m_wordsButton, &QPushButton::clicked, this, [this] {
+        if (m_wordsButton->isEnabled())
+            emit pageEvent(Words, 0);
+    });
     RefreshButtons();
+}
+
+void CategoryPage::SetWordsTest(WordsAvailable available)
+{
+    m_wordsAvailable = std::move(available);
+    m_wordsButton->setVisible(static_cast<bool>(m_wordsAvailable));
+    if (m_category)
+        Refresh();
 }
 
 CategoryPage::CategoryPage(
@@ -168,6 +186,7 @@ void CategoryPage::Refresh()
     }
     Grid()->SetGroups({{tr("Learned Kanji"), learned}, {tr("Kanji to be Learned"), toLearn}});
     Strip()->SetGroups({{QString(), record ? record->Untested() : std::vector<std::uint16_t>{}}});
+    m_wordsFound = m_wordsAvailable && m_category && record && m_wordsAvailable(m_category->Id());
     RefreshButtons();
 }
 
@@ -181,6 +200,7 @@ void CategoryPage::RefreshButtons()
     TestButton()->setEnabled(s.testEnabled);
     RetestButton()->setEnabled(s.retestEnabled);
     LessonButton()->setEnabled(s.lessonEnabled);
+    m_wordsButton->setEnabled(m_wordsFound);
     m_learnAction->setEnabled(s.lessonEnabled);
     Strip()->SetEmptyMessage(tr(s.lessonEnabled ? LessonHint : CategoryComplete));
     SetDefaultButton(s.testIsDefault ? TestButton() : LessonButton());

@@ -12,6 +12,8 @@
 
 #include <QHash>
 
+#include <functional>
+
 #include <memory>
 #include <optional>
 #include <vector>
@@ -29,11 +31,11 @@ class CategoryPage;
 
 /// One category for the current learner: all its characters in the groups "Learned Kanji" and
 /// "Kanji to be Learned", and the strip of untested characters. Events: 0 Lesson, 1 Learn (with
-/// the character's code), 2 Test (also after Retest), 3 Back.
+/// the character's code), 2 Test (also after Retest), 3 Back, 4 Words (the words test).
 class CategoryPage : public Page {
     Q_OBJECT
 public:
-    enum Event : quint16 { Lesson = 0, Learn = 1, Test = 2, Back = 3 };
+    enum Event : quint16 { Lesson = 0, Learn = 1, Test = 2, Back = 3, Words = 4 };
     enum Group { LearnedGroup = 0, ToBeLearnedGroup = 1 };
 
     /// Messages go through `prompt`; random draws are seeded from `seeds`.
@@ -58,6 +60,10 @@ public:
     void SetWords(WordContext context) { m_words = std::move(context); }
     /// Kanji Info shows the other stroke orders of a character.
     void SetOtherOrders(bool on) { m_otherOrders = on; }
+    /// Whether a words test of a category can find a word: the Words button is there and enabled
+    /// when it can (none: no button, the page as it always was).
+    using WordsAvailable = std::function<bool(std::uint16_t categoryId)>;
+    void SetWordsTest(WordsAvailable available);
     /// The characters a test of the category takes now.
     std::vector<std::uint16_t> TestCharacters() const;
     /// A lesson of the category finished, having taught `taught`: recorded in the learner's
@@ -86,6 +92,9 @@ private:
     QPushButton* RetestButton() const;
     QPushButton* ForgetButton() const;
     QPushButton* BackButton() const;
+    QPushButton* m_wordsButton = nullptr;
+    WordsAvailable m_wordsAvailable;
+    bool m_wordsFound = false; ///< read again on each Refresh
     /// The three context menus: "Learned", "Unlearned", "Untested".
     QMenu* LearnedMenu() const { return m_learnedMenu; }
     QMenu* UnlearnedMenu() const { return m_unlearnedMenu; }

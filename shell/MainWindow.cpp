@@ -19,6 +19,7 @@
 #include "TestContainer.h"
 #include "UserManagerDialog.h"
 #include "WindowKeys.h"
+#include "WordsTestPage.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -42,10 +43,11 @@ MainWindow::MainWindow(CharacterDatabase& database, LearnerSession& session, Pro
     m_test = new TestContainer(database, prompt, m_seeds);
     m_category = new CategoryPage(database, prompt, m_seeds, session);
     m_review = new ReviewPage(database, prompt, m_seeds, session);
+    m_words = new WordsTestPage(database, prompt, m_seeds, session);
     // The aids decide whether the feedback line is there: applied before any page takes its size.
-    m_preferences
-        = std::make_unique<PreferencesEditor>(PreferenceTargets{m_lesson, m_test, m_category, &session, m_review});
-    for (Page* page : std::initializer_list<Page*>{m_home, m_lesson, m_test, m_category, m_review}) {
+    m_preferences = std::make_unique<PreferencesEditor>(
+        PreferenceTargets{m_lesson, m_test, m_category, &session, m_review, m_words});
+    for (Page* page : std::initializer_list<Page*>{m_home, m_lesson, m_test, m_category, m_review, m_words}) {
         m_pages->Add(page);
         connect(
             page, &Page::pageEvent, this,
@@ -78,7 +80,7 @@ void MainWindow::BuildMenu()
         if (!m_preferences->Edit(this))
             return;
         // The feedback line shows or hides under the canvases: the pages take their new sizes.
-        for (Page* page : std::initializer_list<Page*>{m_lesson, m_test, m_review})
+        for (Page* page : std::initializer_list<Page*>{m_lesson, m_test, m_review, m_words})
             m_pages->Refit(page);
         FitToPage();
     });
@@ -218,12 +220,18 @@ void MainWindow::OnPageEvent(Page* page, quint16 code, quint16 argument)
         ShowPage(m_review->Start() ? static_cast<Page*>(m_review) : m_home);
     } else if (page == m_review) {
         ShowPage(m_home);
+    } else if (page == m_words) {
+        ShowPage(m_category);
     } else if (page == m_category) {
         switch (code) {
         case CategoryPage::Lesson: m_lesson->StartLesson(m_category->PickLessonCharacters(LessonSize)); break;
         case CategoryPage::Learn: m_lesson->StartLesson({argument}); break;
         case CategoryPage::Test: m_test->StartTest(m_category->TestCharacters()); break;
         case CategoryPage::Back: ShowPage(m_home); return;
+        case CategoryPage::Words:
+            if (m_category->CategoryId() && m_words->Start(*m_category->CategoryId()))
+                ShowPage(m_words);
+            return;
         }
         ShowPage(code == CategoryPage::Test ? static_cast<Page*>(m_test) : m_lesson);
     } else if (page == m_lesson && (code == LessonPage::Finished || code == LessonPage::Aborted)) {

@@ -14,6 +14,7 @@
 
 class CategoryPage;
 class ReviewPage;
+class WordsTestPage;
 class CharacterDatabase;
 class HomePage;
 class LearnerSession;
@@ -82,6 +83,7 @@ private:
     TestContainer* m_test = nullptr;
     CategoryPage* m_category = nullptr;
     ReviewPage* m_review = nullptr;
+    WordsTestPage* m_words = nullptr;
     std::unique_ptr<PreferencesEditor> m_preferences;
     std::unique_ptr<User> m_chosenAtStart;
     std::string m_managerChoice;

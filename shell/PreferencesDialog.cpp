@@ -42,6 +42,10 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
     m_wordAfterAnswer->setToolTip(tr("In the reading test, a common word that uses the character with the "
                                      "reading you have just chosen"));
     m_wordAfterAnswer->setChecked(preferences.wordAfterAnswer);
+    m_wordsTest = new QCheckBox(tr("Words test"), this);
+    m_wordsTest->setToolTip(tr("A Words button on the category page: write whole words made of the characters "
+                               "you have learned"));
+    m_wordsTest->setChecked(preferences.wordsTest);
     m_reviews = new QCheckBox(tr("Review characters when they are due"), this);
     m_reviews->setToolTip(tr("Each learned character comes back for a test when you are about to forget it"));
     m_reviews->setChecked(preferences.reviewWhenDue);
@@ -49,7 +53,7 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
     m_writingOnly->setToolTip(tr("A review asks you to write each character, not to choose its readings"));
     m_writingOnly->setChecked(preferences.reviewWritingOnly);
     for (QCheckBox* box : {m_explain, m_grid, m_hint, m_ownFrame, m_otherOrders, m_steady, m_onScreen, m_words,
-             m_wordAfterAnswer, m_reviews, m_writingOnly})
+             m_wordAfterAnswer, m_wordsTest, m_reviews, m_writingOnly})
         box->setAccessibleName(box->text());
     // A heading for what each group of aids changes, the groups in two columns so that the
     // dialog stays one screen tall on a small screen at ratio 2.
@@ -67,7 +71,7 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
         return new QVBoxLayout(box);
     };
     QVBoxLayout* writing = group(left, tr("Writing"), "writingGroup");
-    for (QCheckBox* box : {m_explain, m_grid, m_hint, m_ownFrame, m_otherOrders, m_steady})
+    for (QCheckBox* box : {m_explain, m_grid, m_hint, m_ownFrame, m_otherOrders, m_steady, m_wordsTest})
         writing->addWidget(box);
     QVBoxLayout* reviews = group(right, tr("Reviews"), "reviewsGroup");
     reviews->addWidget(m_reviews);
@@ -142,6 +146,7 @@ CoachingPreferences PreferencesDialog::Chosen() const
     chosen.wordAfterAnswer = m_wordAfterAnswer->isChecked();
     chosen.otherOrders = m_otherOrders->isChecked();
     chosen.steadyInk = m_steady->isChecked();
+    chosen.wordsTest = m_wordsTest->isChecked();
     chosen.reviewsPerSitting = m_sitting->value();
     chosen.reviewWritingOnly = m_writingOnly->isChecked();
     return chosen;

@@ -29,6 +29,7 @@ private:
     QCheckBox* m_reviews = nullptr;
     QCheckBox* m_words = nullptr;
     QCheckBox* m_wordAfterAnswer = nullptr;
+    QCheckBox* m_wordsTest = nullptr;
     QDoubleSpinBox* m_retention = nullptr;
     QSpinBox* m_interval = nullptr;
     QSpinBox* m_sitting = nullptr;

@@ -8,6 +8,7 @@
 #include "PreferencesDialog.h"
 #include "ReadingTestPage.h"
 #include "ReviewPage.h"
+#include "WordsTestPage.h"
 #include "TestContainer.h"
 
 PreferencesEditor::PreferencesEditor(PreferenceTargets targets) : m_targets(targets)
@@ -39,6 +40,8 @@ void PreferencesEditor::Apply(const CoachingPreferences& preferences)
             test->DrawingPage()->SetCoaching(preferences);
     if (m_targets.review)
         m_targets.review->SetSitting(preferences.reviewsPerSitting, preferences.reviewWritingOnly);
+    if (m_targets.words)
+        m_targets.words->SetCoaching(preferences);
     LearnerSession* session = m_targets.session;
     if (!session)
         return;
@@ -52,9 +55,18 @@ void PreferencesEditor::Apply(const CoachingPreferences& preferences)
         m_targets.review->SetWords(context);
         m_targets.review->SetOtherOrders(preferences.otherOrders);
     }
+    if (m_targets.words) {
+        m_targets.words->SetWords(context);
+        m_targets.words->SetOtherOrders(preferences.otherOrders);
+    }
     if (m_targets.category) {
         m_targets.category->SetWords(std::move(context));
         m_targets.category->SetOtherOrders(preferences.otherOrders);
+        WordsTestPage* words = m_targets.words;
+        if (words && preferences.wordsTest)
+            m_targets.category->SetWordsTest([words](std::uint16_t id) { return !words->Eligible(id).empty(); });
+        else
+            m_targets.category->SetWordsTest(nullptr);
     }
     for (TestContainer* test : tests)
         if (test)

@@ -7,6 +7,7 @@ class CategoryPage;
 class LearnerSession;
 class LessonPage;
 class ReviewPage;
+class WordsTestPage;
 class TestContainer;
 class QWidget;
 
@@ -18,6 +19,7 @@ struct PreferenceTargets {
     CategoryPage* category = nullptr;
     LearnerSession* session = nullptr;
     ReviewPage* review = nullptr;
+    WordsTestPage* words = nullptr;
 };
 
 /// The aids as chosen in Tools > Preferences…, kept in the settings file and applied to the

@@ -28,6 +28,7 @@ const char* const WordsKey = "Preferences/WordsAndPartsInKanjiInfo";
 const char* const WordAfterAnswerKey = "Preferences/WordAfterEachAnswer";
 const char* const OtherOrdersKey = "Preferences/AcceptOtherStrokeOrders";
 const char* const SteadyInkKey = "Preferences/SteadyMyInk";
+const char* const WordsTestKey = "Preferences/WordsTest";
 const char* const SittingKey = "Preferences/ReviewsInOneSitting";
 const char* const WritingOnlyKey = "Preferences/ReviewByWritingOnly";
 
@@ -89,6 +90,7 @@ CoachingPreferences ProgramSettings::Coaching() const
     p.wordAfterAnswer = settings.value(QLatin1String(WordAfterAnswerKey), p.wordAfterAnswer).toBool();
     p.otherOrders = settings.value(QLatin1String(OtherOrdersKey), p.otherOrders).toBool();
     p.steadyInk = settings.value(QLatin1String(SteadyInkKey), p.steadyInk).toBool();
+    p.wordsTest = settings.value(QLatin1String(WordsTestKey), p.wordsTest).toBool();
     p.reviewWritingOnly = settings.value(QLatin1String(WritingOnlyKey), p.reviewWritingOnly).toBool();
     // A value edited out of range by hand is brought back into it.
     bool ok = false;
@@ -120,6 +122,7 @@ void ProgramSettings::StoreCoaching(const CoachingPreferences& preferences)
     settings.setValue(QLatin1String(WordAfterAnswerKey), preferences.wordAfterAnswer);
     settings.setValue(QLatin1String(OtherOrdersKey), preferences.otherOrders);
     settings.setValue(QLatin1String(SteadyInkKey), preferences.steadyInk);
+    settings.setValue(QLatin1String(WordsTestKey), preferences.wordsTest);
     settings.setValue(QLatin1String(SittingKey), preferences.reviewsPerSitting);
     settings.setValue(QLatin1String(WritingOnlyKey), preferences.reviewWritingOnly);
 }

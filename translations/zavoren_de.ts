@@ -161,6 +161,14 @@ Die Zeichendatenbank ist ein abgeleitetes Werk unter CC BY-SA.</translation>
         <source>Kanji to be Learned</source>
         <translation>Noch zu lernende Kanji</translation>
     </message>
+    <message>
+        <source>&amp;Words</source>
+        <translation>&amp;Wörter</translation>
+    </message>
+    <message>
+        <source>Write whole words made of the characters you have learned</source>
+        <translation>Ganze Wörter aus den gelernten Zeichen schreiben</translation>
+    </message>
 </context>
 <context>
     <name>CharacterGrid</name>
@@ -711,6 +719,14 @@ Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</transl
         <source>Reviews in one &amp;sitting:</source>
         <translation>Wiederholungen pro &amp;Sitzung:</translation>
     </message>
+    <message>
+        <source>Words test</source>
+        <translation>Wörtertest</translation>
+    </message>
+    <message>
+        <source>A Words button on the category page: write whole words made of the characters you have learned</source>
+        <translation>Eine Schaltfläche „Wörter“ auf der Kategorieseite: ganze Wörter aus den gelernten Zeichen schreiben</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>
@@ -1073,6 +1089,53 @@ Vergessen: %4</translation>
     <message>
         <source>Delete user?</source>
         <translation>Benutzer entfernen?</translation>
+    </message>
+</context>
+<context>
+    <name>WordsTestPage</name>
+    <message>
+        <source>Words test</source>
+        <translation>Wörtertest</translation>
+    </message>
+    <message>
+        <source>&amp;Hint</source>
+        <translation>&amp;Hinweis</translation>
+    </message>
+    <message>
+        <source>I &amp;don&apos;t know</source>
+        <translation>Ich weiß es &amp;nicht</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>Word %1 of %2</source>
+        <translation>Wort %1 von %2</translation>
+    </message>
+    <message>
+        <source>Reading: %1</source>
+        <translation>Lesung: %1</translation>
+    </message>
+    <message>
+        <source>Meaning: %1</source>
+        <translation>Bedeutung: %1</translation>
+    </message>
+    <message>
+        <source>Square %1 of the word</source>
+        <translation>Feld %1 des Wortes</translation>
+    </message>
+    <message>
+        <source>Click for Kanji Info</source>
+        <translation>Klicken für die Kanji-Info</translation>
+    </message>
+    <message>
+        <source>The word: %1, read %2</source>
+        <translation>Das Wort: %1, gelesen %2</translation>
     </message>
 </context>
 <context>

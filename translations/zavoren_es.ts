@@ -161,6 +161,14 @@ La base de caracteres es una obra derivada compartida bajo CC BY-SA.</translatio
         <source>Kanji to be Learned</source>
         <translation>Kanji por aprender</translation>
     </message>
+    <message>
+        <source>&amp;Words</source>
+        <translation>Pala&amp;bras</translation>
+    </message>
+    <message>
+        <source>Write whole words made of the characters you have learned</source>
+        <translation>Escribir palabras enteras con los caracteres aprendidos</translation>
+    </message>
 </context>
 <context>
     <name>CharacterGrid</name>
@@ -711,6 +719,14 @@ Sí lo sustituye; No importa al alumno con otro nombre.</translation>
         <source>Reviews in one &amp;sitting:</source>
         <translation>Repasos por &amp;sesión:</translation>
     </message>
+    <message>
+        <source>Words test</source>
+        <translation>Prueba de palabras</translation>
+    </message>
+    <message>
+        <source>A Words button on the category page: write whole words made of the characters you have learned</source>
+        <translation>Un botón Palabras en la página de categoría: escribir palabras enteras con los caracteres aprendidos</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>
@@ -1073,6 +1089,53 @@ Olvidados: %4</translation>
     <message>
         <source>Delete user?</source>
         <translation>¿Eliminar el usuario?</translation>
+    </message>
+</context>
+<context>
+    <name>WordsTestPage</name>
+    <message>
+        <source>Words test</source>
+        <translation>Prueba de palabras</translation>
+    </message>
+    <message>
+        <source>&amp;Hint</source>
+        <translation>&amp;Pista</translation>
+    </message>
+    <message>
+        <source>I &amp;don&apos;t know</source>
+        <translation>&amp;No lo sé</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Abandonar</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Siguiente</translation>
+    </message>
+    <message>
+        <source>Word %1 of %2</source>
+        <translation>Palabra %1 de %2</translation>
+    </message>
+    <message>
+        <source>Reading: %1</source>
+        <translation>Lectura: %1</translation>
+    </message>
+    <message>
+        <source>Meaning: %1</source>
+        <translation>Significado: %1</translation>
+    </message>
+    <message>
+        <source>Square %1 of the word</source>
+        <translation>Casilla %1 de la palabra</translation>
+    </message>
+    <message>
+        <source>Click for Kanji Info</source>
+        <translation>Haga clic para la información del kanji</translation>
+    </message>
+    <message>
+        <source>The word: %1, read %2</source>
+        <translation>La palabra: %1, leída %2</translation>
     </message>
 </context>
 <context>

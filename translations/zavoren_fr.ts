@@ -161,6 +161,14 @@ La base de caractères est une œuvre dérivée partagée sous CC BY-SA.</transl
         <source>Kanji to be Learned</source>
         <translation>Kanji à apprendre</translation>
     </message>
+    <message>
+        <source>&amp;Words</source>
+        <translation>&amp;Mots</translation>
+    </message>
+    <message>
+        <source>Write whole words made of the characters you have learned</source>
+        <translation>Écrire des mots entiers faits des caractères appris</translation>
+    </message>
 </context>
 <context>
     <name>CharacterGrid</name>
@@ -711,6 +719,14 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
         <source>Reviews in one &amp;sitting:</source>
         <translation>Révisions par &amp;séance :</translation>
     </message>
+    <message>
+        <source>Words test</source>
+        <translation>Test de mots</translation>
+    </message>
+    <message>
+        <source>A Words button on the category page: write whole words made of the characters you have learned</source>
+        <translation>Un bouton Mots sur la page de catégorie : écrire des mots entiers faits des caractères appris</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>
@@ -1073,6 +1089,53 @@ Oubliés : %4</translation>
     <message>
         <source>Delete user?</source>
         <translation>Supprimer l’utilisateur ?</translation>
+    </message>
+</context>
+<context>
+    <name>WordsTestPage</name>
+    <message>
+        <source>Words test</source>
+        <translation>Test de mots</translation>
+    </message>
+    <message>
+        <source>&amp;Hint</source>
+        <translation>&amp;Indice</translation>
+    </message>
+    <message>
+        <source>I &amp;don&apos;t know</source>
+        <translation>Je ne sais &amp;pas</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Abandonner</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Suivant</translation>
+    </message>
+    <message>
+        <source>Word %1 of %2</source>
+        <translation>Mot %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Reading: %1</source>
+        <translation>Lecture : %1</translation>
+    </message>
+    <message>
+        <source>Meaning: %1</source>
+        <translation>Sens : %1</translation>
+    </message>
+    <message>
+        <source>Square %1 of the word</source>
+        <translation>Case %1 du mot</translation>
+    </message>
+    <message>
+        <source>Click for Kanji Info</source>
+        <translation>Cliquer pour les infos du kanji</translation>
+    </message>
+    <message>
+        <source>The word: %1, read %2</source>
+        <translation>Le mot : %1, lu %2</translation>
     </message>
 </context>
 <context>

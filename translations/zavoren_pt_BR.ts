@@ -161,6 +161,14 @@ A base de caracteres é uma obra derivada compartilhada sob CC BY-SA.</translati
         <source>Kanji to be Learned</source>
         <translation>Kanji a aprender</translation>
     </message>
+    <message>
+        <source>&amp;Words</source>
+        <translation>&amp;Palavras</translation>
+    </message>
+    <message>
+        <source>Write whole words made of the characters you have learned</source>
+        <translation>Escrever palavras inteiras com os caracteres aprendidos</translation>
+    </message>
 </context>
 <context>
     <name>CharacterGrid</name>
@@ -711,6 +719,14 @@ Sim substitui; Não importa o aluno com outro nome.</translation>
         <source>Reviews in one &amp;sitting:</source>
         <translation>Revisões por &amp;sessão:</translation>
     </message>
+    <message>
+        <source>Words test</source>
+        <translation>Teste de palavras</translation>
+    </message>
+    <message>
+        <source>A Words button on the category page: write whole words made of the characters you have learned</source>
+        <translation>Um botão Palavras na página da categoria: escrever palavras inteiras com os caracteres aprendidos</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>
@@ -1073,6 +1089,53 @@ Esquecidos: %4</translation>
     <message>
         <source>Delete user?</source>
         <translation>Excluir o usuário?</translation>
+    </message>
+</context>
+<context>
+    <name>WordsTestPage</name>
+    <message>
+        <source>Words test</source>
+        <translation>Teste de palavras</translation>
+    </message>
+    <message>
+        <source>&amp;Hint</source>
+        <translation>&amp;Dica</translation>
+    </message>
+    <message>
+        <source>I &amp;don&apos;t know</source>
+        <translation>&amp;Não sei</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Abandonar</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Próximo</translation>
+    </message>
+    <message>
+        <source>Word %1 of %2</source>
+        <translation>Palavra %1 de %2</translation>
+    </message>
+    <message>
+        <source>Reading: %1</source>
+        <translation>Leitura: %1</translation>
+    </message>
+    <message>
+        <source>Meaning: %1</source>
+        <translation>Significado: %1</translation>
+    </message>
+    <message>
+        <source>Square %1 of the word</source>
+        <translation>Quadro %1 da palavra</translation>
+    </message>
+    <message>
+        <source>Click for Kanji Info</source>
+        <translation>Clique para as informações do kanji</translation>
+    </message>
+    <message>
+        <source>The word: %1, read %2</source>
+        <translation>A palavra: %1, lida %2</translation>
     </message>
 </context>
 <context>

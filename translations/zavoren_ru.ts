@@ -161,6 +161,14 @@ The character database is a derived work shared under CC BY-SA.</source>
         <source>Kanji to be Learned</source>
         <translation>Кандзи для изучения</translation>
     </message>
+    <message>
+        <source>&amp;Words</source>
+        <translation>&amp;Слова</translation>
+    </message>
+    <message>
+        <source>Write whole words made of the characters you have learned</source>
+        <translation>Писать целые слова из выученных знаков</translation>
+    </message>
 </context>
 <context>
     <name>CharacterGrid</name>
@@ -712,6 +720,14 @@ Yes replaces it; No imports the learner under another name.</source>
         <source>Reviews in one &amp;sitting:</source>
         <translation>Повторений за один &amp;раз:</translation>
     </message>
+    <message>
+        <source>Words test</source>
+        <translation>Тест слов</translation>
+    </message>
+    <message>
+        <source>A Words button on the category page: write whole words made of the characters you have learned</source>
+        <translation>Кнопка «Слова» на странице категории: писать целые слова из выученных знаков</translation>
+    </message>
 </context>
 <context>
     <name>ProgressViewer</name>
@@ -1074,6 +1090,53 @@ Forgotten: %4</source>
     <message>
         <source>Delete user?</source>
         <translation>Удалить пользователя?</translation>
+    </message>
+</context>
+<context>
+    <name>WordsTestPage</name>
+    <message>
+        <source>Words test</source>
+        <translation>Тест слов</translation>
+    </message>
+    <message>
+        <source>&amp;Hint</source>
+        <translation>&amp;Подсказка</translation>
+    </message>
+    <message>
+        <source>I &amp;don&apos;t know</source>
+        <translation>Не &amp;знаю</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Прервать</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Далее</translation>
+    </message>
+    <message>
+        <source>Word %1 of %2</source>
+        <translation>Слово %1 из %2</translation>
+    </message>
+    <message>
+        <source>Reading: %1</source>
+        <translation>Чтение: %1</translation>
+    </message>
+    <message>
+        <source>Meaning: %1</source>
+        <translation>Значение: %1</translation>
+    </message>
+    <message>
+        <source>Square %1 of the word</source>
+        <translation>Клетка %1 слова</translation>
+    </message>
+    <message>
+        <source>Click for Kanji Info</source>
+        <translation>Щёлкните, чтобы открыть сведения о знаке</translation>
+    </message>
+    <message>
+        <source>The word: %1, read %2</source>
+        <translation>Слово: %1, читается %2</translation>
     </message>
 </context>
 <context>

@@ -32,6 +32,8 @@ struct CoachingPreferences {
     /// A finished stroke is steadied (resampled and smoothed, its corners kept) before it is
     /// judged: a shaking hand's or a finger's jitter is not refused as a wrong length or shape.
     bool steadyInk = true;
+    /// The category page has a Words button: a test of whole words made of learned characters.
+    bool wordsTest = true;
     /// A review sitting takes at most this many due characters (10 to 500).
     int reviewsPerSitting = 50;
     /// A review sitting asks only to write each character, not its readings.
@@ -44,6 +46,7 @@ struct CoachingPreferences {
         off.wordAfterAnswer = false;
         off.otherOrders = false;
         off.steadyInk = false;
+        off.wordsTest = false;
         return off;
     }
     bool operator==(const CoachingPreferences&) const = default;

@@ -577,7 +577,8 @@ private slots:
                         QStringLiteral("Practice grid"),
                         QStringLiteral("Show where a stroke starts after three misses"),
                         QStringLiteral("Judge place by my own character"), QStringLiteral("Accept other stroke orders"),
-                        QStringLiteral("Steady my ink"), QStringLiteral("Review characters when they are due"),
+                        QStringLiteral("Steady my ink"), QStringLiteral("Words test"),
+                        QStringLiteral("Review characters when they are due"),
                         QStringLiteral("Review by writing only"), QStringLiteral("Show words and parts in Kanji Info"),
                         QStringLiteral("Show a word after each answer"),
                         QStringLiteral("Bring the window onto the screen at start")};
