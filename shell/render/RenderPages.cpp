@@ -34,6 +34,7 @@
 #include "Translations.h"
 #include "User.h"
 #include "UserManagerDialog.h"
+#include "WordsTestPage.h"
 #include "XmlConfigStore.h"
 
 #include <QApplication>
@@ -207,6 +208,8 @@ int main(int argc, char** argv)
 
     CategoryPage category(db, prompt, seeds);
     category.SetCategory(0, ProgressRecorder(learner, 0, {}, {}));
+    // With the words test on: its button, enabled.
+    category.SetWordsTest([](std::uint16_t) { return true; });
     ok &= Save(category, out, QStringLiteral("category"));
 
     // 日: its first stroke written, then the second drawn too low (refused, with the arrow).
@@ -341,7 +344,8 @@ int main(int argc, char** argv)
         XmlConfigStore store(folder.filePath(QStringLiteral("config.xml")).toStdString(), db);
         HistoryDatabase history({});
         history.Attach(store);
-        LearnerSession session(db, store, history, [] { return std::string("2026-11-22T20:00:00+01:00"); });
+        LearnerSession session(
+            db, store, history, [] { return std::string("2026-11-22T20:00:00+01:00"); }, lexiconPath);
         session.Open(std::make_unique<User>(learner));
         ReviewPage review(db, prompt, seeds, session);
         review.SetSitting(10, false);
@@ -357,6 +361,40 @@ int main(int argc, char** argv)
         for (int guard = 0; guard < 400 && !review.ShowsSummary(); ++guard)
             Answer(db, test, review.Sitting().AnsweredCount() == 3 && test.ShownPage() == test.ReadingPage());
         ok &= Save(review, out, QStringLiteral("review-summary"));
+        review.hide();
+
+        // The words test of Grade 1: the first word of two kanji or more, its first square
+        // written, the second half-way; then the word shown after it.
+        WordsTestPage words(db, prompt, seeds, session);
+        if (words.Start(0)) {
+            words.show();
+            ok &= QTest::qWaitForWindowExposed(&words);
+            while (words.WordIndex() + 1 < words.Words().size() && words.Words()[words.WordIndex()].KanjiCount() < 2) {
+                QTest::mouseClick(Named<QPushButton>(&words, "dontKnowButton"), Qt::LeftButton);
+                QTest::mouseClick(Named<QPushButton>(&words, "nextButton"), Qt::LeftButton);
+            }
+            const WordQuestion& word = words.Words()[words.WordIndex()];
+            for (std::size_t i = 0; i < word.characters.size() && words.ActiveCell() >= 0; ++i) {
+                if (!words.Canvas(i))
+                    continue;
+                const auto element = db.LoadElement(db.LoadCharacter(word.characters[i])->ElementId());
+                const Form& glyph = element->GetForm(0);
+                const bool first = words.ActiveCell() == static_cast<int>(i) && i == 0;
+                const std::uint16_t strokes = first ? glyph.StrokeCount() : static_cast<std::uint16_t>(glyph.StrokeCount() / 2);
+                for (std::uint16_t k = 0; k < strokes; ++k)
+                    Write(words.Canvas(i), glyph, k, 0);
+                if (!first) {
+                    ok &= Save(words, out, QStringLiteral("words-half"));
+                    for (std::uint16_t k = strokes; k < glyph.StrokeCount(); ++k)
+                        Write(words.Canvas(i), glyph, k, 0);
+                }
+            }
+            QTest::mouseClick(Named<QPushButton>(&words, "dontKnowButton"), Qt::LeftButton);
+            ok &= Save(words, out, QStringLiteral("words-shown"));
+        } else {
+            std::fprintf(stderr, "render_pages: no words test for Grade 1\n");
+            ok = false;
+        }
     }
 
     ProgressWindow progress(db, prompt, learner, learner.History(), "2026-11-22T20:00:00+01:00", reviews);
