@@ -183,7 +183,7 @@ void HomePage::ShowDueTotal()
     m_dueTotal->setAccessibleName(m_dueTotal->text());
     m_dueTotal->show();
     m_reviewButton->setText(tr("&Review (%1)").arg(due));
-    m_reviewButton->setAccessibleName(tr("Review the %n characters due", nullptr, due));
+    m_reviewButton->setAccessibleName(tr("Review the characters due (%1)").arg(due));
     m_reviewButton->setVisible(due > 0);
 }
 
@@ -202,6 +202,14 @@ void HomePage::showEvent(QShowEvent* event)
         RefreshFromSession();
     UpdateButtons();
     CategoryList()->setFocus();
+}
+
+std::optional<std::uint16_t> HomePage::SelectedCategory() const
+{
+    const auto selected = CategoryList()->selectedItems();
+    if (selected.isEmpty())
+        return std::nullopt;
+    return static_cast<std::uint16_t>(selected.front()->data(0, Qt::UserRole).toUInt());
 }
 
 void HomePage::OnOpen()

@@ -41,6 +41,8 @@ public:
     /// What is due for review, shown with each category and in all; none (the aid off): the
     /// page as it always was.
     void SetReviews(std::optional<ReviewSchedule> reviews);
+    /// The category selected in the list, if any.
+    std::optional<std::uint16_t> SelectedCategory() const;
     /// The category chosen by the last Open.
     std::uint16_t ChosenCategory() const { return m_chosenCategory; }
 

@@ -10,6 +10,7 @@
 #include "FittedText.h"
 #include "KanjiInfoDialog.h"
 #include "LearnerSession.h"
+#include "PracticeSheetDialog.h"
 #include "Prompt.h"
 #include "SessionRecorder.h"
 #include "ui_CategoryPage.h"
@@ -54,6 +55,15 @@ CategoryPage::CategoryPage(CharacterDatabase& database, Prompt& prompt, SeedSour
     m_untestedMenu = new QMenu(tr("Untested"), this);
     m_untestedMenu->setObjectName(QStringLiteral("untestedMenu"));
     m_untestedMenu->setDefaultAction(m_untestedMenu->addAction(tr("&Info"), this, [this] { ShowInfo(Strip()); }));
+    // Every menu prints a practice sheet of the characters selected where it was opened.
+    for (auto [menu, grid] : {std::pair(m_learnedMenu, Grid()), std::pair(m_unlearnedMenu, Grid()),
+             std::pair(m_untestedMenu, Strip())}) {
+        m_sheetActions << menu->addSeparator();
+        m_sheetActions << menu->addAction(tr("&Print practice sheet…"), this, [this, grid] {
+            PracticeSheetDialog::Open(m_database, m_words.lexicon, m_prompt, grid->SelectedCodes(), this);
+        });
+    }
+    SetPracticeSheets(false);
 
     connect(LessonButton(), &QPushButton::clicked, this, [this] { emit pageEvent(Lesson, 0); });
     connect(TestButton(), &QPushButton::clicked, this, [this] { emit pageEvent(Test, 0); });
@@ -71,6 +81,12 @@ CategoryPage::CategoryPage(CharacterDatabase& database, Prompt& prompt, SeedSour
             emit pageEvent(Words, 0);
     });
     RefreshButtons();
+}
+
+void CategoryPage::SetPracticeSheets(bool on)
+{
+    for (QAction* action : m_sheetActions)
+        action->setVisible(on);
 }
 
 void CategoryPage::SetWordsTest(WordsAvailable available)
@@ -239,6 +255,12 @@ void CategoryPage::OnContextMenu(CharacterGrid* grid, int cell, const QPoint& gl
     QMenu* menu = grid == Strip() ? m_untestedMenu
                                   : (grid->FirstSelectedGroup() == LearnedGroup ? m_learnedMenu : m_unlearnedMenu);
     menu->popup(globalPosition, menu->defaultAction());
+}
+
+std::vector<std::uint16_t> CategoryPage::SelectedCharacters() const
+{
+    const std::vector<std::uint16_t> selected = Grid()->SelectedCodes();
+    return selected.empty() ? Strip()->SelectedCodes() : selected;
 }
 
 void CategoryPage::ShowInfo(CharacterGrid* grid)

@@ -64,6 +64,8 @@ public:
     /// when it can (none: no button, the page as it always was).
     using WordsAvailable = std::function<bool(std::uint16_t categoryId)>;
     void SetWordsTest(WordsAvailable available);
+    /// Whether the context menus offer "Print practice sheet…".
+    void SetPracticeSheets(bool on);
     /// The characters a test of the category takes now.
     std::vector<std::uint16_t> TestCharacters() const;
     /// A lesson of the category finished, having taught `taught`: recorded in the learner's
@@ -77,6 +79,8 @@ public:
     /// Refreshes grid, strip and buttons from the learner's record.
     void Refresh();
 
+    /// The characters selected in the grid, or else in the strip: what a practice sheet prints.
+    std::vector<std::uint16_t> SelectedCharacters() const;
     /// Opens the Kanji Info dialog for the first selected character of `grid` (modal).
     void ShowInfo(CharacterGrid* grid);
 
@@ -93,6 +97,7 @@ private:
     QPushButton* ForgetButton() const;
     QPushButton* BackButton() const;
     QPushButton* m_wordsButton = nullptr;
+    QList<QAction*> m_sheetActions; ///< each menu's item and the separator before it
     WordsAvailable m_wordsAvailable;
     bool m_wordsFound = false; ///< read again on each Refresh
     /// The three context menus: "Learned", "Unlearned", "Untested".

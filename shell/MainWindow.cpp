@@ -12,6 +12,7 @@
 #include "LearnerTransfer.h"
 #include "LessonPage.h"
 #include "PageStack.h"
+#include "PracticeSheetDialog.h"
 #include "ReviewPage.h"
 #include "Prompt.h"
 #include "ScreenPlacement.h"
@@ -46,7 +47,7 @@ MainWindow::MainWindow(CharacterDatabase& database, LearnerSession& session, Pro
     m_words = new WordsTestPage(database, prompt, m_seeds, session);
     // The aids decide whether the feedback line is there: applied before any page takes its size.
     m_preferences = std::make_unique<PreferencesEditor>(
-        PreferenceTargets{m_lesson, m_test, m_category, &session, m_review, m_words});
+        PreferenceTargets{m_lesson, m_test, m_category, &session, m_review, m_words, m_sheetAction});
     for (Page* page : std::initializer_list<Page*>{m_home, m_lesson, m_test, m_category, m_review, m_words}) {
         m_pages->Add(page);
         connect(
@@ -66,6 +67,16 @@ void MainWindow::BuildMenu()
     };
     QMenu* file = menuBar()->addMenu(tr("&File"));
     add(file, tr("Users"), "usersAction", &MainWindow::ChooseLearner);
+    file->addSeparator();
+    // The category page's selection, or the next lesson of the category selected at home.
+    m_learnerActions << (m_sheetAction = add(file, tr("Print practice sheet…"), "sheetAction", [this] {
+        PracticeSheetDialog::Open(m_database, m_preferences->Current().wordsAndParts ? &m_session.Lexicon() : nullptr,
+            m_prompt,
+            m_pages->Shown() == m_category
+                ? m_category->SelectedCharacters()
+                : PracticeSheetDialog::NextLesson(m_database, m_session.Learner(), m_home->SelectedCategory()),
+            this);
+    }));
     file->addSeparator();
     add(file, tr("Exit"), "exitAction", &QWidget::close);
     QMenu* tools = menuBar()->addMenu(tr("&Tools"));

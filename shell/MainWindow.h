@@ -84,6 +84,7 @@ private:
     CategoryPage* m_category = nullptr;
     ReviewPage* m_review = nullptr;
     WordsTestPage* m_words = nullptr;
+    QAction* m_sheetAction = nullptr;
     std::unique_ptr<PreferencesEditor> m_preferences;
     std::unique_ptr<User> m_chosenAtStart;
     std::string m_managerChoice;

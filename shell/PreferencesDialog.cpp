@@ -46,6 +46,9 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
     m_wordsTest->setToolTip(tr("A Words button on the category page: write whole words made of the characters "
                                "you have learned"));
     m_wordsTest->setChecked(preferences.wordsTest);
+    m_sheets = new QCheckBox(tr("Print practice sheets"), this);
+    m_sheets->setToolTip(tr("\"Print practice sheet…\" in the File menu and in the category page's menus"));
+    m_sheets->setChecked(preferences.practiceSheets);
     m_reviews = new QCheckBox(tr("Review characters when they are due"), this);
     m_reviews->setToolTip(tr("Each learned character comes back for a test when you are about to forget it"));
     m_reviews->setChecked(preferences.reviewWhenDue);
@@ -53,7 +56,7 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
     m_writingOnly->setToolTip(tr("A review asks you to write each character, not to choose its readings"));
     m_writingOnly->setChecked(preferences.reviewWritingOnly);
     for (QCheckBox* box : {m_explain, m_grid, m_hint, m_ownFrame, m_otherOrders, m_steady, m_onScreen, m_words,
-             m_wordAfterAnswer, m_wordsTest, m_reviews, m_writingOnly})
+             m_wordAfterAnswer, m_wordsTest, m_sheets, m_reviews, m_writingOnly})
         box->setAccessibleName(box->text());
     // A heading for what each group of aids changes, the groups in two columns so that the
     // dialog stays one screen tall on a small screen at ratio 2.
@@ -68,7 +71,10 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
         box->setObjectName(QLatin1String(name));
         box->setAccessibleName(title);
         column->addWidget(box);
-        return new QVBoxLayout(box);
+        // The boxes of a group packed a little closer than a layout's default.
+        auto* inside = new QVBoxLayout(box);
+        inside->setSpacing(2);
+        return inside;
     };
     QVBoxLayout* writing = group(left, tr("Writing"), "writingGroup");
     for (QCheckBox* box : {m_explain, m_grid, m_hint, m_ownFrame, m_otherOrders, m_steady, m_wordsTest})
@@ -120,7 +126,9 @@ PreferencesDialog::PreferencesDialog(const CoachingPreferences& preferences, QWi
     QVBoxLayout* words = group(right, tr("Words"), "wordsGroup");
     for (QCheckBox* box : {m_words, m_wordAfterAnswer})
         words->addWidget(box);
-    group(left, tr("Window"), "windowGroup")->addWidget(m_onScreen);
+    QVBoxLayout* window = group(left, tr("Window"), "windowGroup");
+    for (QCheckBox* box : {m_onScreen, m_sheets})
+        window->addWidget(box);
     left->addStretch();
     right->addStretch();
     auto follow = [this, retentionLabel, meaning, intervalLabel, sittingLabel](bool on) {
@@ -147,6 +155,7 @@ CoachingPreferences PreferencesDialog::Chosen() const
     chosen.otherOrders = m_otherOrders->isChecked();
     chosen.steadyInk = m_steady->isChecked();
     chosen.wordsTest = m_wordsTest->isChecked();
+    chosen.practiceSheets = m_sheets->isChecked();
     chosen.reviewsPerSitting = m_sitting->value();
     chosen.reviewWritingOnly = m_writingOnly->isChecked();
     return chosen;

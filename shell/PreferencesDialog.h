@@ -30,6 +30,7 @@ private:
     QCheckBox* m_words = nullptr;
     QCheckBox* m_wordAfterAnswer = nullptr;
     QCheckBox* m_wordsTest = nullptr;
+    QCheckBox* m_sheets = nullptr;
     QDoubleSpinBox* m_retention = nullptr;
     QSpinBox* m_interval = nullptr;
     QSpinBox* m_sitting = nullptr;

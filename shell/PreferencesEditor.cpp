@@ -11,6 +11,8 @@
 #include "WordsTestPage.h"
 #include "TestContainer.h"
 
+#include <QAction>
+
 PreferencesEditor::PreferencesEditor(PreferenceTargets targets) : m_targets(targets)
 {
     Apply(m_settings.Coaching());
@@ -42,6 +44,10 @@ void PreferencesEditor::Apply(const CoachingPreferences& preferences)
         m_targets.review->SetSitting(preferences.reviewsPerSitting, preferences.reviewWritingOnly);
     if (m_targets.words)
         m_targets.words->SetCoaching(preferences);
+    if (m_targets.sheetAction)
+        m_targets.sheetAction->setVisible(preferences.practiceSheets);
+    if (m_targets.category)
+        m_targets.category->SetPracticeSheets(preferences.practiceSheets);
     LearnerSession* session = m_targets.session;
     if (!session)
         return;

@@ -6,6 +6,7 @@
 class CategoryPage;
 class LearnerSession;
 class LessonPage;
+class QAction;
 class ReviewPage;
 class WordsTestPage;
 class TestContainer;
@@ -20,6 +21,7 @@ struct PreferenceTargets {
     LearnerSession* session = nullptr;
     ReviewPage* review = nullptr;
     WordsTestPage* words = nullptr;
+    QAction* sheetAction = nullptr; ///< File > Print practice sheet…
 };
 
 /// The aids as chosen in Tools > Preferences…, kept in the settings file and applied to the

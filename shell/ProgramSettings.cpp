@@ -29,6 +29,7 @@ const char* const WordAfterAnswerKey = "Preferences/WordAfterEachAnswer";
 const char* const OtherOrdersKey = "Preferences/AcceptOtherStrokeOrders";
 const char* const SteadyInkKey = "Preferences/SteadyMyInk";
 const char* const WordsTestKey = "Preferences/WordsTest";
+const char* const SheetsKey = "Preferences/PracticeSheets";
 const char* const SittingKey = "Preferences/ReviewsInOneSitting";
 const char* const WritingOnlyKey = "Preferences/ReviewByWritingOnly";
 
@@ -91,6 +92,7 @@ CoachingPreferences ProgramSettings::Coaching() const
     p.otherOrders = settings.value(QLatin1String(OtherOrdersKey), p.otherOrders).toBool();
     p.steadyInk = settings.value(QLatin1String(SteadyInkKey), p.steadyInk).toBool();
     p.wordsTest = settings.value(QLatin1String(WordsTestKey), p.wordsTest).toBool();
+    p.practiceSheets = settings.value(QLatin1String(SheetsKey), p.practiceSheets).toBool();
     p.reviewWritingOnly = settings.value(QLatin1String(WritingOnlyKey), p.reviewWritingOnly).toBool();
     // A value edited out of range by hand is brought back into it.
     bool ok = false;
@@ -123,6 +125,7 @@ void ProgramSettings::StoreCoaching(const CoachingPreferences& preferences)
     settings.setValue(QLatin1String(OtherOrdersKey), preferences.otherOrders);
     settings.setValue(QLatin1String(SteadyInkKey), preferences.steadyInk);
     settings.setValue(QLatin1String(WordsTestKey), preferences.wordsTest);
+    settings.setValue(QLatin1String(SheetsKey), preferences.practiceSheets);
     settings.setValue(QLatin1String(SittingKey), preferences.reviewsPerSitting);
     settings.setValue(QLatin1String(WritingOnlyKey), preferences.reviewWritingOnly);
 }

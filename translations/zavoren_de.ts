@@ -169,6 +169,10 @@ Die Zeichendatenbank ist ein abgeleitetes Werk unter CC BY-SA.</translation>
         <source>Write whole words made of the characters you have learned</source>
         <translation>Ganze Wörter aus den gelernten Zeichen schreiben</translation>
     </message>
+    <message>
+        <source>&amp;Print practice sheet…</source>
+        <translation>&amp;Übungsblatt drucken…</translation>
+    </message>
 </context>
 <context>
     <name>CharacterGrid</name>
@@ -324,12 +328,9 @@ Möchten Sie einen Minidump davon erhalten?</translation>
         <source>&amp;Review (%1)</source>
         <translation>&amp;Wiederholen (%1)</translation>
     </message>
-    <message numerus="yes">
-        <source>Review the %n characters due</source>
-        <translation>
-            <numerusform>Das %n fällige Zeichen wiederholen</numerusform>
-            <numerusform>Die %n fälligen Zeichen wiederholen</numerusform>
-        </translation>
+    <message>
+        <source>Review the characters due (%1)</source>
+        <translation>Die fälligen Zeichen wiederholen (%1)</translation>
     </message>
 </context>
 <context>
@@ -585,12 +586,111 @@ Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</transl
         <source>About Zavoren</source>
         <translation>Über Zavoren</translation>
     </message>
+    <message>
+        <source>Print practice sheet…</source>
+        <translation>Übungsblatt drucken…</translation>
+    </message>
 </context>
 <context>
     <name>Page</name>
     <message>
         <source>N/A</source>
         <translation>k. A.</translation>
+    </message>
+</context>
+<context>
+    <name>PracticeSheetDialog</name>
+    <message>
+        <source>Print practice sheet</source>
+        <translation>Übungsblatt drucken</translation>
+    </message>
+    <message>
+        <source>Preview of the first page</source>
+        <translation>Vorschau der ersten Seite</translation>
+    </message>
+    <message>
+        <source>A4</source>
+        <translation>A4</translation>
+    </message>
+    <message>
+        <source>Letter</source>
+        <translation>Letter</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Papier:</translation>
+    </message>
+    <message>
+        <source>Boxes per row</source>
+        <translation>Kästchen pro Zeile</translation>
+    </message>
+    <message>
+        <source>&amp;Boxes per row:</source>
+        <translation>&amp;Kästchen pro Zeile:</translation>
+    </message>
+    <message>
+        <source>Boxes to trace</source>
+        <translation>Kästchen zum Nachspuren</translation>
+    </message>
+    <message>
+        <source>Boxes to &amp;trace:</source>
+        <translation>Zum &amp;Nachspuren:</translation>
+    </message>
+    <message>
+        <source>Stroke &amp;order</source>
+        <translation>&amp;Strichfolge</translation>
+    </message>
+    <message>
+        <source>Stroke order</source>
+        <translation>Strichfolge</translation>
+    </message>
+    <message>
+        <source>&amp;Words</source>
+        <translation>&amp;Wörter</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Wörter</translation>
+    </message>
+    <message>
+        <source>P&amp;rint…</source>
+        <translation>&amp;Drucken…</translation>
+    </message>
+    <message>
+        <source>Save as P&amp;DF…</source>
+        <translation>Als P&amp;DF speichern…</translation>
+    </message>
+    <message>
+        <source>Practice sheet</source>
+        <translation>Übungsblatt</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Als PDF speichern</translation>
+    </message>
+    <message>
+        <source>practice-sheet</source>
+        <translation>uebungsblatt</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>PDF-Dateien (*.pdf)</translation>
+    </message>
+    <message>
+        <source>The sheet could not be written to &quot;%1&quot;: %2</source>
+        <translation>Das Blatt konnte nicht nach „%1“ geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>Select the characters first: on a category page, or a category on the home page for the characters of its next lesson.</source>
+        <translation>Wählen Sie zuerst die Zeichen: auf einer Kategorieseite, oder eine Kategorie auf der Startseite für die Zeichen ihrer nächsten Lektion.</translation>
+    </message>
+    <message>
+        <source>Pages: %1</source>
+        <translation>Seiten: %1</translation>
     </message>
 </context>
 <context>
@@ -726,6 +826,14 @@ Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</transl
     <message>
         <source>A Words button on the category page: write whole words made of the characters you have learned</source>
         <translation>Eine Schaltfläche „Wörter“ auf der Kategorieseite: ganze Wörter aus den gelernten Zeichen schreiben</translation>
+    </message>
+    <message>
+        <source>Print practice sheets</source>
+        <translation>Übungsblätter drucken</translation>
+    </message>
+    <message>
+        <source>&quot;Print practice sheet…&quot; in the File menu and in the category page&apos;s menus</source>
+        <translation>„Übungsblatt drucken…“ im Menü Datei und in den Menüs der Kategorieseite</translation>
     </message>
 </context>
 <context>

@@ -169,6 +169,10 @@ La base de caracteres es una obra derivada compartida bajo CC BY-SA.</translatio
         <source>Write whole words made of the characters you have learned</source>
         <translation>Escribir palabras enteras con los caracteres aprendidos</translation>
     </message>
+    <message>
+        <source>&amp;Print practice sheet…</source>
+        <translation>Im&amp;primir hoja de práctica…</translation>
+    </message>
 </context>
 <context>
     <name>CharacterGrid</name>
@@ -324,12 +328,9 @@ Error fatal en Zavoren.<byte value="xd"/>
         <source>&amp;Review (%1)</source>
         <translation>&amp;Repasar (%1)</translation>
     </message>
-    <message numerus="yes">
-        <source>Review the %n characters due</source>
-        <translation>
-            <numerusform>Repasar el %n carácter pendiente</numerusform>
-            <numerusform>Repasar los %n caracteres pendientes</numerusform>
-        </translation>
+    <message>
+        <source>Review the characters due (%1)</source>
+        <translation>Repasar los caracteres pendientes (%1)</translation>
     </message>
 </context>
 <context>
@@ -585,12 +586,111 @@ Sí lo sustituye; No importa al alumno con otro nombre.</translation>
         <source>About Zavoren</source>
         <translation>Acerca de Zavoren</translation>
     </message>
+    <message>
+        <source>Print practice sheet…</source>
+        <translation>Imprimir hoja de práctica…</translation>
+    </message>
 </context>
 <context>
     <name>Page</name>
     <message>
         <source>N/A</source>
         <translation>N/D</translation>
+    </message>
+</context>
+<context>
+    <name>PracticeSheetDialog</name>
+    <message>
+        <source>Print practice sheet</source>
+        <translation>Imprimir hoja de práctica</translation>
+    </message>
+    <message>
+        <source>Preview of the first page</source>
+        <translation>Vista previa de la primera página</translation>
+    </message>
+    <message>
+        <source>A4</source>
+        <translation>A4</translation>
+    </message>
+    <message>
+        <source>Letter</source>
+        <translation>Carta</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papel</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Papel:</translation>
+    </message>
+    <message>
+        <source>Boxes per row</source>
+        <translation>Casillas por fila</translation>
+    </message>
+    <message>
+        <source>&amp;Boxes per row:</source>
+        <translation>&amp;Casillas por fila:</translation>
+    </message>
+    <message>
+        <source>Boxes to trace</source>
+        <translation>Casillas para calcar</translation>
+    </message>
+    <message>
+        <source>Boxes to &amp;trace:</source>
+        <translation>Casillas para ca&amp;lcar:</translation>
+    </message>
+    <message>
+        <source>Stroke &amp;order</source>
+        <translation>&amp;Orden de trazos</translation>
+    </message>
+    <message>
+        <source>Stroke order</source>
+        <translation>Orden de trazos</translation>
+    </message>
+    <message>
+        <source>&amp;Words</source>
+        <translation>Pala&amp;bras</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Palabras</translation>
+    </message>
+    <message>
+        <source>P&amp;rint…</source>
+        <translation>&amp;Imprimir…</translation>
+    </message>
+    <message>
+        <source>Save as P&amp;DF…</source>
+        <translation>Guardar como P&amp;DF…</translation>
+    </message>
+    <message>
+        <source>Practice sheet</source>
+        <translation>Hoja de práctica</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Guardar como PDF</translation>
+    </message>
+    <message>
+        <source>practice-sheet</source>
+        <translation>hoja-de-practica</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>Archivos PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>The sheet could not be written to &quot;%1&quot;: %2</source>
+        <translation>No se pudo escribir la hoja en «%1»: %2</translation>
+    </message>
+    <message>
+        <source>Select the characters first: on a category page, or a category on the home page for the characters of its next lesson.</source>
+        <translation>Elija primero los caracteres: en una página de categoría, o una categoría en la página de inicio para los caracteres de su próxima lección.</translation>
+    </message>
+    <message>
+        <source>Pages: %1</source>
+        <translation>Páginas: %1</translation>
     </message>
 </context>
 <context>
@@ -726,6 +826,14 @@ Sí lo sustituye; No importa al alumno con otro nombre.</translation>
     <message>
         <source>A Words button on the category page: write whole words made of the characters you have learned</source>
         <translation>Un botón Palabras en la página de categoría: escribir palabras enteras con los caracteres aprendidos</translation>
+    </message>
+    <message>
+        <source>Print practice sheets</source>
+        <translation>Imprimir hojas de práctica</translation>
+    </message>
+    <message>
+        <source>&quot;Print practice sheet…&quot; in the File menu and in the category page&apos;s menus</source>
+        <translation>«Imprimir hoja de práctica…» en el menú Archivo y en los menús de la página de categoría</translation>
     </message>
 </context>
 <context>

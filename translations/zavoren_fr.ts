@@ -169,6 +169,10 @@ La base de caractères est une œuvre dérivée partagée sous CC BY-SA.</transl
         <source>Write whole words made of the characters you have learned</source>
         <translation>Écrire des mots entiers faits des caractères appris</translation>
     </message>
+    <message>
+        <source>&amp;Print practice sheet…</source>
+        <translation>Im&amp;primer une feuille d’exercices…</translation>
+    </message>
 </context>
 <context>
     <name>CharacterGrid</name>
@@ -324,12 +328,9 @@ Voulez-vous en obtenir un minidump ?</translation>
         <source>&amp;Review (%1)</source>
         <translation>&amp;Réviser (%1)</translation>
     </message>
-    <message numerus="yes">
-        <source>Review the %n characters due</source>
-        <translation>
-            <numerusform>Réviser le %n caractère à revoir</numerusform>
-            <numerusform>Réviser les %n caractères à revoir</numerusform>
-        </translation>
+    <message>
+        <source>Review the characters due (%1)</source>
+        <translation>Réviser les caractères à revoir (%1)</translation>
     </message>
 </context>
 <context>
@@ -585,12 +586,111 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
         <source>About Zavoren</source>
         <translation>À propos de Zavoren</translation>
     </message>
+    <message>
+        <source>Print practice sheet…</source>
+        <translation>Imprimer une feuille d’exercices…</translation>
+    </message>
 </context>
 <context>
     <name>Page</name>
     <message>
         <source>N/A</source>
         <translation>N/D</translation>
+    </message>
+</context>
+<context>
+    <name>PracticeSheetDialog</name>
+    <message>
+        <source>Print practice sheet</source>
+        <translation>Imprimer une feuille d’exercices</translation>
+    </message>
+    <message>
+        <source>Preview of the first page</source>
+        <translation>Aperçu de la première page</translation>
+    </message>
+    <message>
+        <source>A4</source>
+        <translation>A4</translation>
+    </message>
+    <message>
+        <source>Letter</source>
+        <translation>Lettre US</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Papier :</translation>
+    </message>
+    <message>
+        <source>Boxes per row</source>
+        <translation>Cases par ligne</translation>
+    </message>
+    <message>
+        <source>&amp;Boxes per row:</source>
+        <translation>&amp;Cases par ligne :</translation>
+    </message>
+    <message>
+        <source>Boxes to trace</source>
+        <translation>Cases à repasser</translation>
+    </message>
+    <message>
+        <source>Boxes to &amp;trace:</source>
+        <translation>Cases à &amp;repasser :</translation>
+    </message>
+    <message>
+        <source>Stroke &amp;order</source>
+        <translation>&amp;Ordre des traits</translation>
+    </message>
+    <message>
+        <source>Stroke order</source>
+        <translation>Ordre des traits</translation>
+    </message>
+    <message>
+        <source>&amp;Words</source>
+        <translation>&amp;Mots</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Mots</translation>
+    </message>
+    <message>
+        <source>P&amp;rint…</source>
+        <translation>&amp;Imprimer…</translation>
+    </message>
+    <message>
+        <source>Save as P&amp;DF…</source>
+        <translation>Enregistrer en P&amp;DF…</translation>
+    </message>
+    <message>
+        <source>Practice sheet</source>
+        <translation>Feuille d’exercices</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Enregistrer en PDF</translation>
+    </message>
+    <message>
+        <source>practice-sheet</source>
+        <translation>feuille-exercices</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>Fichiers PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>The sheet could not be written to &quot;%1&quot;: %2</source>
+        <translation>La feuille n’a pas pu être écrite dans « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>Select the characters first: on a category page, or a category on the home page for the characters of its next lesson.</source>
+        <translation>Choisissez d’abord les caractères : sur une page de catégorie, ou une catégorie sur la page d’accueil pour les caractères de sa prochaine leçon.</translation>
+    </message>
+    <message>
+        <source>Pages: %1</source>
+        <translation>Pages : %1</translation>
     </message>
 </context>
 <context>
@@ -726,6 +826,14 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
     <message>
         <source>A Words button on the category page: write whole words made of the characters you have learned</source>
         <translation>Un bouton Mots sur la page de catégorie : écrire des mots entiers faits des caractères appris</translation>
+    </message>
+    <message>
+        <source>Print practice sheets</source>
+        <translation>Imprimer des feuilles d’exercices</translation>
+    </message>
+    <message>
+        <source>&quot;Print practice sheet…&quot; in the File menu and in the category page&apos;s menus</source>
+        <translation>« Imprimer une feuille d’exercices… » dans le menu Fichier et dans les menus de la page de catégorie</translation>
     </message>
 </context>
 <context>

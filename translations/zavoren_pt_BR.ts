@@ -169,6 +169,10 @@ A base de caracteres é uma obra derivada compartilhada sob CC BY-SA.</translati
         <source>Write whole words made of the characters you have learned</source>
         <translation>Escrever palavras inteiras com os caracteres aprendidos</translation>
     </message>
+    <message>
+        <source>&amp;Print practice sheet…</source>
+        <translation>Im&amp;primir folha de prática…</translation>
+    </message>
 </context>
 <context>
     <name>CharacterGrid</name>
@@ -324,12 +328,9 @@ Deseja obter um minidump?</translation>
         <source>&amp;Review (%1)</source>
         <translation>&amp;Revisar (%1)</translation>
     </message>
-    <message numerus="yes">
-        <source>Review the %n characters due</source>
-        <translation>
-            <numerusform>Revisar o %n caractere pendente</numerusform>
-            <numerusform>Revisar os %n caracteres pendentes</numerusform>
-        </translation>
+    <message>
+        <source>Review the characters due (%1)</source>
+        <translation>Revisar os caracteres pendentes (%1)</translation>
     </message>
 </context>
 <context>
@@ -585,12 +586,111 @@ Sim substitui; Não importa o aluno com outro nome.</translation>
         <source>About Zavoren</source>
         <translation>Sobre o Zavoren</translation>
     </message>
+    <message>
+        <source>Print practice sheet…</source>
+        <translation>Imprimir folha de prática…</translation>
+    </message>
 </context>
 <context>
     <name>Page</name>
     <message>
         <source>N/A</source>
         <translation>N/D</translation>
+    </message>
+</context>
+<context>
+    <name>PracticeSheetDialog</name>
+    <message>
+        <source>Print practice sheet</source>
+        <translation>Imprimir folha de prática</translation>
+    </message>
+    <message>
+        <source>Preview of the first page</source>
+        <translation>Prévia da primeira página</translation>
+    </message>
+    <message>
+        <source>A4</source>
+        <translation>A4</translation>
+    </message>
+    <message>
+        <source>Letter</source>
+        <translation>Carta</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papel</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Papel:</translation>
+    </message>
+    <message>
+        <source>Boxes per row</source>
+        <translation>Quadros por linha</translation>
+    </message>
+    <message>
+        <source>&amp;Boxes per row:</source>
+        <translation>&amp;Quadros por linha:</translation>
+    </message>
+    <message>
+        <source>Boxes to trace</source>
+        <translation>Quadros para cobrir</translation>
+    </message>
+    <message>
+        <source>Boxes to &amp;trace:</source>
+        <translation>Quadros para &amp;cobrir:</translation>
+    </message>
+    <message>
+        <source>Stroke &amp;order</source>
+        <translation>&amp;Ordem dos traços</translation>
+    </message>
+    <message>
+        <source>Stroke order</source>
+        <translation>Ordem dos traços</translation>
+    </message>
+    <message>
+        <source>&amp;Words</source>
+        <translation>Pala&amp;vras</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Palavras</translation>
+    </message>
+    <message>
+        <source>P&amp;rint…</source>
+        <translation>&amp;Imprimir…</translation>
+    </message>
+    <message>
+        <source>Save as P&amp;DF…</source>
+        <translation>Salvar como P&amp;DF…</translation>
+    </message>
+    <message>
+        <source>Practice sheet</source>
+        <translation>Folha de prática</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Salvar como PDF</translation>
+    </message>
+    <message>
+        <source>practice-sheet</source>
+        <translation>folha-de-pratica</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>Arquivos PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>The sheet could not be written to &quot;%1&quot;: %2</source>
+        <translation>Não foi possível gravar a folha em “%1”: %2</translation>
+    </message>
+    <message>
+        <source>Select the characters first: on a category page, or a category on the home page for the characters of its next lesson.</source>
+        <translation>Escolha primeiro os caracteres: numa página de categoria, ou uma categoria na página inicial para os caracteres da próxima lição.</translation>
+    </message>
+    <message>
+        <source>Pages: %1</source>
+        <translation>Páginas: %1</translation>
     </message>
 </context>
 <context>
@@ -726,6 +826,14 @@ Sim substitui; Não importa o aluno com outro nome.</translation>
     <message>
         <source>A Words button on the category page: write whole words made of the characters you have learned</source>
         <translation>Um botão Palavras na página da categoria: escrever palavras inteiras com os caracteres aprendidos</translation>
+    </message>
+    <message>
+        <source>Print practice sheets</source>
+        <translation>Imprimir folhas de prática</translation>
+    </message>
+    <message>
+        <source>&quot;Print practice sheet…&quot; in the File menu and in the category page&apos;s menus</source>
+        <translation>“Imprimir folha de prática…” no menu Arquivo e nos menus da página de categoria</translation>
     </message>
 </context>
 <context>

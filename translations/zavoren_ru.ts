@@ -169,6 +169,10 @@ The character database is a derived work shared under CC BY-SA.</source>
         <source>Write whole words made of the characters you have learned</source>
         <translation>Писать целые слова из выученных знаков</translation>
     </message>
+    <message>
+        <source>&amp;Print practice sheet…</source>
+        <translation>Пе&amp;чать прописи…</translation>
+    </message>
 </context>
 <context>
     <name>CharacterGrid</name>
@@ -324,13 +328,9 @@ Do you want to get minidump for it?</source>
         <source>&amp;Review (%1)</source>
         <translation>&amp;Повторить (%1)</translation>
     </message>
-    <message numerus="yes">
-        <source>Review the %n characters due</source>
-        <translation>
-            <numerusform>Повторить %n знак, срок которого подошёл</numerusform>
-            <numerusform>Повторить %n знака, срок которых подошёл</numerusform>
-            <numerusform>Повторить %n знаков, срок которых подошёл</numerusform>
-        </translation>
+    <message>
+        <source>Review the characters due (%1)</source>
+        <translation>Повторить знаки, срок которых подошёл (%1)</translation>
     </message>
 </context>
 <context>
@@ -586,12 +586,111 @@ Yes replaces it; No imports the learner under another name.</source>
         <source>About Zavoren</source>
         <translation>О программе Zavoren</translation>
     </message>
+    <message>
+        <source>Print practice sheet…</source>
+        <translation>Печать прописи…</translation>
+    </message>
 </context>
 <context>
     <name>Page</name>
     <message>
         <source>N/A</source>
         <translation>н/д</translation>
+    </message>
+</context>
+<context>
+    <name>PracticeSheetDialog</name>
+    <message>
+        <source>Print practice sheet</source>
+        <translation>Печать прописи</translation>
+    </message>
+    <message>
+        <source>Preview of the first page</source>
+        <translation>Просмотр первой страницы</translation>
+    </message>
+    <message>
+        <source>A4</source>
+        <translation>A4</translation>
+    </message>
+    <message>
+        <source>Letter</source>
+        <translation>Letter</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Бумага</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Бумага:</translation>
+    </message>
+    <message>
+        <source>Boxes per row</source>
+        <translation>Клеток в строке</translation>
+    </message>
+    <message>
+        <source>&amp;Boxes per row:</source>
+        <translation>&amp;Клеток в строке:</translation>
+    </message>
+    <message>
+        <source>Boxes to trace</source>
+        <translation>Клеток для обводки</translation>
+    </message>
+    <message>
+        <source>Boxes to &amp;trace:</source>
+        <translation>Клеток для &amp;обводки:</translation>
+    </message>
+    <message>
+        <source>Stroke &amp;order</source>
+        <translation>&amp;Порядок черт</translation>
+    </message>
+    <message>
+        <source>Stroke order</source>
+        <translation>Порядок черт</translation>
+    </message>
+    <message>
+        <source>&amp;Words</source>
+        <translation>&amp;Слова</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Слова</translation>
+    </message>
+    <message>
+        <source>P&amp;rint…</source>
+        <translation>Пе&amp;чать…</translation>
+    </message>
+    <message>
+        <source>Save as P&amp;DF…</source>
+        <translation>Сохранить в P&amp;DF…</translation>
+    </message>
+    <message>
+        <source>Practice sheet</source>
+        <translation>Пропись</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Сохранить в PDF</translation>
+    </message>
+    <message>
+        <source>practice-sheet</source>
+        <translation>propis</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>Файлы PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>The sheet could not be written to &quot;%1&quot;: %2</source>
+        <translation>Не удалось записать пропись в «%1»: %2</translation>
+    </message>
+    <message>
+        <source>Select the characters first: on a category page, or a category on the home page for the characters of its next lesson.</source>
+        <translation>Сначала выберите знаки: на странице категории или категорию на главной странице для знаков её следующего урока.</translation>
+    </message>
+    <message>
+        <source>Pages: %1</source>
+        <translation>Страниц: %1</translation>
     </message>
 </context>
 <context>
@@ -727,6 +826,14 @@ Yes replaces it; No imports the learner under another name.</source>
     <message>
         <source>A Words button on the category page: write whole words made of the characters you have learned</source>
         <translation>Кнопка «Слова» на странице категории: писать целые слова из выученных знаков</translation>
+    </message>
+    <message>
+        <source>Print practice sheets</source>
+        <translation>Печать прописей</translation>
+    </message>
+    <message>
+        <source>&quot;Print practice sheet…&quot; in the File menu and in the category page&apos;s menus</source>
+        <translation>«Печать прописи…» в меню «Файл» и в меню страницы категории</translation>
     </message>
 </context>
 <context>

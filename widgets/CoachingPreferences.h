@@ -34,6 +34,8 @@ struct CoachingPreferences {
     bool steadyInk = true;
     /// The category page has a Words button: a test of whole words made of learned characters.
     bool wordsTest = true;
+    /// "Print practice sheet…" in the File menu and the category page's context menus.
+    bool practiceSheets = true;
     /// A review sitting takes at most this many due characters (10 to 500).
     int reviewsPerSitting = 50;
     /// A review sitting asks only to write each character, not its readings.
@@ -47,6 +49,7 @@ struct CoachingPreferences {
         off.otherOrders = false;
         off.steadyInk = false;
         off.wordsTest = false;
+        off.practiceSheets = false;
         return off;
     }
     bool operator==(const CoachingPreferences&) const = default;

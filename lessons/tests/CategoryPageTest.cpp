@@ -175,14 +175,25 @@ private slots:
     void contextMenusAndTheirDefaults()
     {
         QCOMPARE(Named<QMenu>(m_page, "learnedMenu")->title(), QStringLiteral("Learned"));
-        QStringList learned;
-        for (QAction* a : Named<QMenu>(m_page, "learnedMenu")->actions())
-            learned << a->text();
-        QCOMPARE(learned, (QStringList{"&Info", "&Review", "&Forget"}));
+        // What each menu shows (practice sheets off: as the menus always were).
+        auto shown = [this](const char* menu) {
+            QStringList texts;
+            for (QAction* a : Named<QMenu>(m_page, menu)->actions())
+                if (a->isVisible())
+                    texts << (a->isSeparator() ? QStringLiteral("-") : a->text());
+            return texts;
+        };
+        QCOMPARE(shown("learnedMenu"), (QStringList{"&Info", "&Review", "&Forget"}));
         QCOMPARE(Named<QMenu>(m_page, "learnedMenu")->defaultAction(), Named<QMenu>(m_page, "learnedMenu")->actions()[0]);
-        QCOMPARE(Named<QMenu>(m_page, "unlearnedMenu")->actions().size(), 2);
+        QCOMPARE(shown("unlearnedMenu").size(), 2);
         QCOMPARE(Named<QMenu>(m_page, "unlearnedMenu")->defaultAction()->text(), QStringLiteral("&Info"));
-        QCOMPARE(Named<QMenu>(m_page, "untestedMenu")->actions().size(), 1);
+        QCOMPARE(shown("untestedMenu").size(), 1);
+        // With practice sheets, each menu ends with its item.
+        m_page->SetPracticeSheets(true);
+        for (const char* menu : {"learnedMenu", "unlearnedMenu", "untestedMenu"})
+            QCOMPARE(shown(menu).mid(shown(menu).size() - 2),
+                (QStringList{QStringLiteral("-"), QStringLiteral("&Print practice sheet…")}));
+        m_page->SetPracticeSheets(false);
         // Learn on a cell of "Kanji to be Learned" asks for a lesson of that character.
         Grade1().AddLearned(m_grade1[0]);
         m_page->SetCategory(0, Recorder(0));

@@ -581,7 +581,8 @@ private slots:
                         QStringLiteral("Review characters when they are due"),
                         QStringLiteral("Review by writing only"), QStringLiteral("Show words and parts in Kanji Info"),
                         QStringLiteral("Show a word after each answer"),
-                        QStringLiteral("Bring the window onto the screen at start")};
+                        QStringLiteral("Bring the window onto the screen at start"),
+                        QStringLiteral("Print practice sheets")};
                     const QList<QCheckBox*> boxes = dialog.findChildren<QCheckBox*>();
                     QCOMPARE(boxes.size(), captions.size());
                     for (int i = 0; i < boxes.size(); ++i) {
