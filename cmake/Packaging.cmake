@@ -7,7 +7,7 @@ install(FILES resources/io.github.zavoren.Zavoren.metainfo.xml DESTINATION ${CMA
 # Manual pages and Debian's documentation files, compressed as Debian wants them.
 find_program(ZAVOREN_GZIP gzip REQUIRED)
 set(doc_outputs)
-foreach(page zavoren.1 zavoren-db.1)
+foreach(page zavoren.1 zavoren-db.1 zavoren-sheet.1)
     add_custom_command(OUTPUT ${CMAKE_BINARY_DIR}/man/${page}.gz
         COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_BINARY_DIR}/man
         COMMAND ${ZAVOREN_GZIP} -9nc ${CMAKE_SOURCE_DIR}/resources/man/${page} > ${CMAKE_BINARY_DIR}/man/${page}.gz

@@ -15,7 +15,7 @@ packages=(
     googletest libgtest-dev libgmock-dev libbenchmark-dev
     fonts-ipafont-gothic kanjidic-xml edict
     clang
-    xvfb xauth
+    xvfb xauth poppler-utils
     lintian desktop-file-utils appstream
 )
 

@@ -19,12 +19,12 @@ field() { dpkg-deb -f "$deb" "$1"; }
 [ "$(field Architecture)" = "$arch" ] || { echo "Architecture: $(field Architecture)"; exit 1; }
 [ "$(field Section)" = education ] || { echo "Section: $(field Section)"; exit 1; }
 depends=$(field Depends)
-for needed in libqt6core6 libqt6gui6 libqt6widgets6 libqt6charts6 libpugixml1v5 libsqlite3-0 fonts-ipafont-gothic qt6-qpa-plugins; do
+for needed in libqt6core6 libqt6gui6 libqt6widgets6 libqt6printsupport6 libqt6charts6 libpugixml1v5 libsqlite3-0 fonts-ipafont-gothic qt6-qpa-plugins; do
     case "$depends" in *"$needed"*) ;; *) echo "Depends lacks $needed: $depends"; exit 1 ;; esac
 done
 
 contents=$(dpkg-deb -c "$deb" | awk '{ print $6 }')
-for file in ./usr/bin/zavoren ./usr/bin/zavoren-db ./usr/libexec/zavoren/zavoren ./usr/libexec/zavoren/zavoren-progress.so \
+for file in ./usr/bin/zavoren ./usr/bin/zavoren-db ./usr/bin/zavoren-sheet ./usr/libexec/zavoren/zavoren ./usr/libexec/zavoren/zavoren-progress.so \
     ./usr/share/zavoren/database ./usr/share/zavoren/database-fr ./usr/share/zavoren/database-es \
     ./usr/share/zavoren/database-pt ./usr/share/zavoren/lexicon ./usr/share/zavoren/Zavoren.html \
     ./usr/share/applications/io.github.zavoren.Zavoren.desktop \
@@ -33,7 +33,7 @@ for file in ./usr/bin/zavoren ./usr/bin/zavoren-db ./usr/libexec/zavoren/zavoren
     ./usr/share/icons/hicolor/16x16/apps/io.github.zavoren.Zavoren.png \
     ./usr/share/icons/hicolor/48x48/apps/io.github.zavoren.Zavoren.png \
     ./usr/share/icons/hicolor/256x256/apps/io.github.zavoren.Zavoren.png \
-    ./usr/share/man/man1/zavoren.1.gz ./usr/share/man/man1/zavoren-db.1.gz \
+    ./usr/share/man/man1/zavoren.1.gz ./usr/share/man/man1/zavoren-db.1.gz ./usr/share/man/man1/zavoren-sheet.1.gz \
     ./usr/share/doc/zavoren/copyright ./usr/share/doc/zavoren/changelog.gz; do
     grep -qxF "$file" <<< "$contents" || { echo "the package lacks $file"; exit 1; }
 done
@@ -41,7 +41,7 @@ dpkg-deb -x "$deb" unpacked-package
 grep -q 'KanjiVG' unpacked-package/usr/share/doc/zavoren/copyright
 grep -q 'KANJIDIC2' unpacked-package/usr/share/doc/zavoren/copyright
 # The programs find their libraries where the system keeps them, never in a folder of their own.
-for binary in usr/libexec/zavoren/zavoren usr/libexec/zavoren/zavoren-progress.so usr/bin/zavoren-db; do
+for binary in usr/libexec/zavoren/zavoren usr/libexec/zavoren/zavoren-progress.so usr/bin/zavoren-db usr/bin/zavoren-sheet; do
     if readelf -d "unpacked-package/$binary" | grep -qE 'RPATH|RUNPATH'; then
         echo "$binary carries a library search path"; exit 1
     fi

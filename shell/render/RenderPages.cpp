@@ -24,6 +24,7 @@
 #include "LexiconAccess.h"
 #include "MessageBoxPrompt.h"
 #include "Named.h"
+#include "PracticeSheetDialog.h"
 #include "PreferencesDialog.h"
 #include "ProgressWindow.h"
 #include "ReadingTestPage.h"
@@ -292,6 +293,12 @@ int main(int argc, char** argv)
                 QTest::mouseClick(
                     reading->KunButton(static_cast<int>(i)), Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
         ok &= Save(wordTest, out, QStringLiteral("reading-test-word"));
+
+        // The practice sheet's dialog for six characters of Grade 1, with their words.
+        QString error;
+        PracticeSheetDialog sheet(PracticeSheet::Load(db, lexicon, std::vector<std::uint16_t>(grade1.begin(), grade1.begin() + 6), error),
+            true, prompt);
+        ok &= Save(sheet, out, QStringLiteral("practice-sheet"));
     } else {
         std::fprintf(stderr, "render_pages: no lexicon at %s, pages with words left out\n", lexiconPath.c_str());
     }
