@@ -7,9 +7,11 @@
 #include "Edict.h"
 #include "FileCharacterDatabase.h"
 #include "InkFile.h"
+#include "InkRecognizer.h"
 #include "InkSteadier.h"
 #include "Lexicon.h"
 #include "StrokeChecker.h"
+#include "TextSearch.h"
 #include "StrokeVerdict.h"
 #include "WordsTest.h"
 #include "WritingQuiz.h"
@@ -52,7 +54,12 @@ const char* const Usage
       "      prints the character's parts (\"parts<TAB>...\"), then its words (writing<TAB>reading<TAB>meaning)\n"
       "  zavoren-db words-test --db PATH --lexicon PATH --learned ID,ID,... --category N [--seed S]\n"
       "      prints the words (writing<TAB>reading<TAB>meaning) a words test of category N takes for a\n"
-      "      learner who has learned those characters, drawn with seed S (default 1)\n";
+      "      learner who has learned those characters, drawn with seed S (default 1)\n"
+      "  zavoren-db find --db PATH (--text TEXT | --ink FILE) [--model PATH] [--lexicon PATH]\n"
+      "      prints the characters found (ID<TAB>character<TAB>ON<TAB>KUN<TAB>meaning), best first: every\n"
+      "      match of the text (the character, a reading in kana, a word of the meaning), or the ten most\n"
+      "      like the ink (strokes on the 298 px canvas, as write takes them); the lexicon beside the\n"
+      "      database by default, Debian's Japanese Zinnia model by default\n";
 
 int Fail(const std::string& message)
 {
@@ -528,6 +535,50 @@ int WordsTestCommand(const std::vector<std::string>& args)
     });
 }
 
+int Find(const std::vector<std::string>& args)
+{
+    std::map<std::string, std::string> o;
+    if (const std::string error
+        = CommandOptions("find", args, {"--db", "--text", "--ink", "--model", "--lexicon"}, {"--db"}, o);
+        !error.empty())
+        return Fail(error);
+    if (o.count("--text") == o.count("--ink"))
+        return Fail("find needs either --text or --ink\n" + std::string(Usage));
+    std::vector<StrokePath> strokes;
+    if (o.count("--ink")) {
+        try {
+            strokes = ReadInkStrokesFile(o["--ink"]);
+        } catch (const InkFileError& e) {
+            return Fail(e.what());
+        }
+    }
+    const std::string lexiconPath = o.count("--lexicon")
+        ? o["--lexicon"]
+        : (std::filesystem::path(o["--db"]).parent_path() / "lexicon").string();
+    return WithLexicon(o["--db"], lexiconPath, [&](FileCharacterDatabase& database, const Lexicon& lexicon) {
+        std::vector<std::uint16_t> found;
+        if (o.count("--text")) {
+            for (const TextSearch::Result& r : TextSearch(database, &lexicon).Find(o["--text"]))
+                found.push_back(r.id);
+        } else {
+            InkRecognizer recognizer(database, lexicon);
+            std::string error;
+            const std::string model = o.count("--model") ? o["--model"] : InkRecognizer::DefaultModel;
+            if (!recognizer.LoadModel(model, error))
+                return Fail(model + ": " + error);
+            for (const InkRecognizer::Candidate& c : recognizer.Recognize(strokes, 10))
+                found.push_back(c.id);
+        }
+        for (std::uint16_t id : found) {
+            const auto character = database.LoadCharacter(id);
+            auto text = [](const char* t) { return std::string(t ? t : ""); };
+            std::cout << id << '\t' << Utf8(lexicon.CodePoint(id)) << '\t' << text(character->OnReading()) << '\t'
+                      << text(character->KunReading()) << '\t' << text(character->Meaning()) << '\n';
+        }
+        return 0;
+    });
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -552,6 +603,8 @@ int main(int argc, char** argv)
         return Words(args);
     if (command == "words-test")
         return WordsTestCommand(args);
+    if (command == "find")
+        return Find(args);
     if (command == "--help" || command == "-h" || command == "help") {
         std::cout << Usage;
         return 0;

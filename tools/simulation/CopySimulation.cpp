@@ -57,6 +57,19 @@ StrokePath Draw(const Form& form, std::uint16_t k, const Placement& place, float
 
 } // namespace
 
+std::vector<StrokePath> FreehandCopy(const Form& form, const Hand& hand, std::mt19937& random)
+{
+    std::normal_distribution<float> normal(0.0f, 1.0f);
+    Placement place;
+    place.scale = 1 + hand.characterScale * normal(random);
+    place.offsetX = hand.characterOffset * normal(random);
+    place.offsetY = hand.characterOffset * normal(random);
+    std::vector<StrokePath> strokes;
+    for (std::uint16_t k = 0; k < form.StrokeCount(); ++k)
+        strokes.push_back(Draw(form, k, place, 0, 0, hand, random));
+    return strokes;
+}
+
 Figures Run(CharacterDatabase& database, const std::vector<std::uint16_t>& categories, const Hand& hand,
     Mistake mistake, bool ownFrame, const std::vector<std::uint32_t>& seeds, float steadyWidth)
 {

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "CharacterDatabase.h"
+#include "StrokePath.h"
+
+#include <random>
 
 #include <cstdint>
 #include <string>
@@ -51,6 +54,10 @@ struct Figures {
     double CaughtShare() const { return mistakes ? double(mistakesCaught) / mistakes : 0; }
     double RefusedShare() const { return mistakes ? double(mistakesRefused) / mistakes : 0; }
 };
+
+/// One freehand copy of the whole character on the 298 px canvas, every stroke drawn once by
+/// `hand` (the character placed, scaled and each stroke moved and wavering as in Run).
+std::vector<StrokePath> FreehandCopy(const Form& form, const Hand& hand, std::mt19937& random);
 
 /// Copies every character of `categories` once per seed; each stroke is steadied
 /// (InkSteadier) over `steadyWidth` px before it is judged, unless that is 0.
