@@ -5,7 +5,7 @@
 #include "FileCharacterDatabase.h"
 #include "HistoryStore.h"
 #include "ProgressWindow.h"
-#include "Prompt.h"
+#include "SilentPrompt.h"
 #include "TenYears.h"
 #include "StoreWithHistory.h"
 
@@ -17,15 +17,6 @@
 namespace fs = std::filesystem;
 
 namespace {
-
-class SilentPrompt : public Prompt {
-public:
-    QMessageBox::StandardButton Ask(QWidget*, QMessageBox::Icon, const QString&, const QString&,
-        QMessageBox::StandardButtons, QMessageBox::StandardButton) override
-    {
-        return QMessageBox::Ok;
-    }
-};
 
 struct Fixture {
     fs::path dir;

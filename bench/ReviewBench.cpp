@@ -5,7 +5,7 @@
 
 #include "FileCharacterDatabase.h"
 #include "LearnerSession.h"
-#include "Prompt.h"
+#include "SilentPrompt.h"
 #include "ReviewPage.h"
 #include "SessionRecorder.h"
 #include "StoreWithHistory.h"
@@ -19,15 +19,6 @@
 namespace fs = std::filesystem;
 
 namespace {
-
-class SilentPrompt : public Prompt {
-public:
-    QMessageBox::StandardButton Ask(QWidget*, QMessageBox::Icon, const QString&, const QString&,
-        QMessageBox::StandardButtons, QMessageBox::StandardButton) override
-    {
-        return QMessageBox::Ok;
-    }
-};
 
 struct Fixture {
     fs::path dir;

@@ -55,8 +55,9 @@ set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://quelmar.example.org/zavoren")
 # The libraries the program and its module link (found by dpkg-shlibdeps), a CJK font for the
 # characters, the platform plugins, and Qt's own translations.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# SQLite is loaded when the history is first opened, not linked: shlibdeps cannot see it.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "libsqlite3-0, fonts-ipafont-gothic | fonts-noto-cjk, qt6-qpa-plugins, qt6-translations-l10n")
+# SQLite is loaded when the history is first opened, not linked: shlibdeps cannot see it. The
+# handwriting model of Find a character is a data package (libzinnia0 comes from shlibdeps).
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libsqlite3-0, fonts-ipafont-gothic | fonts-noto-cjk, qt6-qpa-plugins, qt6-translations-l10n, tegaki-zinnia-japanese")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 include(CPack)
 

@@ -71,10 +71,9 @@ char32_t TraditionalForm(char32_t modelForm)
 
 } // namespace
 
-struct InkRecognizer::Zinnia {
+struct HandwritingModel::Zinnia {
     zinnia_recognizer_t* recognizer = zinnia_recognizer_new();
     zinnia_character_t* character = zinnia_character_new();
-    bool open = false;
     ~Zinnia()
     {
         zinnia_character_destroy(character);
@@ -82,8 +81,22 @@ struct InkRecognizer::Zinnia {
     }
 };
 
+HandwritingModel::HandwritingModel() : m_zinnia(std::make_unique<Zinnia>()) { }
+HandwritingModel::~HandwritingModel() = default;
+
+std::unique_ptr<HandwritingModel> HandwritingModel::Load(const std::string& path, std::string& error)
+{
+    std::unique_ptr<HandwritingModel> model(new HandwritingModel);
+    if (zinnia_recognizer_open(model->m_zinnia->recognizer, path.c_str()) == 0) {
+        const char* why = zinnia_recognizer_strerror(model->m_zinnia->recognizer);
+        error = why && *why ? why : "the model cannot be read";
+        return nullptr;
+    }
+    return model;
+}
+
 InkRecognizer::InkRecognizer(CharacterDatabase& database, const Lexicon& lexicon)
-    : m_lexicon(lexicon), m_zinnia(std::make_unique<Zinnia>())
+    : m_lexicon(lexicon)
 {
     m_byId.assign(database.CharacterCount(), static_cast<std::size_t>(-1));
     for (std::uint16_t id = 0; id < database.CharacterCount(); ++id) {
@@ -119,15 +132,8 @@ InkRecognizer::~InkRecognizer() = default;
 
 bool InkRecognizer::LoadModel(const std::string& path, std::string& error)
 {
-    m_zinnia->open = zinnia_recognizer_open(m_zinnia->recognizer, path.c_str()) != 0;
-    if (!m_zinnia->open)
-        error = zinnia_recognizer_strerror(m_zinnia->recognizer);
-    return m_zinnia->open;
-}
-
-bool InkRecognizer::HasModel() const
-{
-    return m_zinnia->open;
+    m_model = HandwritingModel::Load(path, error);
+    return m_model != nullptr;
 }
 
 double InkRecognizer::Distance(const Template& t, const std::vector<std::vector<Point>>& ink) const
@@ -163,8 +169,8 @@ std::vector<InkRecognizer::Candidate> InkRecognizer::Recognize(const std::vector
         return {};
     // The model's candidates, best first.
     std::unordered_map<std::uint16_t, std::size_t> modelRank;
-    if (m_zinnia->open) {
-        zinnia_character_t* c = m_zinnia->character;
+    if (m_model) {
+        zinnia_character_t* c = m_model->m_zinnia->character;
         zinnia_character_clear(c);
         zinnia_character_set_width(c, static_cast<std::size_t>(Side));
         zinnia_character_set_height(c, static_cast<std::size_t>(Side));
@@ -172,7 +178,7 @@ std::vector<InkRecognizer::Candidate> InkRecognizer::Recognize(const std::vector
             for (const Point& p : strokes[k].Points())
                 zinnia_character_add(c, k, static_cast<int>(std::lround(std::clamp(p.x, 0.0f, Side))),
                     static_cast<int>(std::lround(std::clamp(p.y, 0.0f, Side))));
-        if (zinnia_result_t* result = zinnia_recognizer_classify(m_zinnia->recognizer, c, ModelCandidates)) {
+        if (zinnia_result_t* result = zinnia_recognizer_classify(m_model->m_zinnia->recognizer, c, ModelCandidates)) {
             for (std::size_t i = 0; i < zinnia_result_size(result); ++i) {
                 const std::vector<char32_t> value = CodePointsOf(zinnia_result_value(result, i));
                 if (value.size() != 1)

@@ -10,6 +10,23 @@
 class CharacterDatabase;
 class Lexicon;
 
+/// Zinnia with a handwriting model, read from its file once (slow: it may be read on another
+/// thread, then handed to the recognizer).
+class HandwritingModel {
+public:
+    /// The model at `path`; null with `error` when it cannot be read.
+    static std::unique_ptr<HandwritingModel> Load(const std::string& path, std::string& error);
+    ~HandwritingModel();
+    HandwritingModel(const HandwritingModel&) = delete;
+    HandwritingModel& operator=(const HandwritingModel&) = delete;
+
+private:
+    HandwritingModel();
+    friend class InkRecognizer;
+    struct Zinnia;
+    std::unique_ptr<Zinnia> m_zinnia;
+};
+
 /// Finds the characters of the database most like what the learner wrote on the 298 px
 /// writing canvas. Zinnia, with Debian's Japanese model trained on real handwriting, proposes
 /// candidates; they are ranked again with what only the database knows: each character's own
@@ -32,7 +49,9 @@ public:
     /// Reads the model (slow: a fraction of a second); false with `error` when it cannot.
     /// Until it is read, or without it, the database alone ranks.
     bool LoadModel(const std::string& path, std::string& error);
-    bool HasModel() const;
+    /// Takes a model read elsewhere (none: the database alone ranks).
+    void SetModel(std::shared_ptr<HandwritingModel> model) { m_model = std::move(model); }
+    bool HasModel() const { return m_model != nullptr; }
 
     struct Candidate {
         std::uint16_t id = 0;
@@ -53,6 +72,5 @@ private:
     std::vector<Template> m_templates;
     std::vector<std::vector<std::size_t>> m_byStrokes; ///< template indexes by stroke count
     std::vector<std::size_t> m_byId; ///< template index of each id (or npos)
-    struct Zinnia;
-    std::unique_ptr<Zinnia> m_zinnia;
+    std::shared_ptr<HandwritingModel> m_model;
 };

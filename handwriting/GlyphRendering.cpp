@@ -60,11 +60,8 @@ QPointF MapGlyphPoint(Point p, const QRect& target, const Form& form)
         p.y * h / static_cast<float>(form.Height()) + static_cast<float>(target.top()));
 }
 
-void DrawStroke(QPainter& painter, const QRect& target, const Form& form, std::uint16_t strokeIndex, int grid,
-    int offsetX, int offsetY)
+QPainterPath StrokePathOf(const Stroke& stroke, const std::function<QPointF(Point)>& place)
 {
-    const Stroke& stroke = form.GetStroke(strokeIndex);
-    auto place = [&](Point p) { return Snap(MapGlyphPoint(p, target, form), grid, offsetX, offsetY); };
     QPainterPath path;
     path.moveTo(place(stroke.Start()));
     for (const Segment& s : stroke.Segments()) {
@@ -74,6 +71,14 @@ void DrawStroke(QPainter& painter, const QRect& target, const Form& form, std::u
         case SegmentType::Move: path.moveTo(place(s.P1())); break;
         }
     }
+    return path;
+}
+
+void DrawStroke(QPainter& painter, const QRect& target, const Form& form, std::uint16_t strokeIndex, int grid,
+    int offsetX, int offsetY)
+{
+    const QPainterPath path = StrokePathOf(form.GetStroke(strokeIndex),
+        [&](Point p) { return Snap(MapGlyphPoint(p, target, form), grid, offsetX, offsetY); });
     painter.save();
     painter.setBrush(Qt::NoBrush);
     painter.drawPath(path);

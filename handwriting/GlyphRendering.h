@@ -3,15 +3,21 @@
 #include "Form.h"
 
 #include <QColor>
+#include <QPainterPath>
 #include <QRect>
 
 #include <cstdint>
+#include <functional>
 
 class QImage;
 class QPainter;
 
 /// Maps glyph units onto a target rectangle: x * W / form width + left, in single precision.
 QPointF MapGlyphPoint(Point p, const QRect& target, const Form& form);
+
+/// One stroke as a path of lines and cubic curves, each of its points placed by `place` (glyph
+/// units to the painter's); a Move segment lifts the pen.
+QPainterPath StrokePathOf(const Stroke& stroke, const std::function<QPointF(Point)>& place);
 
 /// Draws one stroke with the painter's current pen, as lines and cubic curves. Every point is
 /// mapped onto `target`, snapped to multiples of `grid` (truncating towards zero) and moved by

@@ -257,6 +257,16 @@ void CategoryPage::OnContextMenu(CharacterGrid* grid, int cell, const QPoint& gl
     menu->popup(globalPosition, menu->defaultAction());
 }
 
+bool CategoryPage::SelectCharacter(std::uint16_t code)
+{
+    const int cell = Grid()->CellOf(code);
+    if (cell < 0)
+        return false;
+    Grid()->SelectCell(cell);
+    Grid()->setFocus();
+    return true;
+}
+
 std::vector<std::uint16_t> CategoryPage::SelectedCharacters() const
 {
     const std::vector<std::uint16_t> selected = Grid()->SelectedCodes();

@@ -79,6 +79,9 @@ public:
     /// Refreshes grid, strip and buttons from the learner's record.
     void Refresh();
 
+    /// Selects the character in the grid (and gives the grid the keyboard): Learn, Info and the
+    /// menus act on it. False when the category shown does not have it.
+    bool SelectCharacter(std::uint16_t code);
     /// The characters selected in the grid, or else in the strip: what a practice sheet prints.
     std::vector<std::uint16_t> SelectedCharacters() const;
     /// Opens the Kanji Info dialog for the first selected character of `grid` (modal).

@@ -97,6 +97,12 @@ std::uint16_t CharacterGrid::CodeOfCell(int cell) const
     return cell >= 0 && static_cast<std::size_t>(cell) < m_codes.size() ? m_codes[static_cast<std::size_t>(cell)] : 0;
 }
 
+int CharacterGrid::CellOf(std::uint16_t code) const
+{
+    const auto found = std::find(m_codes.begin(), m_codes.end(), code);
+    return found == m_codes.end() ? -1 : static_cast<int>(found - m_codes.begin());
+}
+
 QRect CharacterGrid::CellRect(int cell) const
 {
     if (cell < 0)

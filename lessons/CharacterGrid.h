@@ -46,6 +46,8 @@ public:
     int FocusedCell() const { return m_selection.Focus(); }
     /// Selects one cell (and focuses it); -1 clears the selection.
     void SelectCell(int cell);
+    /// The first cell showing `code`, or -1.
+    int CellOf(std::uint16_t code) const;
     /// The cell under a viewport position, or -1.
     int CellAt(const QPoint& viewportPosition) const;
     /// The cell's rectangle in viewport coordinates.

@@ -12,6 +12,8 @@
 #include "Prompt.h"
 #include "ui_KanjiInfoDialog.h"
 
+#include <QPushButton>
+
 #include "LearnerEvent.h"
 
 #include <QDate>
@@ -304,6 +306,14 @@ void KanjiInfoDialog::OpenPart(std::uint16_t code)
     part.SetWords(m_words);
     if (part.SetCode(code))
         part.exec();
+}
+
+void KanjiInfoDialog::OfferShowInCategory()
+{
+    auto* show = new QPushButton(tr("&Show in its category"), this);
+    show->setObjectName(QStringLiteral("showInCategoryButton"));
+    m_ui->buttons->insertWidget(m_ui->buttons->indexOf(m_ui->closeButton), show);
+    connect(show, &QPushButton::clicked, this, [this] { done(ShowInCategory); });
 }
 
 void KanjiInfoDialog::SetNextReview(int dueDay, int today)

@@ -22,7 +22,7 @@ class KanjiInfoDialog;
 class KanjiInfoDialog : public QDialog {
     Q_OBJECT
 public:
-    enum Result { Cancelled = 2, Closed = 8 };
+    enum Result { Cancelled = 2, Closed = 8, ShowInCategory = 9 };
 
     KanjiInfoDialog(CharacterDatabase& database, Prompt& prompt, QWidget* parent = nullptr);
     ~KanjiInfoDialog() override;
@@ -38,6 +38,10 @@ public:
     /// Shows the other stroke orders KanjiVG records for the character, stroke by stroke (set
     /// before SetCode); not called, none are shown.
     void SetOtherOrders(bool on) { m_otherOrders = on; }
+
+    /// Adds "Show in its category", which ends the dialog with ShowInCategory (not called: no
+    /// such button, the dialog as it always was).
+    void OfferShowInCategory();
 
     /// Words shown at most.
     static constexpr std::size_t MaxWords = 5;

@@ -14,6 +14,7 @@ packages=(
     libpugixml-dev zlib1g-dev libsqlite3-dev
     googletest libgtest-dev libgmock-dev libbenchmark-dev
     fonts-ipafont-gothic kanjidic-xml edict
+    libzinnia-dev tegaki-zinnia-japanese
     clang
     xvfb xauth poppler-utils
     lintian desktop-file-utils appstream

@@ -2,6 +2,7 @@
 
 #include "Character.h"
 #include "CharacterDatabase.h"
+#include "GlyphRendering.h"
 #include "Lexicon.h"
 
 #include <QFont>
@@ -56,21 +57,10 @@ public:
     /// Stroke `k` of the form placed in `target`.
     QPainterPath StrokePath(const Form& form, std::uint16_t k, const QRectF& target) const
     {
-        auto place = [&](Point p) {
+        return StrokePathOf(form.GetStroke(k), [&](Point p) {
             return QPointF(target.left() + p.x * target.width() / form.Width(),
                 target.top() + p.y * target.height() / form.Height());
-        };
-        const Stroke& stroke = form.GetStroke(k);
-        QPainterPath path;
-        path.moveTo(place(stroke.Start()));
-        for (const Segment& s : stroke.Segments()) {
-            switch (s.Type()) {
-            case SegmentType::Line: path.lineTo(place(s.P1())); break;
-            case SegmentType::Bezier: path.cubicTo(place(s.P1()), place(s.P2()), place(s.P3())); break;
-            case SegmentType::Move: path.moveTo(place(s.P1())); break;
-            }
-        }
-        return path;
+        });
     }
 
     /// A square with the practice sheet's dashed cross through its middle.

@@ -34,7 +34,10 @@ AboutDialog::AboutDialog(UrlOpener open, QWidget* owner) : QDialog(owner)
            "CC BY-SA 4.0.\nThe character database is a derived work shared under CC BY-SA.")
             + QLatin1Char('\n')
             + tr("Words: EDICT, \u00A9 the Electronic Dictionary Research and Development Group, CC BY-SA 4.0; "
-                 "parts: KanjiVG."),
+                 "parts: KanjiVG.")
+            + QLatin1Char('\n')
+            + tr("Handwriting recognition: Zinnia, \u00A9 Taku Kudo, BSD; its Japanese model from the Tegaki "
+                 "project, LGPL-2.1+."),
         this);
     credits->setWordWrap(true);
     m_ok = new QPushButton(tr("OK"), this);

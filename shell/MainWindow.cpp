@@ -2,6 +2,7 @@
 
 #include "CategoryPage.h"
 #include "CategoryRules.h"
+#include "CharacterFinder.h"
 #include "ConfigException.h"
 #include "ConfigStore.h"
 #include "FirstPaint.h"
@@ -55,6 +56,13 @@ MainWindow::MainWindow(CharacterDatabase& database, LearnerSession& session, Pro
             [this, page](quint16 code, quint16 argument) { OnPageEvent(page, code, argument); }, Qt::DirectConnection);
     }
     new HistoryNotice(session, prompt, this);
+    m_finder = new CharacterFinder(database, prompt, session, *m_preferences, this);
+    connect(m_finder, &CharacterFinder::showInCategory, this, [this](std::uint16_t category, std::uint16_t code) {
+        m_category->ShowCategory(category);
+        ShowPage(m_category);
+        m_category->SelectCharacter(code);
+        activateWindow();
+    });
     InstallWindowKeys(this);
 }
 
@@ -80,6 +88,7 @@ void MainWindow::BuildMenu()
     file->addSeparator();
     add(file, tr("Exit"), "exitAction", &QWidget::close);
     QMenu* tools = menuBar()->addMenu(tr("&Tools"));
+    add(tools, tr("Find a character…"), "findAction", [this] { m_finder->Open(); })->setShortcut(QKeySequence::Find);
     // Progress and export need a learner: enabled only while one is open.
     m_learnerActions << add(tools, tr("Progress…"), "progressAction",
         [this] { m_progress.Open(m_session, m_preferences->Current().wordsAndParts, this); });

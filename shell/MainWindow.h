@@ -14,6 +14,7 @@
 
 class CategoryPage;
 class ReviewPage;
+class CharacterFinder;
 class WordsTestPage;
 class CharacterDatabase;
 class HomePage;
@@ -85,6 +86,7 @@ private:
     ReviewPage* m_review = nullptr;
     WordsTestPage* m_words = nullptr;
     QAction* m_sheetAction = nullptr;
+    CharacterFinder* m_finder = nullptr;
     std::unique_ptr<PreferencesEditor> m_preferences;
     std::unique_ptr<User> m_chosenAtStart;
     std::string m_managerChoice;

@@ -43,6 +43,10 @@ Die Zeichendatenbank ist ein abgeleitetes Werk unter CC BY-SA.</translation>
         <source>Words: EDICT, © the Electronic Dictionary Research and Development Group, CC BY-SA 4.0; parts: KanjiVG.</source>
         <translation>Wörter: EDICT, © Electronic Dictionary Research and Development Group, CC BY-SA 4.0; Bestandteile: KanjiVG.</translation>
     </message>
+    <message>
+        <source>Handwriting recognition: Zinnia, © Taku Kudo, BSD; its Japanese model from the Tegaki project, LGPL-2.1+.</source>
+        <translation>Handschrifterkennung: Zinnia, © Taku Kudo, BSD; sein japanisches Modell aus dem Tegaki-Projekt, LGPL-2.1+.</translation>
+    </message>
 </context>
 <context>
     <name>AddUserDialog</name>
@@ -260,6 +264,69 @@ Möchten Sie einen Minidump davon erhalten?</translation>
     </message>
 </context>
 <context>
+    <name>FindCharacterWindow</name>
+    <message>
+        <source>Find a character</source>
+        <translation>Zeichen finden</translation>
+    </message>
+    <message>
+        <source>&amp;Type a character, a reading in kana or an English word:</source>
+        <translation>&amp;Tippen Sie ein Zeichen, eine Lesung in Kana oder ein englisches Wort:</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suche</translation>
+    </message>
+    <message>
+        <source>Or write it:</source>
+        <translation>Oder schreiben Sie es:</translation>
+    </message>
+    <message>
+        <source>Write the character here</source>
+        <translation>Schreiben Sie das Zeichen hier</translation>
+    </message>
+    <message>
+        <source>Reading the handwriting model…</source>
+        <translation>Das Handschriftmodell wird gelesen…</translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Characters found</source>
+        <translation>Gefundene Zeichen</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>Readings</source>
+        <translation>Lesungen</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>Bedeutung</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Kategorie</translation>
+    </message>
+    <message>
+        <source>Writing needs the words and parts file (lexicon) beside the database.</source>
+        <translation>Zum Schreiben wird die Datei der Wörter und Bestandteile (lexicon) neben der Datenbank gebraucht.</translation>
+    </message>
+    <message>
+        <source>The handwriting model is not installed (Debian package tegaki-zinnia-japanese): characters are found from Zavoren!&apos;s own strokes only, written in their stroke order.</source>
+        <translation>Das Handschriftmodell ist nicht installiert (Debian-Paket tegaki-zinnia-japanese): Zeichen werden nur aus Zavoren!s eigenen Strichen gefunden, in ihrer Strichfolge geschrieben.</translation>
+    </message>
+</context>
+<context>
     <name>HistoryNotice</name>
     <message>
         <source>Learning history</source>
@@ -413,6 +480,10 @@ Möchten Sie einen Minidump davon erhalten?</translation>
     <message>
         <source>Another stroke order, shown stroke by stroke</source>
         <translation>Eine andere Strichfolge, Strich für Strich gezeigt</translation>
+    </message>
+    <message>
+        <source>&amp;Show in its category</source>
+        <translation>In der Kategorie &amp;zeigen</translation>
     </message>
 </context>
 <context>
@@ -589,6 +660,10 @@ Ja ersetzt ihn; Nein importiert den Lernenden unter einem anderen Namen.</transl
     <message>
         <source>Print practice sheet…</source>
         <translation>Übungsblatt drucken…</translation>
+    </message>
+    <message>
+        <source>Find a character…</source>
+        <translation>Zeichen finden…</translation>
     </message>
 </context>
 <context>

@@ -43,6 +43,10 @@ La base de caracteres es una obra derivada compartida bajo CC BY-SA.</translatio
         <source>Words: EDICT, © the Electronic Dictionary Research and Development Group, CC BY-SA 4.0; parts: KanjiVG.</source>
         <translation>Palabras: EDICT, © Electronic Dictionary Research and Development Group, CC BY-SA 4.0; componentes: KanjiVG.</translation>
     </message>
+    <message>
+        <source>Handwriting recognition: Zinnia, © Taku Kudo, BSD; its Japanese model from the Tegaki project, LGPL-2.1+.</source>
+        <translation>Reconocimiento de escritura: Zinnia, © Taku Kudo, BSD; su modelo japonés, del proyecto Tegaki, LGPL-2.1+.</translation>
+    </message>
 </context>
 <context>
     <name>AddUserDialog</name>
@@ -260,6 +264,69 @@ Error fatal en Zavoren.<byte value="xd"/>
     </message>
 </context>
 <context>
+    <name>FindCharacterWindow</name>
+    <message>
+        <source>Find a character</source>
+        <translation>Buscar un carácter</translation>
+    </message>
+    <message>
+        <source>&amp;Type a character, a reading in kana or an English word:</source>
+        <translation>&amp;Escriba un carácter, una lectura en kana o una palabra inglesa:</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Búsqueda</translation>
+    </message>
+    <message>
+        <source>Or write it:</source>
+        <translation>O escríbalo:</translation>
+    </message>
+    <message>
+        <source>Write the character here</source>
+        <translation>Escriba el carácter aquí</translation>
+    </message>
+    <message>
+        <source>Reading the handwriting model…</source>
+        <translation>Leyendo el modelo de escritura…</translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>&amp;Borrar</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>Characters found</source>
+        <translation>Caracteres encontrados</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>Carácter</translation>
+    </message>
+    <message>
+        <source>Readings</source>
+        <translation>Lecturas</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>Significado</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Categoría</translation>
+    </message>
+    <message>
+        <source>Writing needs the words and parts file (lexicon) beside the database.</source>
+        <translation>Escribir necesita el archivo de palabras y partes (lexicon) junto a la base de datos.</translation>
+    </message>
+    <message>
+        <source>The handwriting model is not installed (Debian package tegaki-zinnia-japanese): characters are found from Zavoren!&apos;s own strokes only, written in their stroke order.</source>
+        <translation>El modelo de escritura no está instalado (paquete Debian tegaki-zinnia-japanese): los caracteres se buscan solo con los trazos propios de Zavoren!, escritos en su orden.</translation>
+    </message>
+</context>
+<context>
     <name>HistoryNotice</name>
     <message>
         <source>Learning history</source>
@@ -413,6 +480,10 @@ Error fatal en Zavoren.<byte value="xd"/>
     <message>
         <source>Another stroke order, shown stroke by stroke</source>
         <translation>Otro orden de trazos, mostrado trazo a trazo</translation>
+    </message>
+    <message>
+        <source>&amp;Show in its category</source>
+        <translation>&amp;Ver en su categoría</translation>
     </message>
 </context>
 <context>
@@ -589,6 +660,10 @@ Sí lo sustituye; No importa al alumno con otro nombre.</translation>
     <message>
         <source>Print practice sheet…</source>
         <translation>Imprimir hoja de práctica…</translation>
+    </message>
+    <message>
+        <source>Find a character…</source>
+        <translation>Buscar un carácter…</translation>
     </message>
 </context>
 <context>

@@ -43,6 +43,10 @@ La base de caractères est une œuvre dérivée partagée sous CC BY-SA.</transl
         <source>Words: EDICT, © the Electronic Dictionary Research and Development Group, CC BY-SA 4.0; parts: KanjiVG.</source>
         <translation>Mots : EDICT, © Electronic Dictionary Research and Development Group, CC BY-SA 4.0 ; composants : KanjiVG.</translation>
     </message>
+    <message>
+        <source>Handwriting recognition: Zinnia, © Taku Kudo, BSD; its Japanese model from the Tegaki project, LGPL-2.1+.</source>
+        <translation>Reconnaissance de l’écriture : Zinnia, © Taku Kudo, BSD ; son modèle japonais vient du projet Tegaki, LGPL-2.1+.</translation>
+    </message>
 </context>
 <context>
     <name>AddUserDialog</name>
@@ -260,6 +264,69 @@ Voulez-vous en obtenir un minidump ?</translation>
     </message>
 </context>
 <context>
+    <name>FindCharacterWindow</name>
+    <message>
+        <source>Find a character</source>
+        <translation>Trouver un caractère</translation>
+    </message>
+    <message>
+        <source>&amp;Type a character, a reading in kana or an English word:</source>
+        <translation>&amp;Saisissez un caractère, une lecture en kana ou un mot anglais :</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Recherche</translation>
+    </message>
+    <message>
+        <source>Or write it:</source>
+        <translation>Ou écrivez-le :</translation>
+    </message>
+    <message>
+        <source>Write the character here</source>
+        <translation>Écrivez le caractère ici</translation>
+    </message>
+    <message>
+        <source>Reading the handwriting model…</source>
+        <translation>Lecture du modèle d’écriture…</translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>&amp;Effacer</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler le trait</translation>
+    </message>
+    <message>
+        <source>Characters found</source>
+        <translation>Caractères trouvés</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>Caractère</translation>
+    </message>
+    <message>
+        <source>Readings</source>
+        <translation>Lectures</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>Sens</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Catégorie</translation>
+    </message>
+    <message>
+        <source>Writing needs the words and parts file (lexicon) beside the database.</source>
+        <translation>L’écriture demande le fichier des mots et des parties (lexicon) à côté de la base.</translation>
+    </message>
+    <message>
+        <source>The handwriting model is not installed (Debian package tegaki-zinnia-japanese): characters are found from Zavoren!&apos;s own strokes only, written in their stroke order.</source>
+        <translation>Le modèle d’écriture n’est pas installé (paquet Debian tegaki-zinnia-japanese) : les caractères sont trouvés d’après les seuls traits de Zavoren!, écrits dans leur ordre.</translation>
+    </message>
+</context>
+<context>
     <name>HistoryNotice</name>
     <message>
         <source>Learning history</source>
@@ -413,6 +480,10 @@ Voulez-vous en obtenir un minidump ?</translation>
     <message>
         <source>Another stroke order, shown stroke by stroke</source>
         <translation>Un autre ordre des traits, montré trait par trait</translation>
+    </message>
+    <message>
+        <source>&amp;Show in its category</source>
+        <translation>&amp;Voir dans sa catégorie</translation>
     </message>
 </context>
 <context>
@@ -589,6 +660,10 @@ Oui le remplace ; Non importe l’apprenant sous un autre nom.</translation>
     <message>
         <source>Print practice sheet…</source>
         <translation>Imprimer une feuille d’exercices…</translation>
+    </message>
+    <message>
+        <source>Find a character…</source>
+        <translation>Trouver un caractère…</translation>
     </message>
 </context>
 <context>

@@ -43,6 +43,10 @@ A base de caracteres é uma obra derivada compartilhada sob CC BY-SA.</translati
         <source>Words: EDICT, © the Electronic Dictionary Research and Development Group, CC BY-SA 4.0; parts: KanjiVG.</source>
         <translation>Palavras: EDICT, © Electronic Dictionary Research and Development Group, CC BY-SA 4.0; componentes: KanjiVG.</translation>
     </message>
+    <message>
+        <source>Handwriting recognition: Zinnia, © Taku Kudo, BSD; its Japanese model from the Tegaki project, LGPL-2.1+.</source>
+        <translation>Reconhecimento de escrita: Zinnia, © Taku Kudo, BSD; seu modelo japonês, do projeto Tegaki, LGPL-2.1+.</translation>
+    </message>
 </context>
 <context>
     <name>AddUserDialog</name>
@@ -260,6 +264,69 @@ Deseja obter um minidump?</translation>
     </message>
 </context>
 <context>
+    <name>FindCharacterWindow</name>
+    <message>
+        <source>Find a character</source>
+        <translation>Encontrar um caractere</translation>
+    </message>
+    <message>
+        <source>&amp;Type a character, a reading in kana or an English word:</source>
+        <translation>Di&amp;gite um caractere, uma leitura em kana ou uma palavra em inglês:</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Busca</translation>
+    </message>
+    <message>
+        <source>Or write it:</source>
+        <translation>Ou escreva-o:</translation>
+    </message>
+    <message>
+        <source>Write the character here</source>
+        <translation>Escreva o caractere aqui</translation>
+    </message>
+    <message>
+        <source>Reading the handwriting model…</source>
+        <translation>Lendo o modelo de escrita…</translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>&amp;Limpar</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Desfazer</translation>
+    </message>
+    <message>
+        <source>Characters found</source>
+        <translation>Caracteres encontrados</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>Caractere</translation>
+    </message>
+    <message>
+        <source>Readings</source>
+        <translation>Leituras</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>Significado</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Categoria</translation>
+    </message>
+    <message>
+        <source>Writing needs the words and parts file (lexicon) beside the database.</source>
+        <translation>Escrever precisa do arquivo de palavras e partes (lexicon) ao lado do banco de dados.</translation>
+    </message>
+    <message>
+        <source>The handwriting model is not installed (Debian package tegaki-zinnia-japanese): characters are found from Zavoren!&apos;s own strokes only, written in their stroke order.</source>
+        <translation>O modelo de escrita não está instalado (pacote Debian tegaki-zinnia-japanese): os caracteres são encontrados só pelos traços do próprio Zavoren!, escritos na sua ordem.</translation>
+    </message>
+</context>
+<context>
     <name>HistoryNotice</name>
     <message>
         <source>Learning history</source>
@@ -413,6 +480,10 @@ Deseja obter um minidump?</translation>
     <message>
         <source>Another stroke order, shown stroke by stroke</source>
         <translation>Outra ordem de traços, mostrada traço a traço</translation>
+    </message>
+    <message>
+        <source>&amp;Show in its category</source>
+        <translation>&amp;Ver na sua categoria</translation>
     </message>
 </context>
 <context>
@@ -589,6 +660,10 @@ Sim substitui; Não importa o aluno com outro nome.</translation>
     <message>
         <source>Print practice sheet…</source>
         <translation>Imprimir folha de prática…</translation>
+    </message>
+    <message>
+        <source>Find a character…</source>
+        <translation>Encontrar um caractere…</translation>
     </message>
 </context>
 <context>

@@ -43,6 +43,10 @@ The character database is a derived work shared under CC BY-SA.</source>
         <source>Words: EDICT, © the Electronic Dictionary Research and Development Group, CC BY-SA 4.0; parts: KanjiVG.</source>
         <translation>Слова: EDICT, © Electronic Dictionary Research and Development Group, CC BY-SA 4.0; части: KanjiVG.</translation>
     </message>
+    <message>
+        <source>Handwriting recognition: Zinnia, © Taku Kudo, BSD; its Japanese model from the Tegaki project, LGPL-2.1+.</source>
+        <translation>Распознавание почерка: Zinnia, © Taku Kudo, BSD; японская модель проекта Tegaki, LGPL-2.1+.</translation>
+    </message>
 </context>
 <context>
     <name>AddUserDialog</name>
@@ -260,6 +264,69 @@ Do you want to get minidump for it?</source>
     </message>
 </context>
 <context>
+    <name>FindCharacterWindow</name>
+    <message>
+        <source>Find a character</source>
+        <translation>Найти знак</translation>
+    </message>
+    <message>
+        <source>&amp;Type a character, a reading in kana or an English word:</source>
+        <translation>&amp;Введите знак, чтение каной или английское слово:</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <source>Or write it:</source>
+        <translation>Или напишите его:</translation>
+    </message>
+    <message>
+        <source>Write the character here</source>
+        <translation>Напишите знак здесь</translation>
+    </message>
+    <message>
+        <source>Reading the handwriting model…</source>
+        <translation>Чтение модели почерка…</translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>&amp;Очистить</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Отменить</translation>
+    </message>
+    <message>
+        <source>Characters found</source>
+        <translation>Найденные знаки</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>Иероглиф</translation>
+    </message>
+    <message>
+        <source>Readings</source>
+        <translation>Чтения</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>Значение</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Категория</translation>
+    </message>
+    <message>
+        <source>Writing needs the words and parts file (lexicon) beside the database.</source>
+        <translation>Для письма нужен файл слов и частей (lexicon) рядом с базой.</translation>
+    </message>
+    <message>
+        <source>The handwriting model is not installed (Debian package tegaki-zinnia-japanese): characters are found from Zavoren!&apos;s own strokes only, written in their stroke order.</source>
+        <translation>Модель почерка не установлена (пакет Debian tegaki-zinnia-japanese): знаки находятся только по собственным чертам Zavoren!, написанным в их порядке.</translation>
+    </message>
+</context>
+<context>
     <name>HistoryNotice</name>
     <message>
         <source>Learning history</source>
@@ -413,6 +480,10 @@ Do you want to get minidump for it?</source>
     <message>
         <source>Another stroke order, shown stroke by stroke</source>
         <translation>Другой порядок черт, показанный черта за чертой</translation>
+    </message>
+    <message>
+        <source>&amp;Show in its category</source>
+        <translation>&amp;Показать в категории</translation>
     </message>
 </context>
 <context>
@@ -589,6 +660,10 @@ Yes replaces it; No imports the learner under another name.</source>
     <message>
         <source>Print practice sheet…</source>
         <translation>Печать прописи…</translation>
+    </message>
+    <message>
+        <source>Find a character…</source>
+        <translation>Найти знак…</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,7 @@
 #include "StoreWithHistory.h"
 
 #include "FileCharacterDatabase.h"
+#include "DriverProcess.h"
 #include "StoreFiles.h"
 
 #include <gtest/gtest.h>
@@ -33,43 +34,6 @@ protected:
     fs::path m_dir;
 };
 
-/// Starts the driver on `path` with its output on a pipe; its process id, the pipe's read end
-/// in `output`.
-pid_t StartDriver(const fs::path& path, int& output)
-{
-    int pipeEnds[2];
-    if (::pipe(pipeEnds) != 0)
-        return -1;
-    const pid_t child = ::fork();
-    if (child == 0) {
-        ::dup2(pipeEnds[1], STDOUT_FILENO);
-        ::close(pipeEnds[0]);
-        ::close(pipeEnds[1]);
-        ::execl(HISTORY_KILL_DRIVER, HISTORY_KILL_DRIVER, path.c_str(), static_cast<char*>(nullptr));
-        ::_exit(127);
-    }
-    ::close(pipeEnds[1]);
-    output = pipeEnds[0];
-    return child;
-}
-
-/// Everything left to read on `fd`, then closes it.
-std::string ReadAll(int fd)
-{
-    std::string text;
-    char buffer[4096];
-    for (;;) {
-        const ssize_t n = ::read(fd, buffer, sizeof buffer);
-        if (n < 0 && errno == EINTR)
-            continue;
-        if (n <= 0)
-            break;
-        text.append(buffer, static_cast<std::size_t>(n));
-    }
-    ::close(fd);
-    return text;
-}
-
 /// The last whole number line of the driver's output: the actions committed (0 for none).
 long LastCommitted(const std::string& output)
 {
@@ -92,7 +56,7 @@ TEST_F(HistoryReliability, KilledAtAnyMomentEveryCommittedActionIsThereAndNothin
     int killedWithCommits = 0;
     for (int round = 0; round < 300; ++round) {
         int output = -1;
-        const pid_t driver = StartDriver(path, output);
+        const pid_t driver = StartDriver(HISTORY_KILL_DRIVER, path.string(), output);
         ASSERT_GT(driver, 0);
         // Every other round, once the driver has committed an action, within the next 3 ms: in
         // the middle of recording. The others at any moment of its first 25 ms: before the file

@@ -1,6 +1,7 @@
 // A review sitting killed at any moment: every answer it had recorded is in the history, a
 // forgotten character stays out of the learned list in config.xml, and both files open.
 
+#include "DriverProcess.h"
 #include "StoreFiles.h"
 #include "StoreWithHistory.h"
 
@@ -42,24 +43,6 @@ void WriteLearner(const fs::path& dir)
     ASSERT_TRUE(history->Record("Anna", events, error)) << error;
 }
 
-pid_t StartDriver(const fs::path& dir, int& output)
-{
-    int pipeEnds[2];
-    if (::pipe(pipeEnds) != 0)
-        return -1;
-    const pid_t child = ::fork();
-    if (child == 0) {
-        ::dup2(pipeEnds[1], STDOUT_FILENO);
-        ::close(pipeEnds[0]);
-        ::close(pipeEnds[1]);
-        ::execl(REVIEW_KILL_DRIVER, REVIEW_KILL_DRIVER, dir.c_str(), static_cast<char*>(nullptr));
-        ::_exit(127);
-    }
-    ::close(pipeEnds[1]);
-    output = pipeEnds[0];
-    return child;
-}
-
 /// Reads whole lines until `count` have come (or the pipe ends).
 std::string ReadLines(int fd, int count)
 {
@@ -69,16 +52,6 @@ std::string ReadLines(int fd, int count)
         text += c;
         lines += c == '\n';
     }
-    return text;
-}
-
-std::string ReadAll(int fd)
-{
-    std::string text;
-    char buffer[4096];
-    for (ssize_t n; (n = ::read(fd, buffer, sizeof buffer)) > 0;)
-        text.append(buffer, static_cast<std::size_t>(n));
-    ::close(fd);
     return text;
 }
 
@@ -93,7 +66,7 @@ TEST(ReviewReliability, KilledAtAnyMomentNothingAnsweredIsLost)
         WriteSmallDatabase(dir / "database", 1, Characters);
         WriteLearner(dir);
         int output = -1;
-        const pid_t driver = StartDriver(dir, output);
+        const pid_t driver = StartDriver(REVIEW_KILL_DRIVER, dir.string(), output);
         ASSERT_GT(driver, 0);
         // After a few answers, within the next 3 ms: in the middle of recording the next one.
         std::string announced = ReadLines(output, std::uniform_int_distribution<int>(1, 30)(random));

@@ -19,7 +19,7 @@ field() { dpkg-deb -f "$deb" "$1"; }
 [ "$(field Architecture)" = "$arch" ] || { echo "Architecture: $(field Architecture)"; exit 1; }
 [ "$(field Section)" = education ] || { echo "Section: $(field Section)"; exit 1; }
 depends=$(field Depends)
-for needed in libqt6core6 libqt6gui6 libqt6widgets6 libqt6printsupport6 libqt6charts6 libpugixml1v5 libsqlite3-0 fonts-ipafont-gothic qt6-qpa-plugins; do
+for needed in libqt6core6 libqt6gui6 libqt6widgets6 libqt6printsupport6 libqt6charts6 libpugixml1v5 libsqlite3-0 fonts-ipafont-gothic qt6-qpa-plugins libzinnia0 tegaki-zinnia-japanese; do
     case "$depends" in *"$needed"*) ;; *) echo "Depends lacks $needed: $depends"; exit 1 ;; esac
 done
 

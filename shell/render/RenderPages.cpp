@@ -14,6 +14,7 @@
 #include "CategoryPage.h"
 #include "DrawingTestPage.h"
 #include "FileCharacterDatabase.h"
+#include "FindCharacterWindow.h"
 #include "Flattening.h"
 #include "HistoryDatabase.h"
 #include "HomePage.h"
@@ -40,6 +41,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPalette>
 #include <QPushButton>
@@ -402,6 +404,23 @@ int main(int argc, char** argv)
             std::fprintf(stderr, "render_pages: no words test for Grade 1\n");
             ok = false;
         }
+        words.hide();
+
+        // Find a character: みず typed, then 水 written.
+        FindCharacterWindow find(db, prompt, session);
+        find.show();
+        ok &= QTest::qWaitForWindowExposed(&find);
+        find.WaitForModel();
+        Named<QLineEdit>(&find, "searchField")->setText(QStringLiteral("みず"));
+        ok &= Save(find, out, QStringLiteral("find-text"));
+        Named<QLineEdit>(&find, "searchField")->clear();
+        {
+            const std::uint16_t water = FindByMeaning(db, "water");
+            const auto element = db.LoadElement(db.LoadCharacter(water)->ElementId());
+            for (std::uint16_t k = 0; k < element->GetForm(0).StrokeCount(); ++k)
+                Write(Named<InputCanvas>(&find, "inputCanvas"), element->GetForm(0), k, 0);
+        }
+        ok &= Save(find, out, QStringLiteral("find-ink"));
     }
 
     ProgressWindow progress(db, prompt, learner, learner.History(), "2026-11-22T20:00:00+01:00", reviews);

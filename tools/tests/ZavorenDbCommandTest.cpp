@@ -360,3 +360,38 @@ TEST(ZavorenDb, WordsTestTakesFiveWordsOfLearnedKanjiForEverySeed)
     EXPECT_EQ(bad.exitCode, 1);
     EXPECT_NE(bad.output.find("--learned must be character ids"), std::string::npos) << bad.output;
 }
+
+TEST(ZavorenDb, FindListsCharactersByTextAndByRecordedInk)
+{
+    const std::string db = "find --db " + Standard + " --lexicon " + ZAVOREN_STANDARD_LEXICON;
+    // みず: 水 first, each line ID, character, ON, KUN, meaning.
+    Result r = RunTool(db + " --text みず");
+    ASSERT_EQ(r.exitCode, 0) << r.output;
+    std::istringstream lines(r.output);
+    std::string first;
+    std::getline(lines, first);
+    EXPECT_EQ(first, "43\t水\tスイ\tみず、みず-\twater");
+    // 水 written freehand (a recorded ink file), and 国 written beside the model: first of ten.
+    r = RunTool(db + " --ink " + ZAVOREN_TOOLS_TEST_DATA + "/water-freehand.json");
+    ASSERT_EQ(r.exitCode, 0) << r.output;
+    EXPECT_EQ(r.output.substr(0, r.output.find('\t')), "43");
+    EXPECT_EQ(std::count(r.output.begin(), r.output.end(), '\n'), 10);
+    r = RunTool(db + " --ink " + ZAVOREN_TOOLS_TEST_DATA + "/country-beside.json");
+    EXPECT_EQ(r.output.substr(0, r.output.find('\t')), "80") << r.output;
+    // Without the model (a model file that is not one), the tool says so.
+    r = RunTool(db + " --ink " + ZAVOREN_TOOLS_TEST_DATA + "/water-freehand.json --model " + Standard);
+    EXPECT_EQ(r.exitCode, 1);
+    EXPECT_NE(r.output.find(Standard + ": "), std::string::npos) << r.output;
+    // Neither or both of --text and --ink; an ink file that is not one.
+    r = RunTool(db);
+    EXPECT_EQ(r.exitCode, 1);
+    EXPECT_NE(r.output.find("find needs either --text or --ink"), std::string::npos) << r.output;
+    r = RunTool(db + " --text a --ink x.json");
+    EXPECT_EQ(r.exitCode, 1);
+    r = RunTool(db + " --ink " + Standard);
+    EXPECT_EQ(r.exitCode, 1);
+    // An empty result for a text nothing matches.
+    r = RunTool(db + " --text zzzqx");
+    EXPECT_EQ(r.exitCode, 0);
+    EXPECT_TRUE(r.output.empty()) << r.output;
+}
