@@ -17,12 +17,11 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPointer>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include <thread>
+#include <QThread>
 
 namespace {
 constexpr int CanvasSide = 220;
@@ -121,22 +120,25 @@ FindCharacterWindow::FindCharacterWindow(CharacterDatabase& database, Prompt& pr
         m_modelNote->setText(tr("Writing needs the words and parts file (lexicon) beside the database."));
         return;
     }
-    QPointer<FindCharacterWindow> self(this);
-    std::thread([self, modelPath] {
-        std::string error;
-        std::shared_ptr<HandwritingModel> model = HandwritingModel::Load(modelPath, error);
-        const QString why = QString::fromStdString(error);
-        QMetaObject::invokeMethod(
-            qApp,
-            [self, model, why] {
-                if (self)
-                    self->ModelRead(model, why);
-            },
-            Qt::QueuedConnection);
-    }).detach();
+    // The model is read on a thread of its own; the window takes it when the thread is done
+    // (and waits for it, should it close first).
+    auto result = std::make_shared<std::pair<std::shared_ptr<HandwritingModel>, std::string>>();
+    m_reader = QThread::create([result, modelPath] {
+        std::unique_ptr<HandwritingModel> model = HandwritingModel::Load(modelPath, result->second);
+        result->first = std::move(model);
+    });
+    connect(m_reader, &QThread::finished, this,
+        [this, result] { ModelRead(result->first, QString::fromStdString(result->second)); });
+    m_reader->start();
 }
 
-FindCharacterWindow::~FindCharacterWindow() = default;
+FindCharacterWindow::~FindCharacterWindow()
+{
+    if (m_reader) {
+        m_reader->wait();
+        delete m_reader;
+    }
+}
 
 void FindCharacterWindow::ModelRead(std::shared_ptr<HandwritingModel> model, const QString& error)
 {

@@ -17,6 +17,7 @@ class LearnerSession;
 class Prompt;
 class QLabel;
 class QLineEdit;
+class QThread;
 class QTreeWidget;
 
 /// "Find a character…": a window beside the main window with a search field and a writing
@@ -72,6 +73,7 @@ private:
     std::unique_ptr<InkRecognizer> m_ink;
     std::vector<StrokePath> m_strokes;
     bool m_modelPending = true;
+    QThread* m_reader = nullptr; ///< reads the model
     std::vector<std::uint16_t> m_categoryOf; ///< each id's first category, or 0xFFFF
     std::vector<QString> m_categoryNames;
 

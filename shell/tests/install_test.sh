@@ -7,10 +7,10 @@ trap 'rm -rf "$work"' EXIT
 prefix=$work/prefix
 cmake --install "$build" --prefix "$prefix" > "$work/install.log"
 
-for f in bin/zavoren bin/zavoren-db libexec/zavoren/zavoren libexec/zavoren/zavoren-progress.so share/zavoren/database share/zavoren/lexicon share/zavoren/Zavoren.html \
+for f in bin/zavoren bin/zavoren-db bin/zavoren-sheet libexec/zavoren/zavoren libexec/zavoren/zavoren-progress.so share/zavoren/database share/zavoren/lexicon share/zavoren/Zavoren.html \
          share/applications/io.github.zavoren.Zavoren.desktop share/metainfo/io.github.zavoren.Zavoren.metainfo.xml \
          share/icons/hicolor/64x64/apps/io.github.zavoren.Zavoren.png share/icons/hicolor/scalable/apps/io.github.zavoren.Zavoren.svg \
-         share/man/man1/zavoren.1.gz share/man/man1/zavoren-db.1.gz share/doc/zavoren/copyright share/doc/zavoren/changelog.gz; do
+         share/man/man1/zavoren.1.gz share/man/man1/zavoren-db.1.gz share/man/man1/zavoren-sheet.1.gz share/doc/zavoren/copyright share/doc/zavoren/changelog.gz; do
     [ -e "$prefix/$f" ] || { echo "missing after install: $f"; exit 1; }
 done
 "$prefix/bin/zavoren-db" info "$prefix/share/zavoren/database" > /dev/null
@@ -19,6 +19,14 @@ for database in database database-fr database-es database-pt; do
     parts=$("$prefix/bin/zavoren-db" words --db "$prefix/share/zavoren/$database" --lexicon "$prefix/share/zavoren/lexicon" --char 104 | head -n 1)
     [ "$parts" = "$(printf 'parts\t日 月')" ] || { echo "lexicon and $database: $parts"; exit 1; }
 done
+# 水 written freehand (a recorded ink file) is found first by the installed recognizer, with
+# Debian's handwriting model; a practice sheet of three characters is written as a PDF.
+water=$("$prefix/bin/zavoren-db" find --db "$prefix/share/zavoren/database" \
+    --ink "$(dirname "$0")/../../tools/tests/data/water-freehand.json" | head -n 1)
+[ "${water%%$'\t'*}" = 43 ] || { echo "water written is not found first: $water"; exit 1; }
+"$prefix/bin/zavoren-sheet" --db "$prefix/share/zavoren/database" --chars 0,1,2 --out "$work/sheet.pdf" \
+    --lexicon "$prefix/share/zavoren/lexicon" > /dev/null 2>&1
+[ -s "$work/sheet.pdf" ] || { echo "zavoren-sheet wrote no PDF"; exit 1; }
 # The progress window's module finds every library it needs.
 if ldd "$prefix/libexec/zavoren/zavoren-progress.so" | grep -q 'not found'; then
     echo "the progress module misses libraries"; ldd "$prefix/libexec/zavoren/zavoren-progress.so"; exit 1
