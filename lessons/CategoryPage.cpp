@@ -77,8 +77,8 @@ CategoryPage::CategoryPage(CharacterDatabase& database, Prompt& prompt, SeedSour
     m_wordsButton->hide();
     m_ui->buttons->insertWidget(m_ui->buttons->indexOf(ForgetButton()) + 1, m_wordsButton);
     connect(m_wordsButton, &QPushButton::clicked, this, [this] {
-        if (m_wordsButton->isEnabled())
-            emit pageEvent(Words, 0);
+        if (m_wordsButton->isEnabled() && m_category)
+            emit pageEvent(Words, m_category->Id());
     });
     RefreshButtons();
 }
@@ -265,6 +265,14 @@ bool CategoryPage::SelectCharacter(std::uint16_t code)
     Grid()->SelectCell(cell);
     Grid()->setFocus();
     return true;
+}
+
+void CategoryPage::RevealCharacter(std::uint16_t categoryId, std::uint16_t code)
+{
+    if (!ShowCategory(categoryId))
+        return;
+    SelectCharacter(code);
+    emit pageEvent(Reveal, code);
 }
 
 std::vector<std::uint16_t> CategoryPage::SelectedCharacters() const

@@ -31,11 +31,12 @@ class CategoryPage;
 
 /// One category for the current learner: all its characters in the groups "Learned Kanji" and
 /// "Kanji to be Learned", and the strip of untested characters. Events: 0 Lesson, 1 Learn (with
-/// the character's code), 2 Test (also after Retest), 3 Back, 4 Words (the words test).
+/// the character's code), 2 Test (also after Retest), 3 Back, 4 Words (the words test of the category, its id), 5 Reveal
+/// (a character was asked for from elsewhere: the page is to be shown, with it selected).
 class CategoryPage : public Page {
     Q_OBJECT
 public:
-    enum Event : quint16 { Lesson = 0, Learn = 1, Test = 2, Back = 3, Words = 4 };
+    enum Event : quint16 { Lesson = 0, Learn = 1, Test = 2, Back = 3, Words = 4, Reveal = 5 };
     enum Group { LearnedGroup = 0, ToBeLearnedGroup = 1 };
 
     /// Messages go through `prompt`; random draws are seeded from `seeds`.
@@ -82,6 +83,8 @@ public:
     /// Selects the character in the grid (and gives the grid the keyboard): Learn, Info and the
     /// menus act on it. False when the category shown does not have it.
     bool SelectCharacter(std::uint16_t code);
+    /// Shows the category with the character selected and asks to be shown (Reveal).
+    void RevealCharacter(std::uint16_t categoryId, std::uint16_t code);
     /// The characters selected in the grid, or else in the strip: what a practice sheet prints.
     std::vector<std::uint16_t> SelectedCharacters() const;
     /// Opens the Kanji Info dialog for the first selected character of `grid` (modal).

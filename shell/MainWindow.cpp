@@ -2,7 +2,6 @@
 
 #include "CategoryPage.h"
 #include "CategoryRules.h"
-#include "CharacterFinder.h"
 #include "ConfigException.h"
 #include "ConfigStore.h"
 #include "FirstPaint.h"
@@ -11,11 +10,11 @@
 #include "HomePage.h"
 #include "LearnerSession.h"
 #include "LearnerTransfer.h"
+#include "LearnerWindows.h"
 #include "LessonPage.h"
 #include "PageStack.h"
-#include "PracticeSheetDialog.h"
-#include "ReviewPage.h"
 #include "Prompt.h"
+#include "ReviewPage.h"
 #include "ScreenPlacement.h"
 #include "StoredPicture.h"
 #include "TestContainer.h"
@@ -56,13 +55,7 @@ MainWindow::MainWindow(CharacterDatabase& database, LearnerSession& session, Pro
             [this, page](quint16 code, quint16 argument) { OnPageEvent(page, code, argument); }, Qt::DirectConnection);
     }
     new HistoryNotice(session, prompt, this);
-    m_finder = new CharacterFinder(database, prompt, session, *m_preferences, this);
-    connect(m_finder, &CharacterFinder::showInCategory, this, [this](std::uint16_t category, std::uint16_t code) {
-        m_category->ShowCategory(category);
-        ShowPage(m_category);
-        m_category->SelectCharacter(code);
-        activateWindow();
-    });
+    m_windows = new LearnerWindows(database, prompt, session, *m_preferences, {*m_pages, *m_home, *m_category}, this);
     InstallWindowKeys(this);
 }
 
@@ -76,19 +69,14 @@ void MainWindow::BuildMenu()
     QMenu* file = menuBar()->addMenu(tr("&File"));
     add(file, tr("Users"), "usersAction", &MainWindow::ChooseLearner);
     file->addSeparator();
-    // The category page's selection, or the next lesson of the category selected at home.
-    m_learnerActions << (m_sheetAction = add(file, tr("Print practice sheet…"), "sheetAction", [this] {
-        PracticeSheetDialog::Open(m_database, m_preferences->Current().wordsAndParts ? &m_session.Lexicon() : nullptr,
-            m_prompt,
-            m_pages->Shown() == m_category
-                ? m_category->SelectedCharacters()
-                : PracticeSheetDialog::NextLesson(m_database, m_session.Learner(), m_home->SelectedCategory()),
-            this);
-    }));
+    m_learnerActions << (m_sheetAction
+        = add(file, tr("Print practice sheet…"), "sheetAction", [this] { m_windows->PrintSheet(); }));
     file->addSeparator();
     add(file, tr("Exit"), "exitAction", &QWidget::close);
     QMenu* tools = menuBar()->addMenu(tr("&Tools"));
-    add(tools, tr("Find a character…"), "findAction", [this] { m_finder->Open(); })->setShortcut(QKeySequence::Find);
+    add(tools, tr("Find a character…"), "findAction", [this] {
+        m_windows->FindCharacter();
+    })->setShortcut(QKeySequence::Find);
     // Progress and export need a learner: enabled only while one is open.
     m_learnerActions << add(tools, tr("Progress…"), "progressAction",
         [this] { m_progress.Open(m_session, m_preferences->Current().wordsAndParts, this); });
@@ -238,20 +226,19 @@ void MainWindow::OnPageEvent(Page* page, quint16 code, quint16 argument)
         ShowPage(m_category);
     } else if (page == m_home && code == HomePage::Review) {
         ShowPage(m_review->Start() ? static_cast<Page*>(m_review) : m_home);
-    } else if (page == m_review) {
-        ShowPage(m_home);
-    } else if (page == m_words) {
-        ShowPage(m_category);
+    } else if (page == m_review || page == m_words) { // over: back to where each was opened from
+        ShowPage(page == m_review ? static_cast<Page*>(m_home) : m_category);
     } else if (page == m_category) {
         switch (code) {
         case CategoryPage::Lesson: m_lesson->StartLesson(m_category->PickLessonCharacters(LessonSize)); break;
         case CategoryPage::Learn: m_lesson->StartLesson({argument}); break;
         case CategoryPage::Test: m_test->StartTest(m_category->TestCharacters()); break;
         case CategoryPage::Back: ShowPage(m_home); return;
-        case CategoryPage::Words:
-            if (m_category->CategoryId() && m_words->Start(*m_category->CategoryId()))
-                ShowPage(m_words);
+        case CategoryPage::Reveal:
+            ShowPage(m_category);
+            activateWindow();
             return;
+        case CategoryPage::Words: ShowPage(m_words->Start(argument) ? static_cast<Page*>(m_words) : m_category); return;
         }
         ShowPage(code == CategoryPage::Test ? static_cast<Page*>(m_test) : m_lesson);
     } else if (page == m_lesson && (code == LessonPage::Finished || code == LessonPage::Aborted)) {

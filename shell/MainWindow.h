@@ -14,7 +14,7 @@
 
 class CategoryPage;
 class ReviewPage;
-class CharacterFinder;
+class LearnerWindows;
 class WordsTestPage;
 class CharacterDatabase;
 class HomePage;
@@ -86,7 +86,7 @@ private:
     ReviewPage* m_review = nullptr;
     WordsTestPage* m_words = nullptr;
     QAction* m_sheetAction = nullptr;
-    CharacterFinder* m_finder = nullptr;
+    LearnerWindows* m_windows = nullptr;
     std::unique_ptr<PreferencesEditor> m_preferences;
     std::unique_ptr<User> m_chosenAtStart;
     std::string m_managerChoice;

@@ -28,6 +28,18 @@ bool PreferencesEditor::Edit(QWidget* parent)
     return true;
 }
 
+WordContext PreferencesEditor::Words() const
+{
+    WordContext context;
+    LearnerSession* session = m_targets.session;
+    if (session && m_current.wordsAndParts) {
+        context.lexicon = &session->Lexicon();
+        // Read when Kanji Info opens, so it follows the learner open then.
+        context.learned = [session](std::uint16_t id) { return session->HasLearned(id); };
+    }
+    return context;
+}
+
 void PreferencesEditor::Apply(const CoachingPreferences& preferences)
 {
     m_current = preferences;
@@ -51,12 +63,7 @@ void PreferencesEditor::Apply(const CoachingPreferences& preferences)
     LearnerSession* session = m_targets.session;
     if (!session)
         return;
-    WordContext context;
-    if (preferences.wordsAndParts) {
-        context.lexicon = &session->Lexicon();
-        // Read when Kanji Info opens, so it follows the learner open then.
-        context.learned = [session](std::uint16_t id) { return session->HasLearned(id); };
-    }
+    WordContext context = Words();
     if (m_targets.review) {
         m_targets.review->SetWords(context);
         m_targets.review->SetOtherOrders(preferences.otherOrders);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoachingPreferences.h"
+#include "LexiconAccess.h"
 #include "ProgramSettings.h"
 
 class CategoryPage;
@@ -32,6 +33,9 @@ public:
     explicit PreferencesEditor(PreferenceTargets targets);
 
     const CoachingPreferences& Current() const { return m_current; }
+    /// What Kanji Info shows of words and parts under the current aids: the session's lexicon
+    /// and the open learner's characters, or nothing with the aid off.
+    WordContext Words() const;
     /// Tools > Preferences…: the dialog over `parent`; what is chosen is stored and applied.
     /// False when it was cancelled.
     bool Edit(QWidget* parent);

@@ -3,7 +3,7 @@
 // Grade 1's page; the window without the handwriting model.
 
 #include "CategoryPage.h"
-#include "CharacterFinder.h"
+#include "LearnerWindows.h"
 #include "CharacterGrid.h"
 #include "FindCharacterWindow.h"
 #include "KanjiInfoDialog.h"
@@ -57,7 +57,7 @@ private slots:
         f.Window().activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&f.Window()));
         QTest::keyClick(ChildOf<HomePage>(f.Window()), Qt::Key_F, Qt::ControlModifier);
-        FindCharacterWindow* window = f.Window().findChild<CharacterFinder*>()->Window();
+        FindCharacterWindow* window = f.Window().findChild<LearnerWindows*>()->Finder();
         QVERIFY(window && window->isVisible());
         QVERIFY(window->parent() == nullptr); // a window of its own, beside the main window
         // Typed through the input method, as Japanese is: 水 first.
