@@ -4,10 +4,12 @@
 #include "CharacterGrid.h"
 #include "ConfigException.h"
 #include "DatabaseLoadException.h"
+#include "DrawingTestPage.h"
 #include "GlyphLoading.h"
 #include "KanjiInfoDialog.h"
 #include "LearnerSession.h"
 #include "Prompt.h"
+#include "ReadingTestPage.h"
 #include "SessionRecorder.h"
 #include "TestContainer.h"
 #include "TestSchedule.h"
@@ -24,7 +26,8 @@
 
 ReviewPage::ReviewPage(
     CharacterDatabase& database, Prompt& prompt, SeedSource seeds, LearnerSession& session, QWidget* parent)
-    : Page(parent), m_database(database), m_prompt(prompt), m_session(session), m_glyphs(database)
+    : Page(parent), m_database(database), m_prompt(prompt), m_seeds(std::move(seeds)), m_session(session),
+      m_glyphs(database)
 {
     setWindowTitle(tr("Review"));
     auto* column = new QVBoxLayout(this);
@@ -43,19 +46,42 @@ ReviewPage::ReviewPage(
     column->addLayout(where);
 
     m_stack = new QStackedWidget(this);
-    m_test = new TestContainer(database, prompt, std::move(seeds), m_stack);
-    m_test->layout()->setContentsMargins(0, 0, 0, 0);
-    connect(m_test, &Page::pageEvent, this, [this](quint16 code, quint16) { OnTestEvent(code); });
-    m_stack->addWidget(m_test);
     BuildSummary();
     m_stack->addWidget(m_summary);
     column->addWidget(m_stack);
-    setFocusProxy(m_test);
     // Another learner's sitting is not this one's.
     connect(&session, &LearnerSession::learnerChanged, this, [this] {
         m_sitting = ReviewSitting();
-        m_test->StartTest({});
+        if (m_test)
+            m_test->StartTest({});
     });
+}
+
+void ReviewPage::MakeTest()
+{
+    // Made for the first sitting, not with the main window: a start pays nothing for it.
+    if (m_test)
+        return;
+    m_test = new TestContainer(m_database, m_prompt, m_seeds, m_stack);
+    m_test->layout()->setContentsMargins(0, 0, 0, 0);
+    m_test->DrawingPage()->SetCoaching(m_coaching);
+    m_test->ReadingPage()->SetWordAid(m_wordAid);
+    connect(m_test, &Page::pageEvent, this, [this](quint16 code, quint16) { OnTestEvent(code); });
+    m_stack->insertWidget(0, m_test);
+}
+
+void ReviewPage::SetCoaching(const CoachingPreferences& preferences)
+{
+    m_coaching = preferences;
+    if (m_test)
+        m_test->DrawingPage()->SetCoaching(preferences);
+}
+
+void ReviewPage::SetWordAid(LexiconAccess* lexicon)
+{
+    m_wordAid = lexicon;
+    if (m_test)
+        m_test->ReadingPage()->SetWordAid(lexicon);
 }
 
 ReviewPage::~ReviewPage() = default;
@@ -122,6 +148,7 @@ bool ReviewPage::Start()
     m_sitting = ReviewSitting(
         reviews ? ReviewSitting::DueList(*reviews, static_cast<std::size_t>(m_size)) : std::vector<ReviewSitting::Item>{});
     m_bar->setRange(0, static_cast<int>(m_sitting.Items().size()));
+    MakeTest();
     m_stack->setCurrentWidget(m_test);
     setFocusProxy(m_test);
     if (m_sitting.Items().empty()) {
@@ -165,6 +192,8 @@ void ReviewPage::AskCurrent()
 bool ReviewPage::RecordCurrent()
 {
     const std::optional<ReviewSitting::Item> item = m_sitting.Current();
+    if (!m_test)
+        return false;
     const TestSchedule& schedule = m_test->Schedule();
     if (!item || schedule.Codes().size() != 1 || schedule.Codes().front() != item->id
         || schedule.Status(0) == TestSchedule::State::Open)
@@ -188,7 +217,8 @@ void ReviewPage::OnTestEvent(quint16 code)
         return;
     }
     // Finished with the last one, or stopped: what was answered is kept, the rest stays due.
-    m_test->StartTest({});
+    if (m_test)
+        m_test->StartTest({});
     if (m_sitting.AnsweredCount() == 0) {
         emit pageEvent(Back, 0);
         return;

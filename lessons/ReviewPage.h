@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CoachingPreferences.h"
 #include "LexiconAccess.h"
 #include "GlyphLoading.h"
 #include "Page.h"
@@ -37,6 +38,9 @@ public:
 
     /// How many characters a sitting takes at most, and whether the readings are left out.
     void SetSitting(int size, bool writingOnly);
+    /// The writing aids of the drawing question; the word shown after a reading (null: none).
+    void SetCoaching(const CoachingPreferences& preferences);
+    void SetWordAid(LexiconAccess* lexicon);
     /// Kanji Info of a forgotten character shows the words and parts of `context`.
     void SetWords(WordContext context) { m_words = std::move(context); }
     /// Kanji Info shows the other stroke orders of a character.
@@ -46,7 +50,7 @@ public:
     bool Start();
 
     const ReviewSitting& Sitting() const { return m_sitting; }
-    /// The test that asks the questions of the character reviewed.
+    /// The test that asks the questions of the character reviewed (made by the first Start).
     TestContainer* Test() const { return m_test; }
     /// Whether the summary is shown.
     bool ShowsSummary() const;
@@ -55,6 +59,7 @@ protected:
     void Cancel() override;
 
 private:
+    void MakeTest();
     void AskCurrent();
     void OnTestEvent(quint16 code);
     /// Records the character asked when its test is decided; returns whether it was.
@@ -66,7 +71,10 @@ private:
 
     CharacterDatabase& m_database;
     Prompt& m_prompt;
+    SeedSource m_seeds;
     LearnerSession& m_session;
+    CoachingPreferences m_coaching;
+    LexiconAccess* m_wordAid = nullptr;
     int m_size = ReviewSitting::DefaultSize;
     bool m_writingOnly = false;
     WordContext m_words;

@@ -47,13 +47,12 @@ void PreferencesEditor::Apply(const CoachingPreferences& preferences)
     if (m_targets.lesson)
         m_targets.lesson->SetCoaching(preferences);
     // The tests of a category and of a review sitting ask alike.
-    const std::initializer_list<TestContainer*> tests{
-        m_targets.test, m_targets.review ? m_targets.review->Test() : nullptr};
-    for (TestContainer* test : tests)
-        if (test)
-            test->DrawingPage()->SetCoaching(preferences);
-    if (m_targets.review)
+    if (m_targets.test)
+        m_targets.test->DrawingPage()->SetCoaching(preferences);
+    if (m_targets.review) {
+        m_targets.review->SetCoaching(preferences);
         m_targets.review->SetSitting(preferences.reviewsPerSitting, preferences.reviewWritingOnly);
+    }
     if (m_targets.words)
         m_targets.words->SetCoaching(preferences);
     if (m_targets.sheetAction)
@@ -81,9 +80,11 @@ void PreferencesEditor::Apply(const CoachingPreferences& preferences)
         else
             m_targets.category->SetWordsTest(nullptr);
     }
-    for (TestContainer* test : tests)
-        if (test)
-            test->ReadingPage()->SetWordAid(preferences.wordAfterAnswer ? &session->Lexicon() : nullptr);
+    LexiconAccess* wordAid = preferences.wordAfterAnswer ? &session->Lexicon() : nullptr;
+    if (m_targets.test)
+        m_targets.test->ReadingPage()->SetWordAid(wordAid);
+    if (m_targets.review)
+        m_targets.review->SetWordAid(wordAid);
     // The reviews follow the new schedule at once.
     session->SetReviewRules({preferences.reviewWhenDue, preferences.retention, preferences.maximumInterval});
 }
